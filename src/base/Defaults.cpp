@@ -1,0 +1,72 @@
+#include "base/Defaults.h"
+
+#include <cmath>
+
+namespace {
+
+bool isInteger(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+        return true;
+    case QMetaType::Double: {
+        // A store without integers gives whole numbers back as doubles. Both bounds are exact as doubles.
+        const double number = value.toDouble();
+        return number == std::trunc(number) && number >= -0x1p63 && number < 0x1p63;
+    }
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+void Defaults::registerDefaults(const QVariantMap &values)
+{
+    registered_.insert(values);
+}
+
+QVariant Defaults::value(const QString &key) const
+{
+    const QVariant own = stored(key);
+    return own.isValid() ? own : registered_.value(key);
+}
+
+bool Defaults::boolean(const QString &key) const
+{
+    const QVariant found = value(key);
+    return found.typeId() == QMetaType::Bool && found.toBool();
+}
+
+qint64 Defaults::integer(const QString &key) const
+{
+    const QVariant found = value(key);
+    return isInteger(found) ? found.toLongLong() : 0;
+}
+
+void Defaults::set(const QString &key, const QVariant &value)
+{
+    store(key, value);
+}
+
+void Defaults::remove(const QString &key)
+{
+    erase(key);
+}
+
+QVariant Defaults::stored(const QString &key) const
+{
+    return memory_.value(key);
+}
+
+void Defaults::store(const QString &key, const QVariant &value)
+{
+    memory_.insert(key, value);
+}
+
+void Defaults::erase(const QString &key)
+{
+    memory_.remove(key);
+}

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "base/Date.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include <dirent.h>
+
+/// All access to the disk. Names are bytes (see base/Paths.h), so nothing here goes through a library that would
+/// lose some. Every call may block for as long as the disk does. Safe from any thread.
+namespace files {
+
+enum class Kind {
+    file,
+    directory,
+    link,
+    other, ///< pipe, socket, device
+};
+
+/// What the file system says of one entry itself; a link is a link, and has its own size.
+struct Attributes {
+    Kind kind = Kind::other;
+    qint64 size = 0;                     ///< bytes, as reported for the entry
+    Date modified = dates::distantPast;  ///< content modification
+    Date created = dates::distantPast;   ///< birth; the distant past where it is not kept
+    bool isHidden = false;               ///< the file system's attribute; a leading dot where there is none
+
+    bool isDirectory() const { return kind == Kind::directory; }
+};
+
+/// The entry's own attributes. None when they can't be read.
+std::optional<Attributes> attributes(const QString &path);
+
+/// True when something is there; a link counts by what it leads to.
+bool exists(const QString &path);
+
+/// True when a folder is there; links are followed.
+bool isDirectory(const QString &path);
+
+/// The names in a folder without "." and "..", in the file system's order, hidden ones included. None when it
+/// can't be listed. Links are followed.
+std::optional<std::vector<QString>> list(const QString &folder);
+
+/// At most `most` bytes from the start of a regular file. None when it can't be opened or read, and for pipes,
+/// sockets and devices, whose opening could wait for ever.
+std::optional<QByteArray> readPrefix(const QString &path, qint64 most);
+
+/// Makes one folder. Throws Error (the system's) when it can't, also when the name is taken.
+void makeDirectory(const QString &path);
+
+/// Makes a folder and those above it that are missing. Throws Error (the system's).
+void makeDirectories(const QString &path);
+
+/// Moves an entry within its volume. Never replaces: throws Error with EEXIST when the target's name is taken,
+/// and the system's error for any other failure.
+void move(const QString &from, const QString &to);
+
+/// Reads a folder entry by entry, without holding all of it. Not to be shared between threads.
+class DirectoryReader
+{
+public:
+    explicit DirectoryReader(const QString &folder);
+    ~DirectoryReader();
+    DirectoryReader(const DirectoryReader &) = delete;
+    DirectoryReader &operator=(const DirectoryReader &) = delete;
+
+    /// False when the folder can't be listed.
+    bool isOpen() const { return directory_ != nullptr; }
+
+    /// Moves on to the next entry ("." and ".." are passed over). False at the end.
+    bool next();
+
+    /// The current entry's name, valid until the next call of `next`.
+    QByteArrayView name() const;
+
+    /// The current entry's own attributes. None when they can't be read, as when it has just vanished.
+    std::optional<Attributes> attributes() const;
+
+private:
+    QString folder_;
+    DIR *directory_ = nullptr;
+    const dirent *entry_ = nullptr;
+};
+
+/// The calls that a test can make fail.
+enum class Operation {
+    list,
+    attributes,
+    open,
+};
+
+/// Asked before each of these calls with the path at hand; an error number other than 0 makes the call fail
+/// with it. For tests only: an empty function takes it away again. Not to be changed while calls are under way.
+void injectFaults(std::function<int(Operation, const QString &path)> faults);
+
+} // namespace files

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/Files.h"
+
+/// The few system calls that differ between systems. Each system has its own source file for them, which the
+/// build picks; base/Files and base/ChildProcess are their only callers.
+namespace systemcalls {
+
+/// Attributes of the entry itself at `path`, relative to the open folder `directory` (or AT_FDCWD). None, with
+/// errno set, when they can't be read.
+std::optional<files::Attributes> entryAttributes(int directory, const char *path);
+
+/// Renames and never replaces. 0, or the error number: EEXIST when the target's name is taken.
+int renameWithoutReplacing(const char *from, const char *to);
+
+/// A pipe of which a child process inherits no end by chance: the end to read from, then the one to write to.
+/// -1, with errno set, when there is none to be had.
+int openPipe(int (&ends)[2]);
+
+} // namespace systemcalls
