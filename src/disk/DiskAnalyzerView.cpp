@@ -1,0 +1,314 @@
+#include "disk/DiskAnalyzerView.h"
+
+#include "base/Paths.h"
+#include "disk/AnalyzerContents.h"
+#include "filesystem/FileSystemService.h"
+#include "shell/common/Formatters.h"
+#include "shell/common/KeySigns.h"
+
+#include <QPointer>
+
+namespace {
+
+constexpr double tickPeriod = 30; // seconds
+
+/// A child that keeps its parent's tree alive.
+DiskAnalyzerView::Entry childOf(const DiskAnalyzerView::Entry &parent, size_t index)
+{
+    return {parent, &(*parent->children)[index]};
+}
+
+size_t childCount(const DiskAnalyzerView::Entry &entry)
+{
+    return entry && entry->children ? entry->children->size() : 0;
+}
+
+QString sizeText(const DiskAnalyzerView::Entry &entry)
+{
+    return formatBytes(clampedBytes(entry->size));
+}
+
+} // namespace
+
+DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskService,
+                                   FileSystemService &fileSystem)
+    : platform_(platform)
+    , diskService_(diskService)
+    , fileSystem_(fileSystem)
+    , tickClock_(platform.clock.now())
+    , ticker_(platform.mainQueue)
+    , breadcrumbRows_({{"entryName", [](const Entry &entry) { return paths::display(entry->name); }}})
+    , contentRows_({
+          {"symbol", [](const Row &row) { return analyzer::rowSymbol(*row.entry); }},
+          {"entryName", [](const Row &row) { return paths::display(row.entry->name); }},
+          {"sizeText", [](const Row &row) { return sizeText(row.entry); }},
+          {"shareText", [](const Row &row) { return analyzer::shareText(row.share); }},
+          {"share", [](const Row &row) { return row.share; }},
+          {"isFolder", [](const Row &row) { return row.entry->isDirectory; }},
+      })
+{
+    connect(&diskService_, &DiskService::isScanningAnalyzerChanged, this, [this] {
+        emit scanChanged();
+        emit contentChanged();
+    });
+    connect(&diskService_, &DiskService::analyzerRootChanged, this, &DiskAnalyzerView::showCurrentEntry);
+    connect(&diskService_, &DiskService::analyzerScanPathChanged, this, &DiskAnalyzerView::contentChanged);
+    connect(&diskService_, &DiskService::lastAnalyzerScanChanged, this, [this] {
+        tickClock_ = platform_.clock.now();
+        emit pillChanged();
+    });
+    treemap_.onTap = [this](const StorageCategory &category) { openChildNamed(category.name); };
+    ticker_.start(tickPeriod, [this] {
+        tickClock_ = platform_.clock.now();
+        emit pillChanged();
+    });
+    showCurrentEntry();
+}
+
+QString DiskAnalyzerView::title() const
+{
+    return QStringLiteral("Disk Analyzer");
+}
+
+QString DiskAnalyzerView::symbol() const
+{
+    return QStringLiteral("internaldrive");
+}
+
+QString DiskAnalyzerView::refreshSequence() const
+{
+    return keysigns::sequence(QStringLiteral("⌘R"));
+}
+
+QString DiskAnalyzerView::progressText() const
+{
+    return QStringLiteral("Scanning %1").arg(paths::display(diskService_.analyzerScanPath()));
+}
+
+QString DiskAnalyzerView::location() const
+{
+    const Entry entry = currentEntry();
+    return entry ? paths::display(entry->path) : QString();
+}
+
+LastScannedPill DiskAnalyzerView::pill() const
+{
+    return {diskService_.lastAnalyzerScan(), diskService_.cacheLifetime(), tickClock_};
+}
+
+QString DiskAnalyzerView::pillText() const
+{
+    return isPillShown() ? pill().text() : QString();
+}
+
+QString DiskAnalyzerView::pillTooltip() const
+{
+    return isPillShown() ? pill().tooltip() : QString();
+}
+
+QString DiskAnalyzerView::mapSummary() const
+{
+    const Entry entry = currentEntry();
+    return entry ? QStringLiteral("%1 items · %2").arg(childCount(entry)).arg(sizeText(entry)) : QString();
+}
+
+bool DiskAnalyzerView::isMapEmpty() const
+{
+    const Entry entry = currentEntry();
+    return !entry || !entry->hasChildren() || analyzer::mapCategories(*entry).empty();
+}
+
+QString DiskAnalyzerView::contentsHeader() const
+{
+    return QStringLiteral("CONTENTS (%1 items)").arg(childCount(currentEntry()));
+}
+
+QString DiskAnalyzerView::parentRowText() const
+{
+    if (breadcrumb_.empty())
+        return {};
+    const QString parent =
+        breadcrumb_.size() > 1 ? paths::display(breadcrumb_[breadcrumb_.size() - 2]->name) : QStringLiteral("Home");
+    return QStringLiteral("..  ") + parent;
+}
+
+bool DiskAnalyzerView::isEmptyDirectory() const
+{
+    return hasEntry() && !isScanningDeeper_ && !currentEntry()->hasChildren();
+}
+
+DiskAnalyzerView::Entry DiskAnalyzerView::currentEntry() const
+{
+    return breadcrumb_.empty() ? diskService_.analyzerRoot() : breadcrumb_.back();
+}
+
+DiskAnalyzerView::Entry DiskAnalyzerView::child(int row) const
+{
+    const Entry entry = currentEntry();
+    const bool isThere = row >= 0 && static_cast<size_t>(row) < childCount(entry);
+    return isThere ? childOf(entry, static_cast<size_t>(row)) : nullptr;
+}
+
+void DiskAnalyzerView::appear()
+{
+    diskService_.scanAnalyzer(diskService_.analyzerScanPath(), false);
+}
+
+void DiskAnalyzerView::refresh()
+{
+    if (!isScanning())
+        rescan();
+}
+
+void DiskAnalyzerView::rescan()
+{
+    startScan(diskService_.analyzerScanPath());
+}
+
+void DiskAnalyzerView::startScan(const QString &path)
+{
+    setBreadcrumb({});
+    diskService_.scanAnalyzer(path, true);
+}
+
+void DiskAnalyzerView::changeFolder()
+{
+    const Workspace::FolderRequest request{QStringLiteral("Choose a folder to analyze"),
+                                           diskService_.analyzerScanPath()};
+    platform_.workspace.chooseFolder(
+        request, [self = QPointer(this)](const std::optional<QString> &folder) {
+            if (!self || !folder)
+                return;
+            self->diskService_.setAnalyzerScanPath(*folder);
+            self->startScan(*folder);
+        });
+}
+
+void DiskAnalyzerView::cancelScan()
+{
+    diskService_.cancelAnalyzerScan();
+}
+
+void DiskAnalyzerView::goBack()
+{
+    if (!breadcrumb_.empty())
+        goTo(static_cast<int>(breadcrumb_.size()) - 2);
+}
+
+void DiskAnalyzerView::goHome()
+{
+    setBreadcrumb({});
+}
+
+void DiskAnalyzerView::goTo(int index)
+{
+    const auto count = static_cast<size_t>(index + 1);
+    if (index < -1 || count > breadcrumb_.size())
+        return;
+    setBreadcrumb({breadcrumb_.begin(), breadcrumb_.begin() + index + 1});
+}
+
+void DiskAnalyzerView::openInFinder()
+{
+    if (const Entry entry = currentEntry())
+        platform_.workspace.showFolder(entry->path);
+}
+
+void DiskAnalyzerView::openRow(int row)
+{
+    openEntry(child(row));
+}
+
+void DiskAnalyzerView::activateRow(int row)
+{
+    const Entry entry = child(row);
+    if (entry && !entry->isDirectory)
+        platform_.workspace.open(entry->path);
+    else
+        openEntry(entry);
+}
+
+QString DiskAnalyzerView::openText(int row) const
+{
+    const Entry entry = child(row);
+    return entry && !entry->isDirectory ? QStringLiteral("Open") : QStringLiteral("Drill Into");
+}
+
+void DiskAnalyzerView::revealRow(int row)
+{
+    if (const Entry entry = child(row))
+        fileSystem_.revealInFinder(entry->path);
+}
+
+void DiskAnalyzerView::copyPath(int row)
+{
+    if (const Entry entry = child(row))
+        platform_.workspace.copyText(entry->path);
+}
+
+void DiskAnalyzerView::openTerminal(int row)
+{
+    if (const Entry entry = child(row))
+        fileSystem_.openInTerminal(entry->isDirectory ? entry->path : paths::parent(entry->path));
+}
+
+void DiskAnalyzerView::openChildNamed(const QString &name)
+{
+    const Entry entry = currentEntry();
+    for (size_t i = 0; i < childCount(entry); ++i) {
+        if ((*entry->children)[i].name == name)
+            return openEntry(childOf(entry, i));
+    }
+}
+
+void DiskAnalyzerView::openEntry(const Entry &entry)
+{
+    // A second click while a level loads would only append that level twice.
+    if (!entry || !entry->isDirectory || isScanningDeeper_)
+        return;
+    if (!entry->hasChildren())
+        return scanDeeper(entry->path);
+    std::vector<Entry> longer = breadcrumb_;
+    longer.push_back(entry);
+    setBreadcrumb(std::move(longer));
+}
+
+void DiskAnalyzerView::scanDeeper(const QString &path)
+{
+    isScanningDeeper_ = true;
+    emit contentChanged();
+    platform_.workQueue.post(WorkPriority::userInitiated, [self = QPointer(this), path, &main = platform_.mainQueue,
+                                                           &fileSystem = fileSystem_] {
+        fileSystem.scanCancelled.store(false, std::memory_order_relaxed);
+        const Entry tree = std::make_shared<const FileEntry>(fileSystem.scanTree(path, 0, 1));
+        main.post([self, tree] {
+            if (!self)
+                return;
+            self->isScanningDeeper_ = false;
+            std::vector<Entry> longer = self->breadcrumb_;
+            longer.push_back(tree);
+            self->setBreadcrumb(std::move(longer));
+        });
+    });
+}
+
+void DiskAnalyzerView::setBreadcrumb(std::vector<Entry> breadcrumb)
+{
+    breadcrumb_ = std::move(breadcrumb);
+    showCurrentEntry();
+}
+
+void DiskAnalyzerView::showCurrentEntry()
+{
+    const Entry entry = currentEntry();
+    std::vector<Row> rows;
+    for (size_t i = 0; i < childCount(entry); ++i) {
+        const Entry childEntry = childOf(entry, i);
+        rows.push_back({childEntry, analyzer::share(childEntry->size, entry->size)});
+    }
+    contentRows_.reset(std::move(rows));
+    breadcrumbRows_.update(breadcrumb_, [](const Entry &left, const Entry &right) { return left == right; });
+    treemap_.setCategories(entry && entry->children ? analyzer::mapCategories(*entry)
+                                                    : std::vector<StorageCategory>());
+    emit contentChanged();
+}

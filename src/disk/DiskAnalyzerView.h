@@ -1,0 +1,130 @@
+#pragma once
+
+#include "base/RecordListModel.h"
+#include "base/Ticker.h"
+#include "disk/AnalyzerTexts.h"
+#include "disk/DiskService.h"
+#include "disk/LastScannedPill.h"
+#include "disk/TreemapView.h"
+#include "filesystem/FileEntry.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+class FileSystemService;
+
+/// The Disk Analyzer's screen: where the bytes of one folder go, as a map and as a table, with drilling into the
+/// folders below. The measured tree lives in the service; the way into it lives here and is lost with the screen.
+class DiskAnalyzerView final : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString symbol READ symbol CONSTANT)
+    Q_PROPERTY(AnalyzerTexts texts READ texts CONSTANT)
+    Q_PROPERTY(QString refreshSequence READ refreshSequence CONSTANT)
+    Q_PROPERTY(bool isScanning READ isScanning NOTIFY scanChanged)
+    Q_PROPERTY(bool isAnalyzing READ isAnalyzing NOTIFY contentChanged)
+    Q_PROPERTY(QString progressText READ progressText NOTIFY contentChanged)
+    Q_PROPERTY(bool hasEntry READ hasEntry NOTIFY contentChanged)
+    Q_PROPERTY(QString location READ location NOTIFY contentChanged)
+    Q_PROPERTY(bool isPillShown READ isPillShown NOTIFY pillChanged)
+    Q_PROPERTY(QString pillText READ pillText NOTIFY pillChanged)
+    Q_PROPERTY(QString pillTooltip READ pillTooltip NOTIFY pillChanged)
+    Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY contentChanged)
+    Q_PROPERTY(QString mapSummary READ mapSummary NOTIFY contentChanged)
+    Q_PROPERTY(bool isMapEmpty READ isMapEmpty NOTIFY contentChanged)
+    Q_PROPERTY(QString contentsHeader READ contentsHeader NOTIFY contentChanged)
+    Q_PROPERTY(QString parentRowText READ parentRowText NOTIFY contentChanged)
+    Q_PROPERTY(bool isScanningDeeper READ isScanningDeeper NOTIFY contentChanged)
+    Q_PROPERTY(bool isEmptyDirectory READ isEmptyDirectory NOTIFY contentChanged)
+    Q_PROPERTY(QAbstractItemModel *breadcrumbs READ breadcrumbs CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *contents READ contents CONSTANT)
+    Q_PROPERTY(TreemapView *treemap READ treemap CONSTANT)
+
+public:
+    /// A node of a measured tree; the pointer keeps the whole tree alive.
+    using Entry = std::shared_ptr<const FileEntry>;
+
+    DiskAnalyzerView(const Platform &platform, DiskService &diskService, FileSystemService &fileSystem);
+
+    QString title() const;
+    QString symbol() const;
+    AnalyzerTexts texts() const { return {}; }
+    QString refreshSequence() const; ///< the key of `refresh`
+    bool isScanning() const { return diskService_.isScanningAnalyzer(); }
+    bool isAnalyzing() const { return isScanning() && !currentEntry(); } ///< no tree to show yet
+    QString progressText() const;
+    bool hasEntry() const { return currentEntry() != nullptr; }
+    QString location() const; ///< the path of the entry on view
+    bool isPillShown() const { return pill().isShown(); }
+    QString pillText() const;
+    QString pillTooltip() const;
+    bool canGoBack() const { return !breadcrumb_.empty(); }
+    QString mapSummary() const;
+    bool isMapEmpty() const;
+    QString contentsHeader() const;
+    QString parentRowText() const; ///< empty at the top, where there is no parent row
+    bool isScanningDeeper() const { return isScanningDeeper_; }
+    bool isEmptyDirectory() const;
+
+    /// Rows: entryName.
+    QAbstractItemModel *breadcrumbs() { return &breadcrumbRows_; }
+    /// Rows: symbol, entryName, sizeText, shareText, share (0 to 1), isFolder.
+    QAbstractItemModel *contents() { return &contentRows_; }
+    TreemapView *treemap() { return &treemap_; }
+
+    const std::vector<Entry> &breadcrumb() const { return breadcrumb_; }
+    /// The last of the breadcrumb, else the service's tree; none while there is neither.
+    Entry currentEntry() const;
+
+    Q_INVOKABLE void appear();
+    Q_INVOKABLE void refresh(); ///< the key's command: a rescan unless a scan is running
+    Q_INVOKABLE void rescan();
+    Q_INVOKABLE void changeFolder();
+    Q_INVOKABLE void cancelScan();
+    Q_INVOKABLE void goBack();
+    Q_INVOKABLE void goHome();
+    Q_INVOKABLE void goTo(int index); ///< cuts the breadcrumb back to that entry
+    Q_INVOKABLE void openInFinder();  ///< shows the entry on view
+    // Of a row of the table:
+    Q_INVOKABLE void openRow(int row);    ///< into a folder; nothing on a file
+    Q_INVOKABLE void activateRow(int row); ///< the first item of its menu: into a folder, or opens a file
+    Q_INVOKABLE QString openText(int row) const; ///< how the menu calls `activateRow`
+    Q_INVOKABLE void revealRow(int row);
+    Q_INVOKABLE void copyPath(int row);
+    Q_INVOKABLE void openTerminal(int row);
+
+    void openEntry(const Entry &entry);
+
+signals:
+    void scanChanged();
+    void contentChanged();
+    void pillChanged();
+
+private:
+    struct Row {
+        Entry entry;
+        double share = 0;
+    };
+
+    LastScannedPill pill() const;
+    Entry child(int row) const;
+    void openChildNamed(const QString &name);
+    void scanDeeper(const QString &path);
+    void startScan(const QString &path);
+    void setBreadcrumb(std::vector<Entry> breadcrumb);
+    void showCurrentEntry();
+
+    const Platform &platform_;
+    DiskService &diskService_;
+    FileSystemService &fileSystem_;
+    std::vector<Entry> breadcrumb_;
+    bool isScanningDeeper_ = false;
+    Date tickClock_;
+    Ticker ticker_;
+    RecordListModel<Entry> breadcrumbRows_;
+    RecordListModel<Row> contentRows_;
+    TreemapView treemap_;
+};

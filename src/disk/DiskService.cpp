@@ -1,0 +1,189 @@
+#include "disk/DiskService.h"
+
+#include "filesystem/FileSystemService.h"
+#include "shell/common/SettingsKeys.h"
+
+#include <QPointer>
+
+namespace {
+
+constexpr qint64 usualLifetime = 5; // minutes
+constexpr int analyzerDepth = 2;    // the root and its folders are listed, what lies below is measured
+
+} // namespace
+
+DiskService::DiskService(const Platform &platform, FileSystemService &fileSystem)
+    : platform_(platform)
+    , fileSystem_(fileSystem)
+    , analyzerScanPath_(platform.home)
+{
+}
+
+DiskService &DiskService::shared(const Platform &platform, FileSystemService &fileSystem)
+{
+    static DiskService &instance = *new DiskService(platform, fileSystem);
+    return instance;
+}
+
+double DiskService::cacheLifetime() const
+{
+    const qint64 minutes = platform_.defaults.integer(settings::diskCacheLifetimeMinutes);
+    return static_cast<double>(minutes < 1 ? usualLifetime : minutes) * 60;
+}
+
+bool DiskService::isFresh(std::optional<Date> date) const
+{
+    return date && dates::secondsBetween(*date, platform_.clock.now()) < cacheLifetime();
+}
+
+void DiskService::postToMain(std::function<void(DiskService &)> block)
+{
+    platform_.mainQueue.post([self = QPointer(this), block = std::move(block)] {
+        if (self)
+            block(*self);
+    });
+}
+
+void DiskService::runJob(std::function<void(DiskService &)> job)
+{
+    // The job holds the service as it is: services live as long as the process.
+    platform_.workQueue.post(WorkPriority::userInitiated, [this, job = std::move(job)] { job(*this); });
+}
+
+void DiskService::scanStorage(bool force)
+{
+    if (!force && isFresh(lastBreakdownScan_) && !cachedCategories_.empty())
+        return;
+    if (!isScanningStorage_)
+        runStorage(true);
+}
+
+void DiskService::refreshStorage()
+{
+    if (!isScanningStorage_)
+        runStorage(false);
+}
+
+void DiskService::runStorage(bool stampsDate)
+{
+    postToMain([](DiskService &self) {
+        self.isScanningStorage_ = true;
+        emit self.isScanningStorageChanged();
+    });
+    runJob([stampsDate](DiskService &self) {
+        self.postToMain([stampsDate, categories = self.computeStorageCategories()](DiskService &service) {
+            service.cachedCategories_ = categories;
+            if (stampsDate)
+                service.lastBreakdownScan_ = service.platform_.clock.now();
+            service.isScanningStorage_ = false;
+            emit service.cachedCategoriesChanged();
+            emit service.lastBreakdownScanChanged();
+            emit service.isScanningStorageChanged();
+        });
+    });
+}
+
+void DiskService::scanLargestDirs(bool force)
+{
+    // The breakdown's date on purpose: the two results go stale together.
+    if (!force && isFresh(lastBreakdownScan_) && !cachedLargeDirs_.empty())
+        return;
+    refreshLargestDirs();
+}
+
+void DiskService::refreshLargestDirs()
+{
+    if (!isScanningLargestDirs_)
+        runLargestDirs();
+}
+
+void DiskService::runLargestDirs()
+{
+    postToMain([](DiskService &self) {
+        self.isScanningLargestDirs_ = true;
+        emit self.isScanningLargestDirsChanged();
+    });
+    runJob([](DiskService &self) {
+        self.postToMain([directories = self.computeLargestDirectories()](DiskService &service) {
+            service.cachedLargeDirs_ = directories;
+            service.isScanningLargestDirs_ = false;
+            emit service.cachedLargeDirsChanged();
+            emit service.isScanningLargestDirsChanged();
+        });
+    });
+}
+
+void DiskService::cancelStorageScan()
+{
+    cancelProbes(ProbeContext::storage);
+    postToMain([](DiskService &self) {
+        self.isScanningStorage_ = false;
+        emit self.isScanningStorageChanged();
+    });
+    if (isScanningAnalyzer_)
+        cancelAnalyzerScan();
+}
+
+void DiskService::cancelLargestDirsScan()
+{
+    cancelProbes(ProbeContext::largestDirs);
+    postToMain([](DiskService &self) {
+        self.isScanningLargestDirs_ = false;
+        emit self.isScanningLargestDirsChanged();
+    });
+    if (isScanningAnalyzer_)
+        cancelAnalyzerScan();
+}
+
+void DiskService::setAnalyzerScanPath(const QString &path)
+{
+    analyzerScanPath_ = path;
+    emit analyzerScanPathChanged();
+}
+
+void DiskService::scanAnalyzer(const QString &path, bool force)
+{
+    if (!force && analyzerLastScannedPath_ == path && isFresh(lastAnalyzerScan_) && analyzerRoot_)
+        return;
+    if (isScanningAnalyzer_)
+        return;
+    const int generation = ++analyzerScanGeneration_;
+    postToMain([path](DiskService &self) {
+        self.isScanningAnalyzer_ = true;
+        self.analyzerRoot_.reset();
+        self.analyzerScanPath_ = path;
+        emit self.isScanningAnalyzerChanged();
+        emit self.analyzerRootChanged();
+        emit self.analyzerScanPathChanged();
+    });
+    runJob([path, generation](DiskService &self) {
+        self.fileSystem_.scanCancelled.store(false, std::memory_order_relaxed);
+        auto tree = std::make_shared<const FileEntry>(self.fileSystem_.scanTree(path, 0, analyzerDepth));
+        self.postToMain([tree = std::move(tree), path, generation](DiskService &service) {
+            service.publishAnalyzer(tree, path, generation);
+        });
+    });
+}
+
+void DiskService::publishAnalyzer(std::shared_ptr<const FileEntry> tree, const QString &path, int generation)
+{
+    if (analyzerScanGeneration_ != generation) // a later scan has begun while this one unwound
+        return;
+    analyzerRoot_ = std::move(tree);
+    analyzerLastScannedPath_ = path;
+    lastAnalyzerScan_ = platform_.clock.now();
+    isScanningAnalyzer_ = false;
+    emit analyzerRootChanged();
+    emit lastAnalyzerScanChanged();
+    emit isScanningAnalyzerChanged();
+}
+
+void DiskService::cancelAnalyzerScan()
+{
+    fileSystem_.scanCancelled.store(true, std::memory_order_relaxed);
+    cancelProbes(ProbeContext::generic);
+    postToMain([](DiskService &self) {
+        self.isScanningAnalyzer_ = false;
+        emit self.isScanningAnalyzerChanged();
+    });
+}

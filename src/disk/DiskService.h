@@ -1,0 +1,131 @@
+#pragma once
+
+#include "base/ChildProcess.h"
+#include "disk/DiskUsage.h"
+#include "disk/LargeDirectory.h"
+#include "disk/ProbeContext.h"
+#include "disk/StorageCategory.h"
+#include "filesystem/FileEntry.h"
+#include "platform/Platform.h"
+
+#include <QObject>
+
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+class FileSystemService;
+
+/// Where the disk's bytes are: sizes through `du`, the volume's usage, and the three cached scans built on them.
+/// Published fields change on the main thread only, set first, then notified. Scans return at once; their flag is
+/// set in a later turn of the main loop, and a cancel never waits.
+class DiskService final : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Processes = std::vector<std::shared_ptr<ChildProcess>>;
+
+    DiskService(const Platform &platform, FileSystemService &fileSystem);
+
+    /// The process's one instance, made at the first call with its arguments and never destroyed.
+    static DiskService &shared(const Platform &platform, FileSystemService &fileSystem);
+
+    // Size probes and the volume.
+
+    /// The allocated bytes of everything at and below `path`, by one run of `du -sk`. 0 on any failure, so a
+    /// failed probe looks like an empty folder. Blocks until the run has ended; any thread but the main one.
+    qint64 probeSize(const QString &path, ProbeContext context);
+
+    /// Ends the live probes of one context, or of all. Loops that probe path by path go on with the next one.
+    void cancelProbes(std::optional<ProbeContext> context = std::nullopt);
+
+    /// The probes started and not yet finished. Any thread.
+    std::map<ProbeContext, Processes> liveSizeProbes() const;
+
+    /// Never fails visibly: zeros and the name "Unknown" when the volume can't be asked. Any thread.
+    DiskUsage getDiskUsage() const;
+
+    // Published fields.
+
+    const std::vector<StorageCategory> &cachedCategories() const { return cachedCategories_; }
+    const std::vector<LargeDirectory> &cachedLargeDirs() const { return cachedLargeDirs_; }
+    bool isScanningStorage() const { return isScanningStorage_; }
+    bool isScanningLargestDirs() const { return isScanningLargestDirs_; }
+    std::optional<Date> lastBreakdownScan() const { return lastBreakdownScan_; }
+    const std::shared_ptr<const FileEntry> &analyzerRoot() const { return analyzerRoot_; }
+    const QString &analyzerScanPath() const { return analyzerScanPath_; }
+    bool isScanningAnalyzer() const { return isScanningAnalyzer_; }
+    std::optional<Date> lastAnalyzerScan() const { return lastAnalyzerScan_; }
+
+    // Commands; main thread.
+
+    /// Seconds for which a scan's result is reused, from the settings as they stand now.
+    double cacheLifetime() const;
+
+    /// The size of each main folder, unless a fresh result is there (`force` passes that over) or a run is on.
+    void scanStorage(bool force);
+    /// The biggest items of the main folders, on the same terms. It reads the breakdown's date and never sets it,
+    /// so that the two go stale together.
+    void scanLargestDirs(bool force);
+    /// A new run that leaves the date of the last full scan alone.
+    void refreshStorage();
+    void refreshLargestDirs();
+    /// Ends the probe at work. The run itself goes on, and its partial figures are published as its result.
+    void cancelStorageScan();
+    void cancelLargestDirsScan();
+
+    /// Measures the folder at `path` two levels deep into `analyzerRoot`. The old tree goes at once.
+    void scanAnalyzer(const QString &path, bool force);
+    /// Ends every generic probe and the walk. What was measured so far is published as the tree.
+    void cancelAnalyzerScan();
+    /// Chooses the folder that the next analyzer scan shows before it begins.
+    void setAnalyzerScanPath(const QString &path);
+
+    /// Up to 10 of the largest entries directly in `path`, dot names left out. Blocks; any thread but the main.
+    std::vector<LargeDirectory> drillChildren(const QString &path);
+
+    /// The seven main folders with their sizes, in their fixed order. Blocks; any thread but the main one.
+    std::vector<StorageCategory> computeStorageCategories();
+    /// The 8 largest entries directly in the main folders that are above 10 million bytes. Blocks likewise.
+    std::vector<LargeDirectory> computeLargestDirectories();
+
+signals:
+    void cachedCategoriesChanged();
+    void cachedLargeDirsChanged();
+    void isScanningStorageChanged();
+    void isScanningLargestDirsChanged();
+    void lastBreakdownScanChanged();
+    void analyzerRootChanged();
+    void analyzerScanPathChanged();
+    void isScanningAnalyzerChanged();
+    void lastAnalyzerScanChanged();
+
+private:
+    bool isFresh(std::optional<Date> date) const;
+    void runStorage(bool stampsDate);
+    void runLargestDirs();
+    void publishAnalyzer(std::shared_ptr<const FileEntry> tree, const QString &path, int generation);
+    void postToMain(std::function<void(DiskService &)> block);
+    void runJob(std::function<void(DiskService &)> job);
+
+    const Platform &platform_;
+    FileSystemService &fileSystem_;
+
+    mutable std::mutex probeLock_; // guards liveSizeProbes_ and nothing else
+    std::map<ProbeContext, Processes> liveSizeProbes_;
+
+    std::vector<StorageCategory> cachedCategories_;
+    std::vector<LargeDirectory> cachedLargeDirs_;
+    bool isScanningStorage_ = false;
+    bool isScanningLargestDirs_ = false;
+    std::optional<Date> lastBreakdownScan_;
+    std::shared_ptr<const FileEntry> analyzerRoot_;
+    QString analyzerScanPath_;
+    bool isScanningAnalyzer_ = false;
+    std::optional<Date> lastAnalyzerScan_;
+    std::optional<QString> analyzerLastScannedPath_;
+    int analyzerScanGeneration_ = 0;
+};

@@ -1,0 +1,51 @@
+#include "disk/LastScannedPill.h"
+
+#include <algorithm>
+
+namespace {
+constexpr qint64 minute = 60;
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+}
+
+QString ageText(double age)
+{
+    const auto seconds = static_cast<qint64>(age);
+    if (seconds < 5)
+        return QStringLiteral("just now");
+    if (seconds < minute)
+        return QStringLiteral("%1 sec ago").arg(seconds);
+    if (seconds < hour)
+        return QStringLiteral("%1 min ago").arg(seconds / minute);
+    if (seconds < day)
+        return QStringLiteral("%1 hr ago").arg(seconds / hour);
+    return seconds < 2 * day ? QStringLiteral("%1 day ago").arg(seconds / day)
+                             : QStringLiteral("%1 days ago").arg(seconds / day);
+}
+
+double LastScannedPill::age() const
+{
+    return dates::secondsBetween(*date, now);
+}
+
+double LastScannedPill::remaining() const
+{
+    return std::max(cacheLifetime - age(), 0.0);
+}
+
+QString LastScannedPill::text() const
+{
+    return remaining() > 0 ? QStringLiteral("Cached · %1").arg(ageText(age()))
+                           : QStringLiteral("Stale · refreshing soon");
+}
+
+QString LastScannedPill::tooltip() const
+{
+    if (remaining() <= 0)
+        return QStringLiteral("Cache expired — next view will re-scan automatically.");
+    const auto left = static_cast<qint64>(remaining());
+    return QStringLiteral("Last scanned %1. Auto-refresh in %2 min %3 sec, or click Refresh to update now.")
+        .arg(ageText(age()))
+        .arg(left / minute)
+        .arg(left % minute);
+}

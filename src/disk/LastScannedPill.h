@@ -1,0 +1,26 @@
+#pragma once
+
+#include "base/Date.h"
+
+#include <QString>
+
+#include <optional>
+
+/// Tells how old a cached result is. The screen that shows it moves `now` along.
+struct LastScannedPill {
+    std::optional<Date> date;
+    double cacheLifetime = 0; ///< seconds
+    Date now;
+
+    bool isShown() const { return date.has_value(); }
+    /// "Cached · 3 min ago" or "Stale · refreshing soon". Only with a date.
+    QString text() const;
+    QString tooltip() const;
+
+private:
+    double age() const;
+    double remaining() const;
+};
+
+/// "just now", "12 sec ago", … "2 days ago"; `age` in seconds.
+QString ageText(double age);

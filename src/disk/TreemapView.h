@@ -1,0 +1,47 @@
+#pragma once
+
+#include "base/RecordListModel.h"
+#include "disk/Treemap.h"
+
+#include <QObject>
+
+#include <functional>
+
+/// The state of a treemap on the screen: categories fitted into the view's size, as tiles to draw. Main thread.
+class TreemapView : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QAbstractItemModel *tiles READ tiles CONSTANT)
+    Q_PROPERTY(int hoveredIndex READ hoveredIndex NOTIFY hoveredIndexChanged)
+
+public:
+    explicit TreemapView(QObject *parent = nullptr);
+
+    /// Rows: tileName, sizeText, tileColor, labelColor, tileX, tileY, tileWidth, tileHeight (points), hasLabel.
+    QAbstractItemModel *tiles() { return &tiles_; }
+
+    void setCategories(std::vector<StorageCategory> categories);
+
+    /// Called with the category of a clicked tile.
+    std::function<void(const StorageCategory &)> onTap;
+
+    int hoveredIndex() const { return hoveredIndex_; } ///< -1 for none
+
+    Q_INVOKABLE void resize(double width, double height);
+    Q_INVOKABLE void hover(int index);
+    Q_INVOKABLE void leave(int index);
+    Q_INVOKABLE void tap(int index);
+
+signals:
+    void hoveredIndexChanged();
+
+private:
+    void layOut();
+    void setHoveredIndex(int index);
+
+    std::vector<StorageCategory> sorted_;
+    RecordListModel<TreemapItem> tiles_;
+    double width_ = 0;
+    double height_ = 0;
+    int hoveredIndex_ = -1;
+};
