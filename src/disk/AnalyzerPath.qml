@@ -1,0 +1,72 @@
+import QtQuick
+import Quillmere
+
+// Where the entry on view lies: back, home, the way in, and the file viewer.
+Item {
+    id: path
+
+    required property DiskAnalyzerView view
+
+    implicitHeight: Theme.controlHeight
+    enabled: view.hasEntry
+
+    IconButton {
+        id: back
+        objectName: "backButton"
+        symbol: "chevron.left"
+        label: path.view.texts.goBack
+        tip: path.view.texts.goBack
+        enabled: path.view.canGoBack
+        onClicked: path.view.goBack()
+    }
+    ActionButton {
+        id: home
+        objectName: "homeButton"
+        anchors.left: back.right
+        anchors.leftMargin: Theme.unit
+        symbol: "house.fill"
+        text: path.view.texts.home
+        tip: path.view.location
+        onClicked: path.view.goHome()
+    }
+    ListView {
+        objectName: "breadcrumbList"
+        anchors.left: home.right
+        anchors.leftMargin: Theme.unit
+        anchors.right: finder.left
+        anchors.rightMargin: Theme.unit * 2
+        height: parent.height
+        orientation: ListView.Horizontal
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        spacing: Theme.unit
+        model: path.view.breadcrumbs
+        onCountChanged: positionViewAtEnd()
+        delegate: Row {
+            id: crumb
+
+            required property int index
+            required property string entryName
+
+            spacing: Theme.unit
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "chevron.right"
+                size: 11
+            }
+            ActionButton {
+                text: crumb.entryName
+                width: Math.min(implicitWidth, 240)
+                onClicked: path.view.goTo(crumb.index)
+            }
+        }
+    }
+    ActionButton {
+        id: finder
+        objectName: "finderButton"
+        anchors.right: parent.right
+        symbol: "folder"
+        text: path.view.texts.openInFinder
+        onClicked: path.view.openInFinder()
+    }
+}

@@ -1,0 +1,90 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// The table of what is in the entry on view.
+FocusScope {
+    id: card
+
+    required property DiskAnalyzerView view
+
+    Card {
+        anchors.fill: parent
+    }
+    CaptionText {
+        id: head
+        x: Theme.unit * 4
+        height: 36
+        text: card.view.contentsHeader
+    }
+    ContentsColumns {
+        id: columns
+        anchors.top: head.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: Theme.unit * 4
+        anchors.rightMargin: Theme.unit * 4
+        view: card.view
+    }
+    ListView {
+        id: list
+        objectName: "contentsList"
+        anchors.top: columns.bottom
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.margins: Theme.unit * 2
+        anchors.topMargin: Theme.unit
+        clip: true
+        focus: true
+        boundsBehavior: Flickable.StopAtBounds
+        visible: !card.view.isScanningDeeper
+        model: card.view.contents
+        currentIndex: -1
+        keyNavigationEnabled: true
+        activeFocusOnTab: true
+        T.ScrollBar.vertical: ScrollHandle { }
+        Keys.onReturnPressed: card.view.activateRow(currentIndex)
+        Keys.onEnterPressed: card.view.activateRow(currentIndex)
+        Keys.onRightPressed: card.view.openRow(currentIndex)
+        Keys.onLeftPressed: card.view.goBack()
+        Keys.onMenuPressed: menu.openAt(currentIndex)
+        header: ParentRow {
+            width: ListView.view.width
+            text: card.view.parentRowText
+            onClicked: card.view.goBack()
+        }
+        delegate: ContentsRow {
+            width: ListView.view.width
+            isCurrent: ListView.isCurrentItem && list.activeFocus
+            revealTip: card.view.texts.reveal
+            onClicked: card.view.openRow(index)
+            onRevealed: card.view.revealRow(index)
+            onMenuRequested: menu.openAt(index)
+            onPressed: list.currentIndex = index
+        }
+    }
+    ContentsMenu {
+        id: menu
+        view: card.view
+    }
+    EmptyState {
+        anchors.centerIn: list
+        width: list.width
+        visible: card.view.isEmptyDirectory
+        symbol: "folder"
+        text: card.view.texts.emptyDirectory
+    }
+    Row {
+        anchors.centerIn: list
+        visible: card.view.isScanningDeeper
+        spacing: Theme.unit * 2
+        Spinner {
+            anchors.verticalCenter: parent.verticalCenter
+        }
+        BodyText {
+            text: card.view.texts.loadingContents
+            color: Theme.secondText
+        }
+    }
+}

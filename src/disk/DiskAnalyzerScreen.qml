@@ -1,0 +1,88 @@
+import QtQuick
+import Quillmere
+
+// The Disk Analyzer: head, way in, map and table.
+FocusScope {
+    id: screen
+
+    required property DiskAnalyzerView view
+
+    Component.onCompleted: view.appear()
+
+    Shortcut {
+        sequence: screen.view.refreshSequence
+        onActivated: screen.view.refresh()
+    }
+
+    AnalyzerHeader {
+        id: header
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: Theme.unit * 5
+        view: screen.view
+    }
+    AnalyzerPath {
+        id: path
+        anchors.left: header.left
+        anchors.right: header.right
+        anchors.top: header.bottom
+        anchors.topMargin: Theme.unit * 3
+        view: screen.view
+    }
+    Item {
+        id: body
+        anchors.left: header.left
+        anchors.right: header.right
+        anchors.top: path.bottom
+        anchors.topMargin: Theme.unit * 3
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.unit * 5
+        visible: screen.view.hasEntry
+
+        MapCard {
+            id: map
+            width: parent.width
+            height: Math.round(parent.height * 0.46)
+            view: screen.view
+        }
+        ContentsCard {
+            anchors.top: map.bottom
+            anchors.topMargin: Theme.unit * 4
+            anchors.bottom: parent.bottom
+            width: parent.width
+            focus: true
+            view: screen.view
+        }
+    }
+    Card {
+        objectName: "analyzerProgress"
+        anchors.fill: body
+        visible: screen.view.isAnalyzing
+
+        Column {
+            anchors.centerIn: parent
+            width: parent.width - Theme.unit * 12
+            spacing: Theme.unit * 3
+
+            Spinner {
+                anchors.horizontalCenter: parent.horizontalCenter
+                size: 28
+                color: Theme.accent
+            }
+            BodyText {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                text: screen.view.texts.analyzing
+                font.weight: Font.DemiBold
+            }
+            BodyText {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                text: screen.view.progressText
+                color: Theme.secondText
+                elide: Text.ElideMiddle
+            }
+        }
+    }
+}

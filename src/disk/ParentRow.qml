@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// The first row of the table below the top: one level back.
+T.ItemDelegate {
+    id: row
+
+    objectName: "parentRow"
+    visible: text.length > 0
+    implicitHeight: visible ? Theme.rowHeight : 0
+    height: implicitHeight
+    leftPadding: Theme.unit * 2
+    hoverEnabled: true
+
+    contentItem: Item {
+        Symbol {
+            id: icon
+            anchors.verticalCenter: parent.verticalCenter
+            name: "arrow.turn.up.left"
+            size: 14
+        }
+        BodyText {
+            anchors.left: icon.right
+            anchors.leftMargin: Theme.unit * 2.5
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.text
+            color: Theme.secondText
+        }
+    }
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: row.down ? Theme.pressed : row.hovered ? Theme.hover : "transparent"
+        FocusRing {
+            visible: row.visualFocus
+        }
+    }
+}

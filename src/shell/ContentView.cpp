@@ -1,0 +1,77 @@
+#include "shell/ContentView.h"
+
+#include "shell/common/NotificationNames.h"
+#include "shell/common/SettingsKeys.h"
+
+#include <QPointer>
+
+namespace {
+constexpr double tourDelay = 0.3; // seconds
+}
+
+ContentView::ContentView(const Platform &platform, feedback::Program program)
+    : platform_(platform)
+    , program_(std::move(program))
+{
+    observeNotifications();
+}
+
+void ContentView::observeNotifications()
+{
+    NotificationCenter &center = platform_.notifications;
+    center.observe(notifications::openSettings, this, [this](const QVariant &) { setSheet(Sheet::settings, true); });
+    center.observe(notifications::openShortcuts, this, [this](const QVariant &) { setSheet(Sheet::shortcuts, true); });
+    center.observe(notifications::openHistory, this, [this](const QVariant &) { setSheet(Sheet::history, true); });
+    center.observe(notifications::openOnboarding, this, [this](const QVariant &) { setSheet(Sheet::onboarding, true); });
+    center.observe(notifications::reportBug, this, [this](const QVariant &) { openMail(feedback::Kind::bug); });
+    center.observe(notifications::requestFeature, this,
+                   [this](const QVariant &) { openMail(feedback::Kind::feature); });
+    center.observe(notifications::navigate, this, [this](const QVariant &object) {
+        if (object.typeId() == QMetaType::QString)
+            setSelectedItem(sidebar::itemForKey(object.toString()));
+    });
+}
+
+void ContentView::setSelectedItem(SidebarItem item)
+{
+    if (selectedItem_ == item)
+        return;
+    selectedItem_ = item;
+    emit selectedItemChanged();
+}
+
+bool ContentView::onboardingCompleted() const
+{
+    return platform_.defaults.boolean(settings::onboardingCompleted);
+}
+
+void ContentView::appear()
+{
+    platform_.mainQueue.postAfter(tourDelay, [self = QPointer(this)] {
+        if (self && !self->onboardingCompleted())
+            self->setSheet(Sheet::onboarding, true);
+    });
+}
+
+void ContentView::dismissSheets()
+{
+    sheets_.clear();
+    emit sheetsChanged();
+}
+
+void ContentView::setSheet(Sheet sheet, bool isUp)
+{
+    const bool wasUp = sheets_.contains(sheet);
+    if (wasUp == isUp)
+        return;
+    if (isUp)
+        sheets_.insert(sheet);
+    else
+        sheets_.erase(sheet);
+    emit sheetsChanged();
+}
+
+void ContentView::openMail(feedback::Kind kind)
+{
+    platform_.workspace.openAddress(feedback::mailAddress(kind, program_, platform_.systemInfo));
+}

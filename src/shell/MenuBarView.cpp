@@ -1,0 +1,128 @@
+#include "shell/MenuBarView.h"
+
+#include "shell/Sheet.h"
+#include "shell/common/KeySigns.h"
+#include "shell/common/NotificationNames.h"
+
+namespace {
+
+using Command = MenuBarView::Command;
+
+Command divider(const char *menu)
+{
+    return {QString::fromLatin1(menu), {}, {}, {}, {}, false};
+}
+
+Command navigateTo(const char *menu, const char *title, const char16_t *keys, SidebarItem item)
+{
+    return {QString::fromLatin1(menu), QString::fromLatin1(title), QString::fromUtf16(keys),
+            notifications::navigate, sidebar::key(item)};
+}
+
+/// The window's commands in the order of the menus. The Quit command has no notification: it ends the program.
+std::vector<Command> allCommands()
+{
+    const auto program = QStringLiteral("Quillmere");
+    const auto help = QStringLiteral("Help");
+    return {
+        {program, QStringLiteral("About Quillmere"), {}, {}, {}, false},
+        divider("Quillmere"),
+        {program, QStringLiteral("Settings…"), QStringLiteral("⌘,"), notifications::openSettings, {},
+         isBuilt(Sheet::settings)},
+        divider("Quillmere"),
+        {program, QStringLiteral("Quit Quillmere"), QStringLiteral("⌘Q"), {}, {}, true},
+        {QStringLiteral("File"), QStringLiteral("New Folder…"), QStringLiteral("⌘N"), notifications::newFolder, {},
+         false},
+        navigateTo("View", "Dashboard", u"⌘1", SidebarItem::dashboard),
+        navigateTo("View", "File Browser", u"⌘2", SidebarItem::fileBrowser),
+        navigateTo("View", "Search", u"⌘3", SidebarItem::search),
+        navigateTo("View", "Disk Analyzer", u"⌘4", SidebarItem::diskAnalyzer),
+        navigateTo("View", "Duplicates", u"⌘5", SidebarItem::duplicates),
+        divider("View"),
+        navigateTo("View", "Bulk Rename", u"", SidebarItem::bulkRename),
+        navigateTo("View", "Cleanup", u"", SidebarItem::cleanup),
+        navigateTo("View", "Organizer", u"", SidebarItem::organizer),
+        navigateTo("View", "App Manager", u"", SidebarItem::appManager),
+        {QStringLiteral("Tools"), QStringLiteral("Refresh Current View"), QStringLiteral("⌘R"),
+         notifications::rescan, {}},
+        divider("Tools"),
+        navigateTo("Tools", "Scan for Duplicates", u"", SidebarItem::duplicates),
+        navigateTo("Tools", "Quick Cleanup", u"", SidebarItem::cleanup),
+        navigateTo("Tools", "Find Ghost Files", u"", SidebarItem::appManager),
+        {help, QStringLiteral("Quillmere Help"), QStringLiteral("⌘?"), notifications::openShortcuts, {},
+         isBuilt(Sheet::shortcuts)},
+        {help, QStringLiteral("Keyboard Shortcuts"), QStringLiteral("⌘/"), notifications::openShortcuts, {},
+         isBuilt(Sheet::shortcuts)},
+        divider("Help"),
+        {help, QStringLiteral("Replay Welcome Tour"), {}, notifications::openOnboarding, {}, isBuilt(Sheet::onboarding)},
+        {help, QStringLiteral("Activity History…"), QStringLiteral("⇧⌘Y"), notifications::openHistory, {},
+         isBuilt(Sheet::history)},
+        divider("Help"),
+        {help, QStringLiteral("Report a Bug…"), {}, notifications::reportBug, {}},
+        {help, QStringLiteral("Request a Feature…"), {}, notifications::requestFeature, {}},
+    };
+}
+
+} // namespace
+
+MenuBarView::MenuBarView(const Platform &platform, const MainContentView &main, std::function<void()> quit)
+    : platform_(platform)
+    , main_(main)
+    , quit_(std::move(quit))
+    , commands_(allCommands())
+{
+    connect(&main_, &MainContentView::screenChanged, this, &MenuBarView::shortcutsChanged);
+}
+
+QVariantMap MenuBarView::item(size_t index) const
+{
+    const Command &command = commands_[index];
+    return {
+        {QStringLiteral("title"), command.title},
+        {QStringLiteral("keysText"), keysigns::text(command.keys, platform_.keyStyle)},
+        {QStringLiteral("isEnabled"), command.isEnabled},
+        {QStringLiteral("isDivider"), command.title.isEmpty()},
+        {QStringLiteral("command"), static_cast<int>(index)},
+    };
+}
+
+QVariantList MenuBarView::menus() const
+{
+    QVariantList menus;
+    for (size_t i = 0; i < commands_.size();) {
+        const QString &title = commands_[i].menu;
+        QVariantList items;
+        for (; i < commands_.size() && commands_[i].menu == title; ++i)
+            items.append(item(i));
+        menus.append(QVariantMap{{QStringLiteral("title"), title}, {QStringLiteral("items"), items}});
+    }
+    return menus;
+}
+
+QVariantList MenuBarView::shortcuts() const
+{
+    QVariantList shortcuts;
+    for (size_t i = 0; i < commands_.size(); ++i) {
+        const Command &command = commands_[i];
+        // Quitting by key is watched for ahead of everything else, so it is none of these.
+        const bool isQuit = command.notification.isEmpty();
+        if (command.keys.isEmpty() || !command.isEnabled || isQuit || main_.claimsKey(command.keys))
+            continue;
+        shortcuts.append(QVariantMap{{QStringLiteral("sequence"), keysigns::sequence(command.keys)},
+                                     {QStringLiteral("command"), static_cast<int>(i)}});
+    }
+    return shortcuts;
+}
+
+void MenuBarView::perform(int command)
+{
+    if (command < 0 || command >= static_cast<int>(commands_.size()))
+        return;
+    const Command &chosen = commands_[static_cast<size_t>(command)];
+    if (!chosen.isEnabled)
+        return;
+    if (chosen.notification.isEmpty())
+        quit_();
+    else
+        platform_.notifications.post(chosen.notification, chosen.object);
+}

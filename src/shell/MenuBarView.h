@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "shell/MainContentView.h"
+
+#include <QObject>
+#include <QVariantList>
+
+#include <vector>
+
+/// The menu bar's commands. They reach nothing directly: each posts a notification, but for those that end the
+/// program. A command whose sheet, window or screen is not there yet is disabled. Main thread.
+class MenuBarView final : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QVariantList menus READ menus CONSTANT)
+    Q_PROPERTY(QVariantList shortcuts READ shortcuts NOTIFY shortcutsChanged)
+
+public:
+    /// One line of a menu. A line without a title is a divider.
+    struct Command {
+        QString menu;
+        QString title;
+        QString keys;         ///< key signs, "⇧⌘Y"; empty for none
+        QString notification; ///< posted when the command is chosen
+        QVariant object;      ///< what the notification carries
+        bool isEnabled = true;
+    };
+
+    MenuBarView(const Platform &platform, const MainContentView &main, std::function<void()> quit);
+
+    const std::vector<Command> &commands() const { return commands_; }
+
+    /// For the look: a list of menus, each {title, items}, an item {title, keysText, isEnabled, isDivider, command}.
+    /// The Edit menu is the look's own, since its commands belong to the text field with the focus.
+    QVariantList menus() const;
+
+    /// The keys in force: {sequence, command} for each command that is enabled and whose key no screen claims.
+    QVariantList shortcuts() const;
+
+    /// Does what the command with that index does, unless it is disabled.
+    Q_INVOKABLE void perform(int command);
+
+signals:
+    void shortcutsChanged();
+
+private:
+    QVariantMap item(size_t index) const;
+
+    const Platform &platform_;
+    const MainContentView &main_;
+    const std::function<void()> quit_;
+    const std::vector<Command> commands_;
+};

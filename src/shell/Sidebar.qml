@@ -1,0 +1,80 @@
+import QtQuick
+import Quillmere
+
+// The screens in their sections, the disk widget and the buttons of the sheets.
+Rectangle {
+    id: bar
+
+    required property SidebarView sidebar
+    required property MenuBarView commands
+
+    width: 220
+    color: Theme.sidebar
+
+    AnvilMark {
+        id: mark
+        x: Theme.unit * 4
+        y: Theme.unit * 4
+        width: 26
+        height: 26
+    }
+    BodyText {
+        anchors.left: mark.right
+        anchors.leftMargin: Theme.unit * 2.5
+        anchors.verticalCenter: mark.verticalCenter
+        text: "Quillmere"
+        font.pixelSize: 16
+        font.weight: Font.DemiBold
+    }
+    ListView {
+        id: list
+
+        objectName: "sidebarList"
+        anchors.top: mark.bottom
+        anchors.topMargin: Theme.unit * 3
+        anchors.bottom: footer.top
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.margins: Theme.unit * 2
+        model: bar.sidebar.items
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        section.property: "sectionTitle"
+        section.delegate: CaptionText {
+            required property string section
+            width: ListView.view.width
+            height: 34
+            leftPadding: Theme.unit * 2
+            bottomPadding: Theme.unit
+            verticalAlignment: Text.AlignBottom
+            text: section
+        }
+        delegate: SidebarButton {
+            width: ListView.view.width
+            onClicked: bar.sidebar.select(index)
+        }
+    }
+    Column {
+        id: footer
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.margins: Theme.unit * 3
+        spacing: Theme.unit * 2
+
+        DiskWidget {
+            width: parent.width
+            sidebar: bar.sidebar
+        }
+        SidebarFooter {
+            width: parent.width
+            sidebar: bar.sidebar
+        }
+    }
+    Rectangle {
+        anchors.right: parent.right
+        width: 1
+        height: parent.height
+        color: Theme.line
+    }
+}

@@ -1,0 +1,64 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// One screen's row in the sidebar.
+T.ItemDelegate {
+    id: button
+
+    required property int index
+    required property string itemTitle
+    required property string symbol
+    required property string badge
+    required property bool isSelected
+
+    implicitHeight: Theme.rowHeight
+    leftPadding: Theme.unit * 2.5
+    rightPadding: Theme.unit * 2
+    hoverEnabled: true
+    focusPolicy: Qt.TabFocus
+    text: itemTitle
+    highlighted: isSelected
+    Keys.onReturnPressed: click()
+
+    contentItem: Item {
+        Symbol {
+            id: icon
+            anchors.verticalCenter: parent.verticalCenter
+            name: button.symbol
+            size: 15
+            color: button.isSelected ? Theme.accent : Theme.secondText
+        }
+        BodyText {
+            anchors.left: icon.right
+            anchors.leftMargin: Theme.unit * 2.5
+            anchors.verticalCenter: parent.verticalCenter
+            text: button.itemTitle
+            font.weight: button.isSelected ? Font.DemiBold : Font.Normal
+        }
+        Rectangle {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            visible: button.badge.length > 0
+            width: badgeText.implicitWidth + Theme.unit * 3
+            height: 18
+            radius: 9
+            color: Theme.free
+            BodyText {
+                id: badgeText
+                anchors.centerIn: parent
+                text: button.badge
+                color: Theme.secondText
+                font.pixelSize: Theme.captionSize
+            }
+        }
+    }
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: button.isSelected ? Theme.selected : button.down ? Theme.pressed
+             : button.hovered ? Theme.hover : "transparent"
+        FocusRing {
+            visible: button.visualFocus
+        }
+    }
+}

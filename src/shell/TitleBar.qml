@@ -1,0 +1,84 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// The strip above the screen, with the search pill.
+Item {
+    id: bar
+
+    required property MainContentView main
+
+    implicitHeight: 48
+
+    Shortcut {
+        sequence: bar.main.searchSequence
+        onActivated: bar.main.openSearch()
+    }
+
+    T.Button {
+        id: pill
+
+        objectName: "searchPill"
+        anchors.centerIn: parent
+        width: 320
+        height: 30
+        hoverEnabled: true
+        focusPolicy: Qt.StrongFocus
+        text: bar.main.searchPlaceholder
+        onClicked: bar.main.openSearch()
+        Keys.onReturnPressed: click()
+
+        contentItem: Item {
+            Symbol {
+                id: glass
+                x: Theme.unit
+                anchors.verticalCenter: parent.verticalCenter
+                name: "magnifyingglass"
+                size: 13
+            }
+            BodyText {
+                anchors.left: glass.right
+                anchors.leftMargin: Theme.unit * 2
+                anchors.verticalCenter: parent.verticalCenter
+                text: pill.text
+                color: Theme.secondText
+            }
+            Rectangle {
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                width: hint.implicitWidth + Theme.unit * 3
+                height: 18
+                radius: Theme.tileRadius
+                color: Theme.raised
+                border.color: Theme.line
+                BodyText {
+                    id: hint
+                    anchors.centerIn: parent
+                    text: bar.main.searchHint
+                    color: Theme.secondText
+                    font.pixelSize: Theme.captionSize
+                }
+            }
+        }
+        background: Rectangle {
+            radius: Theme.controlRadius
+            color: pill.hovered ? Theme.raised : Theme.card
+            border.color: Theme.line
+            FocusRing {
+                visible: pill.visualFocus
+            }
+        }
+        Tip {
+            control: pill
+            isDue: pill.hovered && !pill.down
+            text: bar.main.searchTip
+        }
+    }
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: 1
+        color: Theme.line
+    }
+}

@@ -1,0 +1,11 @@
+import QtQuick
+import Quillmere
+
+// The outline of a control that has the keyboard.
+Rectangle {
+    anchors.fill: parent
+    color: "transparent"
+    border.color: Theme.accent
+    border.width: 2
+    radius: Theme.controlRadius
+}

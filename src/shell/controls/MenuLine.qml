@@ -1,0 +1,48 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// One command of a menu, with its key at the right where it has one.
+T.MenuItem {
+    id: line
+
+    property string keysText
+    property bool isDivider: false
+
+    implicitWidth: isDivider ? 0 : title.implicitWidth + keys.implicitWidth + Theme.unit * 12
+    implicitHeight: isDivider ? Theme.unit * 2 + 1 : 26
+    leftPadding: Theme.unit * 2.5
+    rightPadding: Theme.unit * 2.5
+    hoverEnabled: true
+
+    contentItem: Item {
+        BodyText {
+            id: title
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !line.isDivider
+            text: line.text
+            color: line.enabled ? Theme.text : Theme.disabledText
+        }
+        BodyText {
+            id: keys
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !line.isDivider
+            text: line.keysText
+            color: line.enabled ? Theme.secondText : Theme.disabledText
+            font.pixelSize: Theme.smallSize
+        }
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            height: 1
+            visible: line.isDivider
+            color: Theme.line
+        }
+    }
+    background: Rectangle {
+        radius: Theme.tileRadius
+        color: line.highlighted && line.enabled ? Theme.selected : "transparent"
+    }
+}

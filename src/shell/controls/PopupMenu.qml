@@ -1,0 +1,26 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Quillmere
+
+// A menu in the look of the program. Its items are MenuLine and MenuDivider.
+Menu {
+    id: menu
+
+    padding: Theme.unit
+    margins: Theme.unit
+    overlap: 1
+    delegate: MenuLine { }
+    background: Rectangle {
+        implicitWidth: 200
+        color: Theme.raised
+        radius: Theme.controlRadius
+        border.color: Theme.line
+    }
+    // As wide as its widest line.
+    width: {
+        let widest = 200;
+        for (let i = 0; i < count; ++i)
+            widest = Math.max(widest, itemAt(i).implicitWidth);
+        return widest + leftPadding + rightPadding;
+    }
+}

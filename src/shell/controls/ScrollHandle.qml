@@ -1,0 +1,21 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// A slim scroll bar over the edge of what it scrolls.
+T.ScrollBar {
+    id: bar
+
+    implicitWidth: Theme.unit * 2
+    implicitHeight: Theme.unit * 2
+    padding: 1
+    minimumSize: 0.08
+    visible: policy !== T.ScrollBar.AlwaysOff && size < 1
+
+    contentItem: Rectangle {
+        implicitWidth: 6
+        implicitHeight: 6
+        radius: 3
+        color: bar.pressed ? Theme.secondText : bar.hovered ? Theme.disabledText : Theme.line
+    }
+}

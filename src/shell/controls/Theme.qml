@@ -1,0 +1,44 @@
+pragma Singleton
+
+import QtQuick
+
+// Every colour, size and duration of the look. Spacing goes in steps of 4.
+QtObject {
+    property bool isDark: true // set by the window, which follows the system
+
+    readonly property color window: isDark ? "#0d1117" : "#ffffff"
+    readonly property color sidebar: isDark ? "#161b22" : "#f6f8fa"
+    readonly property color card: isDark ? "#161b22" : "#ffffff"
+    readonly property color raised: isDark ? "#1c2128" : "#f6f8fa"
+    readonly property color line: isDark ? "#30363d" : "#d0d7de"
+    readonly property color text: isDark ? "#e6edf3" : "#1f2328"
+    readonly property color secondText: isDark ? "#8b949e" : "#59636e"
+    readonly property color disabledText: isDark ? "#484f58" : "#a4acb5"
+    readonly property color accent: isDark ? "#58a6ff" : "#0969da"
+    readonly property color green: isDark ? "#3fb950" : "#1a7f37"
+    readonly property color amber: isDark ? "#d29922" : "#9a6700"
+    readonly property color red: isDark ? "#f85149" : "#cf222e"
+    readonly property color free: isDark ? "#21262d" : "#e4e9ee"
+
+    // Laid over what is under the pointer or pressed.
+    readonly property color hover: isDark ? "#12ffffff" : "#0c000000"
+    readonly property color pressed: isDark ? "#1fffffff" : "#18000000"
+    readonly property color selected: isDark ? "#2658a6ff" : "#1f0969da"
+
+    readonly property int cardRadius: 8
+    readonly property int controlRadius: 6
+    readonly property int tileRadius: 4
+    readonly property int unit: 4
+
+    readonly property int bodySize: 13
+    readonly property int smallSize: 12
+    readonly property int captionSize: 11
+    readonly property int titleSize: 20
+    readonly property int rowHeight: 32
+    readonly property int controlHeight: 28
+
+    readonly property int quick: 120 // ms
+    readonly property int calm: 180  // ms
+
+    readonly property string symbolFamily: "Quillmere Symbols"
+}

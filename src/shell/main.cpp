@@ -1,0 +1,84 @@
+#include "platform/Appearance.h"
+#include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/LinuxSingleInstance.h"
+#include "platform/linux/PortalAppearance.h"
+#include "platform/linux/QuitSignals.h"
+#include "shell/Composition.h"
+#include "shell/FolderPanel.h"
+#include "shell/ProgramInfo.h"
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+
+#include <cstdio>
+#include <optional>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int exitWithoutDisplay = 69; // EX_UNAVAILABLE
+constexpr int exitWithoutLook = 70;    // EX_SOFTWARE
+
+/// Where the toolkit finds no display it ends the process with an abort; a user gets words and a code instead.
+void tellMissingDisplay(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtFatalMsg) {
+        fputs("Quillmere needs a display. Start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY.\n",
+              stderr);
+        fflush(stderr);
+        _exit(exitWithoutDisplay);
+    }
+    fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+}
+
+[[noreturn]] void exitNow()
+{
+    fflush(nullptr);
+    _exit(EXIT_SUCCESS);
+}
+
+/// What another start hands over so that our window may take the focus.
+QByteArray activationToken()
+{
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QtMessageHandler usual = qInstallMessageHandler(tellMissingDisplay);
+    QGuiApplication application(argc, argv);
+    qInstallMessageHandler(usual);
+    program::describe(application);
+
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    LinuxSingleInstance instance(bus, LinuxPlatform::runtimeFolder() + QStringLiteral("/com.quillmere.app.lock"));
+    if (!instance.acquire()) {
+        instance.activateRunning(activationToken());
+        return EXIT_SUCCESS;
+    }
+
+    std::optional<FolderPanel> panel; // made with the window; nobody asks for a folder before
+    LinuxPlatform linuxPlatform({bus, QString::fromLocal8Bit(qgetenv("PATH")).split(u':', Qt::SkipEmptyParts),
+                                 [&panel](const Workspace::FolderRequest &request, Workspace::FolderChosen chosen) {
+                                     if (panel)
+                                         panel->choose(request, std::move(chosen));
+                                 }});
+    Appearance appearance;
+    const PortalAppearance portal(bus, appearance);
+    Composition composition(linuxPlatform.platform(), appearance, program::feedbackProgram(), [&composition] {
+        composition.disk().cancelProbes(); // or they would measure on for nobody
+        exitNow();
+    });
+    const QuitSignals quitSignals([&composition] { composition.quit().handleQuitEvent(); });
+    QObject::connect(&application, &QCoreApplication::aboutToQuit,
+                     [&composition] { composition.quit().handleQuitEvent(); }); // the session's end
+    instance.onActivate = [&composition](const QByteArray &token) { composition.activate(token); };
+    if (!composition.show())
+        return exitWithoutLook;
+    panel.emplace(composition.engine());
+    return QGuiApplication::exec();
+}
