@@ -1,0 +1,81 @@
+#include "DriverPlatform.h"
+
+#include "Arguments.h"
+#include "base/Files.h"
+#include "base/Paths.h"
+#include "platform/LinuxEnvironment.h"
+#include "shell/common/SettingsKeys.h"
+#include "UsageError.h"
+
+namespace {
+
+constexpr qint64 largestUserDirectoriesFile = 1 << 20; // bytes
+
+const QString layoutOption = QStringLiteral("layout");
+const QString applicationsOption = QStringLiteral("applications");
+
+/// A folder's path as the program itself writes it, without a slash at its end.
+QString folderPath(const QString &path)
+{
+    QString folder = Arguments::absolutePath(path);
+    while (folder.size() > 1 && folder.endsWith(u'/'))
+        folder.chop(1);
+    return folder;
+}
+
+Locations linuxPlaces(const QString &home)
+{
+    LinuxEnvironment environment; // the defaults below the home, whatever this process's own variables say
+    const QString file = paths::join(home, QStringLiteral(".config/user-dirs.dirs"));
+    if (const auto content = files::readPrefix(file, largestUserDirectoriesFile))
+        environment.userDirectories = parseUserDirectories(*content, home);
+    return linuxLocations(home, environment);
+}
+
+std::function<Locations()> chosenPlaces(const Arguments &arguments, const QString &home)
+{
+    const QString layout =
+        arguments.has(layoutOption) ? arguments.value(layoutOption) : QStringLiteral("mac");
+    const bool hasApplications = arguments.has(applicationsOption);
+    if (layout == u"linux" && hasApplications)
+        throw UsageError{QStringLiteral("--applications belongs to the layout mac")};
+    if (layout == u"linux")
+        return [home] { return linuxPlaces(home); };
+    if (layout != u"mac")
+        throw UsageError{QStringLiteral("the layouts are mac and linux")};
+    if (!hasApplications)
+        return [home] { return macLocations(home); };
+    return [home, folder = folderPath(arguments.value(applicationsOption))] {
+        return macLocations(home, folder);
+    };
+}
+
+} // namespace
+
+DriverPlatform::DriverPlatform()
+    : DriverPlatform(QStringLiteral("/"), [] { return macLocations(QStringLiteral("/")); })
+{
+}
+
+DriverPlatform::DriverPlatform(const Arguments &arguments)
+    : DriverPlatform(folderPath(arguments.operands().constFirst()),
+                     chosenPlaces(arguments, folderPath(arguments.operands().constFirst())))
+{
+}
+
+DriverPlatform::DriverPlatform(const QString &home, std::function<Locations()> locations)
+    : home_(home)
+    , locations_(std::move(locations))
+    , platform_{home_,      locations_, defaults_,      clock_,     ChildPrograms(), KeyStyle::words,
+                mainQueue_, workQueue_, notifications_, workspace_, systemLog_,      systemInfo_}
+    , fileSystem_(platform_,
+                  [this](const QString &path) { return disk_.probeSize(path, ProbeContext::generic); })
+    , disk_(platform_, fileSystem_)
+{
+    defaults_.registerDefaults(settings::registeredDefaults());
+}
+
+std::vector<Option> DriverPlatform::homeOptions()
+{
+    return {{layoutOption, true}, {applicationsOption, true}};
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "base/EventLoopMainQueue.h"
+#include "base/ThreadWorkQueue.h"
+#include "disk/DiskService.h"
+#include "DriverFakes.h"
+#include "filesystem/FileSystemService.h"
+#include "platform/Platform.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class Arguments;
+struct Option;
+
+/// The platform of the driver: real files, child programs, queues and clock; no desktop, and settings in memory with
+/// the registered values. With it the engines over it, so that a verb has them at hand. Main thread.
+class DriverPlatform
+{
+public:
+    /// A platform whose places nobody asks for.
+    DriverPlatform();
+
+    /// A platform over the home folder that is the first operand, with the places that the options name.
+    explicit DriverPlatform(const Arguments &arguments);
+
+    /// The options that the second constructor reads, for the verbs that take a home folder.
+    static std::vector<Option> homeOptions();
+
+    const Platform &platform() const { return platform_; }
+    DiskService &disk() { return disk_; }
+    FileSystemService &fileSystem() { return fileSystem_; }
+
+private:
+    DriverPlatform(const QString &home, std::function<Locations()> locations);
+
+    QString home_;
+    SystemClock clock_;
+    EventLoopMainQueue mainQueue_;
+    ThreadWorkQueue workQueue_;
+    NotificationCenter notifications_;
+    Defaults defaults_;
+    Lazy<Locations> locations_;
+    NoWorkspace workspace_;
+    NoSystemLog systemLog_;
+    NoSystemInfo systemInfo_;
+    Platform platform_;
+    FileSystemService fileSystem_;
+    DiskService disk_;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "base/Date.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+
+/// What the verbs print and read as JSON.
+namespace json {
+
+/// A name or path; each byte that is not UTF-8 is U+FFFD.
+QJsonValue text(const QString &text);
+
+/// "2024-02-29T12:00:00.123456789Z", in UTC; null for the distant past, which stands for no date.
+QJsonValue date(Date date);
+
+/// One line on standard output, the keys in alphabetical order.
+void print(const QJsonArray &array);
+void print(const QJsonObject &object);
+
+/// All of standard input as an array of objects. Throws UsageError when it is anything else.
+QJsonArray readObjects();
+
+} // namespace json

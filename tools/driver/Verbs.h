@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Verb.h"
+
+#include <limits>
+#include <vector>
+
+/// The groups of verbs, a source file each.
+namespace verbs {
+
+inline constexpr qsizetype anyNumber = std::numeric_limits<qsizetype>::max();
+
+std::vector<Verb> ofFiles(); ///< folders and trees
+std::vector<Verb> ofDisk();  ///< sizes of the user's main folders, and the map
+std::vector<Verb> ofTexts(); ///< formatters and settings
+
+} // namespace verbs
