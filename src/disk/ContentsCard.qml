@@ -26,15 +26,24 @@ FocusScope {
         anchors.rightMargin: Theme.unit * 4
         view: card.view
     }
+    ParentRow {
+        id: parentRow
+        anchors.top: columns.bottom
+        anchors.topMargin: Theme.unit
+        anchors.left: list.left
+        anchors.right: list.right
+        text: card.view.parentRowText
+        onClicked: card.view.goBack()
+    }
     ListView {
         id: list
         objectName: "contentsList"
-        anchors.top: columns.bottom
+        anchors.top: parentRow.bottom
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.margins: Theme.unit * 2
-        anchors.topMargin: Theme.unit
+        anchors.topMargin: 0
         clip: true
         focus: true
         boundsBehavior: Flickable.StopAtBounds
@@ -43,17 +52,18 @@ FocusScope {
         currentIndex: -1
         keyNavigationEnabled: true
         activeFocusOnTab: true
+
+        function take(index) {
+            currentIndex = index;
+            forceActiveFocus();
+        }
+
         T.ScrollBar.vertical: ScrollHandle { }
         Keys.onReturnPressed: card.view.activateRow(currentIndex)
         Keys.onEnterPressed: card.view.activateRow(currentIndex)
         Keys.onRightPressed: card.view.openRow(currentIndex)
         Keys.onLeftPressed: card.view.goBack()
         Keys.onMenuPressed: menu.openAt(currentIndex)
-        header: ParentRow {
-            width: ListView.view.width
-            text: card.view.parentRowText
-            onClicked: card.view.goBack()
-        }
         delegate: ContentsRow {
             width: ListView.view.width
             isCurrent: ListView.isCurrentItem && list.activeFocus
@@ -61,7 +71,7 @@ FocusScope {
             onClicked: card.view.openRow(index)
             onRevealed: card.view.revealRow(index)
             onMenuRequested: menu.openAt(index)
-            onPressed: list.currentIndex = index
+            onPressed: list.take(index)
         }
     }
     ContentsMenu {

@@ -12,12 +12,13 @@ PopupMenu {
         if (index < 0)
             return;
         row = index;
+        openLine.text = view.openText(index); // what stands in that row now
         popup();
     }
 
     MenuLine {
+        id: openLine
         objectName: "openLine"
-        text: menu.view.openText(menu.row)
         onTriggered: menu.view.activateRow(menu.row)
     }
     MenuLine {

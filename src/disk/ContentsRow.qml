@@ -93,8 +93,10 @@ T.ItemDelegate {
         radius: Theme.controlRadius
         color: row.isCurrent ? Theme.selected : row.down ? Theme.pressed : row.hovered ? Theme.hover : "transparent"
     }
-    TapHandler {
+    // No TapHandler: it would make the row take the right button for a click of its own.
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onTapped: row.menuRequested()
+        onClicked: row.menuRequested()
     }
 }

@@ -40,9 +40,10 @@ std::vector<StorageCategory> DiskService::computeStorageCategories()
     for (const Locations::StorageRow &row : platform_.locations->storageRows) {
         qint64 size = 0;
         for (const QString &place : row.places) {
-            // Only a probe that talks nonsense gets beyond 64 bits, and nonsense counts 0.
-            if (__builtin_add_overflow(size, probeSize(place, ProbeContext::storage), &size))
-                size = 0;
+            // Only a probe that talks nonsense leads beyond 64 bits, and nonsense counts 0.
+            qint64 sum = 0;
+            if (!__builtin_add_overflow(size, probeSize(place, ProbeContext::storage), &sum))
+                size = sum;
         }
         categories.push_back({QUuid::createUuid(), row.name, size, row.color, row.icon, {}});
     }

@@ -21,7 +21,7 @@ PopupMenu {
             text: modelData.title
             keysText: modelData.keysText
             isDivider: modelData.isDivider
-            enabled: modelData.isEnabled
+            enabled: modelData.isEnabled && (menu.commands.hasText || !modelData.isText)
             onTriggered: menu.commands.perform(modelData.command)
         }
     }

@@ -20,6 +20,7 @@ Composition::Composition(const Platform &platform, Appearance &appearance, feedb
     , sidebar_(platform, disk(), content_)
     , main_(platform, content_, screens())
     , menuBar_(platform, main_, [this] { quit_.requestQuit(); })
+    , editCommands_(menuBar_)
 {
     platform.defaults.registerDefaults(settings::registeredDefaults());
 }

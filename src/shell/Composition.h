@@ -5,6 +5,7 @@
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
 #include "shell/ContentView.h"
+#include "shell/EditCommands.h"
 #include "shell/MainContentView.h"
 #include "shell/MenuBarView.h"
 #include "shell/QuitPaths.h"
@@ -61,6 +62,7 @@ private:
     SidebarView sidebar_;
     MainContentView main_;
     MenuBarView menuBar_;
+    EditCommands editCommands_;
     QQmlApplicationEngine engine_;
     QQuickWindow *window_ = nullptr;
 };

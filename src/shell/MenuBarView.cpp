@@ -19,6 +19,12 @@ Command navigateTo(const char *menu, const char *title, const char16_t *keys, Si
             notifications::navigate, sidebar::key(item)};
 }
 
+Command textCommand(const char *title, const char16_t *keys, const char *name)
+{
+    return {QStringLiteral("Edit"), QString::fromLatin1(title), QString::fromUtf16(keys), {}, {}, true,
+            QString::fromLatin1(name)};
+}
+
 /// The window's commands in the order of the menus. The Quit command has no notification: it ends the program.
 std::vector<Command> allCommands()
 {
@@ -33,6 +39,14 @@ std::vector<Command> allCommands()
         {program, QStringLiteral("Quit Quillmere"), QStringLiteral("⌘Q"), {}, {}, true},
         {QStringLiteral("File"), QStringLiteral("New Folder…"), QStringLiteral("⌘N"), notifications::newFolder, {},
          false},
+        textCommand("Undo", u"⌘Z", "undo"),
+        textCommand("Redo", u"⇧⌘Z", "redo"),
+        divider("Edit"),
+        textCommand("Cut", u"⌘X", "cut"),
+        textCommand("Copy", u"⌘C", "copy"),
+        textCommand("Paste", u"⌘V", "paste"),
+        divider("Edit"),
+        textCommand("Select All", u"⌘A", "selectAll"),
         navigateTo("View", "Dashboard", u"⌘1", SidebarItem::dashboard),
         navigateTo("View", "File Browser", u"⌘2", SidebarItem::fileBrowser),
         navigateTo("View", "Search", u"⌘3", SidebarItem::search),
@@ -82,6 +96,7 @@ QVariantMap MenuBarView::item(size_t index) const
         {QStringLiteral("keysText"), keysigns::text(command.keys, platform_.keyStyle)},
         {QStringLiteral("isEnabled"), command.isEnabled},
         {QStringLiteral("isDivider"), command.title.isEmpty()},
+        {QStringLiteral("isText"), !command.textCommand.isEmpty()},
         {QStringLiteral("command"), static_cast<int>(index)},
     };
 }
@@ -104,9 +119,9 @@ QVariantList MenuBarView::shortcuts() const
     QVariantList shortcuts;
     for (size_t i = 0; i < commands_.size(); ++i) {
         const Command &command = commands_[i];
-        // Quitting by key is watched for ahead of everything else, so it is none of these.
-        const bool isQuit = command.notification.isEmpty();
-        if (command.keys.isEmpty() || !command.isEnabled || isQuit || main_.claimsKey(command.keys))
+        // Quitting by key is watched for ahead of everything else, and a text field knows its own keys.
+        const bool isWatchedElsewhere = command.notification.isEmpty();
+        if (command.keys.isEmpty() || !command.isEnabled || isWatchedElsewhere || main_.claimsKey(command.keys))
             continue;
         shortcuts.append(QVariantMap{{QStringLiteral("sequence"), keysigns::sequence(command.keys)},
                                      {QStringLiteral("command"), static_cast<int>(i)}});
@@ -121,8 +136,18 @@ void MenuBarView::perform(int command)
     const Command &chosen = commands_[static_cast<size_t>(command)];
     if (!chosen.isEnabled)
         return;
-    if (chosen.notification.isEmpty())
+    if (!chosen.textCommand.isEmpty())
+        emit textCommandChosen(chosen.textCommand);
+    else if (chosen.notification.isEmpty())
         quit_();
     else
         platform_.notifications.post(chosen.notification, chosen.object);
+}
+
+void MenuBarView::setHasText(bool hasText)
+{
+    if (hasText_ == hasText)
+        return;
+    hasText_ = hasText;
+    emit hasTextChanged();
 }

@@ -14,6 +14,7 @@ class MenuBarView final : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QVariantList menus READ menus CONSTANT)
+    Q_PROPERTY(bool hasText READ hasText NOTIFY hasTextChanged)
     Q_PROPERTY(QVariantList shortcuts READ shortcuts NOTIFY shortcutsChanged)
 
 public:
@@ -25,14 +26,15 @@ public:
         QString notification; ///< posted when the command is chosen
         QVariant object;      ///< what the notification carries
         bool isEnabled = true;
+        QString textCommand = {}; ///< instead of a notification: what the text field with the focus is to do
     };
 
     MenuBarView(const Platform &platform, const MainContentView &main, std::function<void()> quit);
 
     const std::vector<Command> &commands() const { return commands_; }
 
-    /// For the look: a list of menus, each {title, items}, an item {title, keysText, isEnabled, isDivider, command}.
-    /// The Edit menu is the look's own, since its commands belong to the text field with the focus.
+    /// For the look: a list of menus, each {title, items}, an item {title, keysText, isEnabled, isDivider, isText,
+    /// command}. Those with `isText` are enabled only while `hasText` is set.
     QVariantList menus() const;
 
     /// The keys in force: {sequence, command} for each command that is enabled and whose key no screen claims.
@@ -41,7 +43,13 @@ public:
     /// Does what the command with that index does, unless it is disabled.
     Q_INVOKABLE void perform(int command);
 
+    /// Whether a text field has the focus.
+    bool hasText() const { return hasText_; }
+    void setHasText(bool hasText);
+
 signals:
+    void hasTextChanged();
+    void textCommandChosen(const QString &textCommand);
     void shortcutsChanged();
 
 private:
@@ -51,4 +59,5 @@ private:
     const MainContentView &main_;
     const std::function<void()> quit_;
     const std::vector<Command> commands_;
+    bool hasText_ = false;
 };

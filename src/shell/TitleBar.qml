@@ -22,6 +22,8 @@ Item {
         anchors.centerIn: parent
         width: 320
         height: 30
+        leftPadding: Theme.unit
+        rightPadding: Theme.unit * 1.5
         hoverEnabled: true
         focusPolicy: Qt.StrongFocus
         text: bar.main.searchPlaceholder
