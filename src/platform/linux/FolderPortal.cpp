@@ -1,0 +1,132 @@
+#include "platform/linux/FolderPortal.h"
+
+#include "base/Paths.h"
+
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QRandomGenerator>
+
+#include <utility>
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString objectPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
+
+// What a portal's Response carries.
+constexpr uint succeeded = 0;
+constexpr uint cancelled = 1; // by the user; 2 is every other end, such as a panel that couldn't be shown
+
+/// A name for one request that no other program on the bus can guess.
+QString randomToken()
+{
+    QRandomGenerator *random = QRandomGenerator::system();
+    return QStringLiteral("quillmere%1%2")
+        .arg(random->generate64(), 16, 16, QChar(u'0'))
+        .arg(random->generate64(), 16, 16, QChar(u'0'));
+}
+
+/// Where the portal puts the object of a request of ours, by its documentation: ":1.42" is "1_42" there.
+QString expectedPath(const QDBusConnection &bus, const QString &token)
+{
+    const QString sender = bus.baseService().mid(1).replace(u'.', u'_');
+    return objectPath + QStringLiteral("/request/") + sender + u'/' + token;
+}
+
+QVariantMap options(const Workspace::FolderRequest &request, const QString &token)
+{
+    QVariantMap options{
+        {QStringLiteral("handle_token"), token},
+        {QStringLiteral("directory"), true},
+        {QStringLiteral("multiple"), false},
+        {QStringLiteral("modal"), true},
+    };
+    if (!request.start.isEmpty())
+        options.insert(QStringLiteral("current_folder"),
+                       paths::toBytes(request.start) + '\0'); // the NUL is asked for
+    return options;
+}
+
+} // namespace
+
+FolderPortal::FolderPortal(QDBusConnection bus, Answers answers)
+    : bus_(std::move(bus))
+    , answers_(std::move(answers))
+    , portal_(service, bus_, QDBusServiceWatcher::WatchForUnregistration)
+{
+    // A portal that ends takes its panel with it and answers no more.
+    connect(&portal_, &QDBusServiceWatcher::serviceUnregistered, this, [this] { finish(std::nullopt); });
+}
+
+void FolderPortal::open(const Workspace::FolderRequest &request)
+{
+    isOpen_ = true;
+    const QString token = randomToken();
+    listenAt(expectedPath(bus_, token)); // before the call, whose answer could come at once
+    QDBusMessage call = QDBusMessage::createMethodCall(service, objectPath,
+                                                       QStringLiteral("org.freedesktop.portal.FileChooser"),
+                                                       QStringLiteral("OpenFile"));
+    const QString noParentWindow = QStringLiteral("");
+    call.setArguments({noParentWindow, paths::display(request.message), options(request, token)});
+    const auto *watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *finished) {
+        finished->deleteLater();
+        takeReply(finished->reply());
+    });
+}
+
+void FolderPortal::dismiss()
+{
+    if (!std::exchange(isOpen_, false))
+        return;
+    const auto close =
+        QDBusMessage::createMethodCall(service, requestPath_, requestInterface, QStringLiteral("Close"));
+    bus_.send(close); // nobody waits for its answer
+}
+
+void FolderPortal::respond(uint code, const QVariantMap &results)
+{
+    if (code == cancelled) {
+        finish(std::nullopt);
+        return;
+    }
+    const QStringList addresses = results.value(QStringLiteral("uris")).toStringList();
+    const QString folder = addresses.isEmpty() ? QString() : paths::fromFileUrl(addresses.first().toUtf8());
+    if (code != succeeded)
+        fail();
+    else
+        finish(folder.isEmpty() ? std::nullopt : std::optional(folder));
+}
+
+void FolderPortal::listenAt(const QString &requestPath)
+{
+    requestPath_ = requestPath;
+    // From any sender: naming the portal here would make Qt ask who that is and wait. The path can't be guessed.
+    bus_.connect(QString(), requestPath, requestInterface, QStringLiteral("Response"), this,
+                 SLOT(respond(uint, QVariantMap)));
+}
+
+void FolderPortal::takeReply(const QDBusMessage &reply)
+{
+    if (reply.type() != QDBusMessage::ReplyMessage) {
+        fail();
+        return;
+    }
+    // A portal from before handle tokens names the object as it likes.
+    const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
+    if (!path.isEmpty() && path != requestPath_)
+        listenAt(path);
+}
+
+void FolderPortal::finish(const std::optional<QString> &folder)
+{
+    if (std::exchange(isOpen_, false))
+        answers_.chosen(folder);
+}
+
+void FolderPortal::fail()
+{
+    if (std::exchange(isOpen_, false))
+        answers_.failed();
+}

@@ -1,0 +1,78 @@
+#include "base/SystemCalls.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+files::Kind kindOf(unsigned mode)
+{
+    if (S_ISREG(mode))
+        return files::Kind::file;
+    if (S_ISDIR(mode))
+        return files::Kind::directory;
+    return S_ISLNK(mode) ? files::Kind::link : files::Kind::other;
+}
+
+/// The hidden attribute of this system is a leading dot.
+bool hasHiddenName(const char *path)
+{
+    const char *slash = strrchr(path, '/');
+    return (slash ? slash[1] : path[0]) == '.';
+}
+
+/// For file systems that know no exclusive rename (EINVAL on some FUSE and network mounts). A hard link is
+/// exclusive too; where that is refused as well (folders, no links) a look right before the rename is all there
+/// is, which leaves a moment in which another program's new file would be replaced.
+int renameAfterLook(const char *from, const char *to)
+{
+    if (link(from, to) == 0)
+        return unlink(from) == 0 ? 0 : errno;
+    if (errno == EEXIST)
+        return EEXIST;
+    struct stat status = {};
+    if (lstat(to, &status) == 0)
+        return EEXIST;
+    return rename(from, to) == 0 ? 0 : errno;
+}
+
+} // namespace
+
+namespace systemcalls {
+
+std::optional<files::Attributes> entryAttributes(int directory, const char *path)
+{
+    struct statx status = {};
+    // No AT_STATX_SYNC flags: what a network mount has cached is good enough, as with stat.
+    if (statx(directory, path, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, STATX_BASIC_STATS | STATX_BTIME,
+              &status)
+        == -1)
+        return std::nullopt;
+    files::Attributes attributes;
+    attributes.kind = kindOf(status.stx_mode);
+    attributes.size = static_cast<qint64>(status.stx_size);
+    attributes.modified = dates::fromUnix(status.stx_mtime.tv_sec, status.stx_mtime.tv_nsec);
+    if (status.stx_mask & STATX_BTIME)
+        attributes.created = dates::fromUnix(status.stx_btime.tv_sec, status.stx_btime.tv_nsec);
+    attributes.isHidden = hasHiddenName(path);
+    return attributes;
+}
+
+int renameWithoutReplacing(const char *from, const char *to)
+{
+    if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0)
+        return 0;
+    return errno == EINVAL ? renameAfterLook(from, to) : errno;
+}
+
+int openPipe(int (&ends)[2])
+{
+    return pipe2(ends, O_CLOEXEC);
+}
+
+} // namespace systemcalls

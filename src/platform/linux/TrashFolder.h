@@ -1,0 +1,70 @@
+#pragma once
+
+#include "base/Error.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+#include <sys/types.h>
+
+/// One Trash on the disk, as freedesktop.org's trash specification lays it out: the items in "files", and beside them
+/// in "info" a note for each, which says where it came from. A note that exists reserves its name.
+///
+/// For what the desktop's library can't do itself; otherwise the Trash is the library's. Safe from any thread.
+class TrashFolder
+{
+public:
+    /// An item's two places.
+    struct Entry {
+        QString file;
+        QString info;
+    };
+
+    /// What tells one item on the disk from all others.
+    struct Identity {
+        dev_t device = 0;
+        ino_t number = 0;
+
+        bool operator==(const Identity &) const = default;
+    };
+
+    /// The item's own; a link's is not that of its target. None when nothing is there.
+    static std::optional<Identity> identity(const QString &path);
+
+    /// The home Trash below the data folder. It need not exist.
+    static TrashFolder ofHome(const QString &dataFolder);
+
+    /// The user's own Trash on the volume that the item at an absolute path is on. None when there is none, or none
+    /// that is safe to use: neither the volume's common ".Trash" nor the user's folder may be a link.
+    static std::optional<TrashFolder> ofVolume(const QString &item);
+
+    /// The folder that holds "files" and "info".
+    const QString &path() const { return path_; }
+
+    /// The place that the library has given to an item that it has just moved. `name` is the item's last path
+    /// component. None when it isn't found.
+    std::optional<Entry> find(const QString &name, const Identity &identity) const;
+
+    /// True when the library would move an item of that name over one that has lost its note.
+    bool wouldReplace(const QString &name) const;
+
+    /// Takes a free name for the item at an absolute path by writing its note. The Trash is made where it is
+    /// missing. Throws Error (the system's).
+    Entry reserve(const QString &item) const;
+
+    /// Writes an entry's note anew where it has been left empty. Throws Error (the system's).
+    void mend(const Entry &entry, const QString &item) const;
+
+    /// Gives a reserved name back.
+    static void release(const Entry &entry);
+
+private:
+    TrashFolder(QString path, QString top);
+    Entry entry(const QString &name) const;
+    QByteArray note(const QString &item) const;
+
+    QString path_;
+    QString top_; // the root of its volume, links resolved; empty for the home Trash
+};

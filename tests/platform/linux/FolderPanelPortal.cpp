@@ -1,0 +1,50 @@
+#include "FolderPanelPortal.h"
+
+#include "WaitUntil.h"
+
+#include <QDBusArgument>
+#include <QDBusObjectPath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+
+} // namespace
+
+FolderPanelPortal::FolderPanelPortal(const QDBusConnection &bus)
+    : bus_(bus)
+    , service_(bus, u"org.freedesktop.portal.Desktop"_s, portalPath,
+               [this](const QDBusMessage &call) { return take(call); })
+{
+}
+
+void FolderPanelPortal::respond(uint code, const QStringList &addresses)
+{
+    QDBusMessage signal =
+        QDBusMessage::createSignal(requestPath, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+    signal.setArguments({code, QVariantMap{{u"uris"_s, addresses}}});
+    bus_.send(signal);
+}
+
+bool FolderPanelPortal::waitForRequest() const
+{
+    return waitUntil([this] { return !requestPath.isEmpty(); });
+}
+
+QDBusMessage FolderPanelPortal::take(const QDBusMessage &call)
+{
+    if (call.member() == u"Close") {
+        closed.append(call.path());
+        return call.createReply();
+    }
+    title = call.arguments().value(1).toString();
+    options = qdbus_cast<QVariantMap>(call.arguments().value(2));
+    const QString sender = call.service().mid(1).replace(u'.', u'_'); // ":1.42" is "1_42" there
+    const QString token = namesItsOwnPath ? u"own"_s : options.value(u"handle_token"_s).toString();
+    requestPath = portalPath + u"/request/"_s + sender + u'/' + token;
+    if (immediateCode)
+        respond(*immediateCode, {u"file:///at%20once"_s});
+    return call.createReply(QVariant::fromValue(QDBusObjectPath(requestPath)));
+}

@@ -1,0 +1,351 @@
+#include "platform/linux/JsonDefaults.h"
+
+#include "base/Files.h"
+#include "ScratchFolder.h"
+
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <array>
+#include <csignal>
+#include <ctime>
+#include <functional>
+#include <limits>
+#include <set>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString name = u"settings.json"_s;
+
+QByteArray contentOf(const QString &path)
+{
+    return files::readPrefix(path, 64 << 20).value_or("(can't be read)");
+}
+
+QJsonObject objectIn(const QString &path)
+{
+    return QJsonDocument::fromJson(contentOf(path)).object();
+}
+
+std::set<QString> namesIn(const QString &folder)
+{
+    const auto names = files::list(folder);
+    return names ? std::set<QString>(names->begin(), names->end()) : std::set<QString>();
+}
+
+/// Runs `block` in a process of its own and gives its exit code.
+int inAnotherProcess(const std::function<void()> &block)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        block();
+        _exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// Fills the settings with one large value after the other, telling of each on `pipe`, until it is killed.
+[[noreturn]] void storeForEver(const QString &path, int pipe)
+{
+    JsonDefaults defaults(path);
+    for (int i = 0;; ++i) {
+        defaults.set(u"large"_s, QString(100'000, QChar(u'a' + i % 26)));
+        const char byte = 0;
+        if (write(pipe, &byte, 1) != 1)
+            _exit(0);
+    }
+}
+
+/// Kills a process that stores `path` over and over, just after it has said that it stored for the `stores`-th time.
+void killWhileStoring(const QString &path, int stores)
+{
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        close(ends[0]);
+        storeForEver(path, ends[1]);
+    }
+    close(ends[1]);
+    char byte = 0;
+    for (int i = 0; i < stores; ++i)
+        ASSERT_EQ(read(ends[0], &byte, 1), 1);
+    ASSERT_EQ(usleep(static_cast<useconds_t>(stores) * 70), 0); // somewhere into the next one
+    ASSERT_EQ(kill(child, SIGKILL), 0);
+    ASSERT_EQ(waitpid(child, nullptr, 0), child);
+    close(ends[0]);
+    unlink((paths::toBytes(path) + ".lock").constData()); // a test of its own
+}
+
+} // namespace
+
+TEST(JsonDefaults, touchesNoDiskUntilTheFirstUse)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.write(name, "garbage");
+    {
+        JsonDefaults defaults(path);
+        defaults.registerDefaults({{u"a"_s, 1}});
+    }
+    EXPECT_EQ(namesIn(scratch.path()), std::set<QString>{name});
+    EXPECT_EQ(contentOf(path), "garbage");
+}
+
+TEST(JsonDefaults, readingMakesNoFile)
+{
+    const ScratchFolder scratch;
+    const JsonDefaults defaults(scratch.path(u"config/settings.json"_s));
+    EXPECT_FALSE(defaults.value(u"a"_s).isValid());
+    EXPECT_TRUE(namesIn(scratch.path()).empty());
+}
+
+TEST(JsonDefaults, writesEachSetThroughWithItsType)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.path(u"config/quillmere/settings.json"_s);
+    JsonDefaults defaults(path);
+    defaults.set(u"flag"_s, true);
+    EXPECT_EQ(objectIn(path), (QJsonObject{{u"flag"_s, true}}));
+    defaults.set(u"count"_s, 30);
+    defaults.set(u"ratio"_s, 0.25);
+    defaults.set(u"text"_s, u"a \"b\"\n🗂"_s);
+    defaults.set(u"list"_s, QVariantList{u"x"_s, 1, false});
+    defaults.set(u"map"_s, QVariantMap{{u"inner"_s, 5}});
+    const QJsonObject expected{{u"flag"_s, true},
+                               {u"count"_s, 30},
+                               {u"ratio"_s, 0.25},
+                               {u"text"_s, u"a \"b\"\n🗂"_s},
+                               {u"list"_s, QJsonArray{u"x"_s, 1, false}},
+                               {u"map"_s, QJsonObject{{u"inner"_s, 5}}}};
+    EXPECT_EQ(objectIn(path), expected);
+}
+
+TEST(JsonDefaults, readsWhatAnEarlierProcessStored)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.path(name);
+    ASSERT_EQ(inAnotherProcess([&path] {
+                  JsonDefaults defaults(path);
+                  defaults.set(u"flag"_s, true);
+                  defaults.set(u"count"_s, -7);
+                  defaults.set(u"list"_s, QVariantList{u"x"_s, 1});
+              }),
+              0);
+    const JsonDefaults defaults(path);
+    EXPECT_TRUE(defaults.boolean(u"flag"_s));
+    EXPECT_EQ(defaults.integer(u"count"_s), -7);
+    EXPECT_EQ(defaults.value(u"list"_s), QVariant(QVariantList{u"x"_s, 1LL}));
+}
+
+TEST(JsonDefaults, keepsWholeNumbersOf64BitsExact)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.path(name);
+    ASSERT_EQ(inAnotherProcess([&path] {
+                  JsonDefaults defaults(path);
+                  defaults.set(u"large"_s, (1LL << 53) + 1);
+                  defaults.set(u"most"_s, std::numeric_limits<qint64>::max());
+                  defaults.set(u"least"_s, std::numeric_limits<qint64>::min());
+              }),
+              0);
+    JsonDefaults defaults(path);
+    defaults.set(u"other"_s, 1); // the file is written again from what was read
+    EXPECT_EQ(defaults.integer(u"large"_s), (1LL << 53) + 1);
+    EXPECT_EQ(defaults.integer(u"most"_s), std::numeric_limits<qint64>::max());
+    EXPECT_EQ(defaults.integer(u"least"_s), std::numeric_limits<qint64>::min());
+    EXPECT_TRUE(contentOf(path).contains("9007199254740993"));
+    EXPECT_TRUE(contentOf(path).contains("9223372036854775807"));
+}
+
+TEST(JsonDefaults, removingBringsTheRegisteredValueBack)
+{
+    const ScratchFolder scratch;
+    JsonDefaults defaults(scratch.path(name));
+    defaults.registerDefaults({{u"count"_s, 30}});
+    defaults.set(u"count"_s, 7);
+    EXPECT_EQ(defaults.integer(u"count"_s), 7);
+    defaults.remove(u"count"_s);
+    EXPECT_EQ(defaults.integer(u"count"_s), 30);
+    EXPECT_EQ(objectIn(scratch.path(name)), QJsonObject());
+}
+
+TEST(JsonDefaults, keepsValuesOfWrongTypesAsTheyAre)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.write(
+        name,
+        R"({"flag": "yes", "count": [1], "none": null, "fraction": 1.5, "huge": 1e300, "unknown": {"a": [{}]}})");
+    JsonDefaults defaults(path);
+    defaults.registerDefaults({{u"flag"_s, true}, {u"count"_s, 30}});
+    EXPECT_FALSE(defaults.boolean(u"flag"_s));
+    for (const QString &key : {u"flag"_s, u"count"_s, u"none"_s, u"fraction"_s, u"huge"_s, u"unknown"_s})
+        EXPECT_EQ(defaults.integer(key), 0) << key.toStdString();
+    defaults.set(u"other"_s, 1);
+    QJsonObject expected =
+        QJsonDocument::fromJson(R"({"flag": "yes", "count": [1], "none": null, "fraction": 1.5,
+                                                       "huge": 1e300, "unknown": {"a": [{}]}, "other": 1})")
+            .object();
+    EXPECT_EQ(objectIn(path), expected);
+}
+
+TEST(JsonDefaults, mergesWithWhatAnotherProcessStores)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.path(name);
+    JsonDefaults defaults(path);
+    defaults.set(u"ours"_s, 1);
+    ASSERT_EQ(inAnotherProcess([&path] { JsonDefaults(path).set(u"theirs"_s, 2); }), 0);
+    defaults.set(u"more"_s, 3);
+    EXPECT_EQ(objectIn(path), (QJsonObject{{u"ours"_s, 1}, {u"theirs"_s, 2}, {u"more"_s, 3}}));
+    EXPECT_EQ(defaults.integer(u"theirs"_s), 2);
+}
+
+class JsonDefaultsDamaged : public testing::TestWithParam<QByteArray>
+{
+};
+
+TEST_P(JsonDefaultsDamaged, movesTheFileAsideAndStartsEmpty)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.write(name, GetParam());
+    JsonDefaults defaults(path);
+    defaults.registerDefaults({{u"count"_s, 30}});
+    EXPECT_EQ(defaults.integer(u"count"_s), 30);
+    EXPECT_EQ(contentOf(path + u".damaged"_s), GetParam());
+    EXPECT_FALSE(files::exists(path));
+    defaults.set(u"count"_s, 7);
+    EXPECT_EQ(objectIn(path), (QJsonObject{{u"count"_s, 7}}));
+    EXPECT_EQ(contentOf(path + u".damaged"_s), GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Contents, JsonDefaultsDamaged,
+                         testing::Values(QByteArray(), QByteArray("garbage"), QByteArray("{\"count\": 7"),
+                                         QByteArray("[1, 2]"), QByteArray("null"), QByteArray("{}{}"),
+                                         QByteArray("\0\0\0\0", 4), QByteArray("{\"a\": \"\xFF\"}"),
+                                         QByteArray(3000, '['),
+                                         "{\"a\": \"" + QByteArray(17 << 20, 'x') + "\"}"),
+                         [](const auto &content) { return "content" + std::to_string(content.index); });
+
+TEST(JsonDefaults, neverReplacesAnEarlierDamagedFile)
+{
+    const ScratchFolder scratch;
+    scratch.write(u"settings.json.damaged"_s, "first");
+    scratch.write(u"settings.json.damaged-2"_s, "second");
+    const QString path = scratch.write(name, "third");
+    EXPECT_FALSE(JsonDefaults(path).value(u"a"_s).isValid());
+    EXPECT_EQ(contentOf(scratch.path(u"settings.json.damaged"_s)), "first");
+    EXPECT_EQ(contentOf(scratch.path(u"settings.json.damaged-2"_s)), "second");
+    EXPECT_EQ(contentOf(scratch.path(u"settings.json.damaged-3"_s)), "third");
+}
+
+TEST(JsonDefaults, movesAsideWhatWasDamagedWhileWeRan)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.path(name);
+    JsonDefaults defaults(path);
+    defaults.set(u"a"_s, 1);
+    scratch.write(name, "somebody's notes");
+    defaults.set(u"b"_s, 2);
+    EXPECT_EQ(contentOf(path + u".damaged"_s), "somebody's notes");
+    EXPECT_EQ(objectIn(path).value(u"b"_s), 2);
+}
+
+TEST(JsonDefaults, movesAsideWhatIsNoFileWithoutOpeningIt)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.path(name);
+    ASSERT_EQ(mkfifo(paths::toBytes(path).constData(), 0600), 0); // to open it would wait for ever
+    JsonDefaults defaults(path);
+    defaults.set(u"a"_s, 1);
+    EXPECT_EQ(objectIn(path), (QJsonObject{{u"a"_s, 1}}));
+    EXPECT_TRUE(files::exists(path + u".damaged"_s));
+}
+
+TEST(JsonDefaults, writesThroughALinkToItsFile)
+{
+    const ScratchFolder scratch;
+    ASSERT_EQ(symlink("real.json", paths::toBytes(scratch.path(name)).constData()), 0);
+    JsonDefaults defaults(scratch.path(name));
+    defaults.set(u"a"_s, 1);
+    EXPECT_EQ(objectIn(scratch.path(u"real.json"_s)), (QJsonObject{{u"a"_s, 1}}));
+    ASSERT_TRUE(files::attributes(scratch.path(name)));
+    EXPECT_EQ(files::attributes(scratch.path(name))->kind, files::Kind::link);
+}
+
+TEST(JsonDefaults, livesInMemoryWhereNothingCanBeWritten)
+{
+    const ScratchFolder scratch;
+    scratch.write(u"file"_s, "no folder");
+    JsonDefaults defaults(scratch.path(u"file/settings.json"_s)); // refused to root as well
+    defaults.set(u"flag"_s, true);
+    defaults.set(u"count"_s, 7);
+    defaults.remove(u"flag"_s);
+    EXPECT_FALSE(defaults.boolean(u"flag"_s));
+    EXPECT_EQ(defaults.integer(u"count"_s), 7);
+    EXPECT_EQ(contentOf(scratch.path(u"file"_s)), "no folder");
+}
+
+TEST(JsonDefaults, livesInMemoryInAReadOnlyFolder)
+{
+    const ScratchFolder scratch;
+    const QString folder = scratch.makeFolder(u"config"_s);
+    scratch.write(u"config/settings.json"_s, "garbage");
+    ASSERT_EQ(chmod(paths::toBytes(scratch.path()).constData(), 0755), 0);
+    ASSERT_EQ(chmod(paths::toBytes(folder).constData(), 0555), 0);
+    const int code = inAnotherProcess([&folder] {
+        // As nobody, since root writes wherever it likes.
+        if (getuid() == 0) {
+            ASSERT_EQ(setresuid(65534, 65534, 65534), 0);
+        }
+        JsonDefaults defaults(paths::join(folder, name));
+        defaults.set(u"count"_s, 7);
+        EXPECT_EQ(defaults.integer(u"count"_s), 7);
+        defaults.remove(u"count"_s);
+        EXPECT_EQ(defaults.integer(u"count"_s), 0);
+        EXPECT_FALSE(defaults.value(u"other"_s).isValid());
+    });
+    EXPECT_EQ(code, 0);
+    EXPECT_EQ(contentOf(scratch.path(u"config/settings.json"_s)), "garbage");
+    EXPECT_EQ(namesIn(folder), std::set<QString>{name});
+    ASSERT_EQ(chmod(paths::toBytes(folder).constData(), 0755), 0); // so that it can be removed
+}
+
+TEST(JsonDefaults, doesNotWaitForTheLockOfAKilledProcess)
+{
+    const ScratchFolder scratch;
+    // What is left of a process that was killed before it could write its number into its lock.
+    const QByteArray lock = paths::toBytes(scratch.write(u"settings.json.lock"_s, {}));
+    const timespec now{0, UTIME_NOW};
+    const timespec times[2] = {now, {time(nullptr) - 3, 0}};
+    ASSERT_EQ(utimensat(AT_FDCWD, lock.constData(), times, 0), 0);
+    QElapsedTimer timer;
+    timer.start();
+    JsonDefaults defaults(scratch.path(name));
+    defaults.set(u"a"_s, 1);
+    EXPECT_EQ(objectIn(scratch.path(name)), (QJsonObject{{u"a"_s, 1}}));
+    EXPECT_LT(timer.elapsed(), 10'000); // half a minute, had it waited
+}
+
+TEST(JsonDefaults, leavesAWholeFileWhenKilledWhileWriting)
+{
+    const ScratchFolder scratch;
+    const QString path = scratch.path(name);
+    for (int stores = 1; stores <= 12; ++stores) {
+        killWhileStoring(path, stores);
+        const QString value = objectIn(path).value(u"large"_s).toString();
+        ASSERT_EQ(value.size(), 100'000);
+        EXPECT_EQ(value.count(value[0]), value.size());
+    }
+}

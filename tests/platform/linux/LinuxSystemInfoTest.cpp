@@ -1,0 +1,151 @@
+#include "platform/linux/LinuxSystemInfo.h"
+
+#include "ScratchFolder.h"
+
+#include <gtest/gtest.h>
+#include <sys/statvfs.h>
+#include <unicode/locid.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A kernel's folders in a scratch folder: "vda2" is a device there, with the number 254:2.
+class LinuxSystemInfoFiles : public testing::Test
+{
+protected:
+    LinuxSystemInfoFiles()
+    {
+        scratch_.makeFolder(u"dev"_s);
+        scratch_.makeFolder(u"by-label"_s);
+        scratch_.makeFolder(u"block"_s);
+        scratch_.makeFolder(u"sys"_s);
+        scratch_.makeFolder(u"sys/vda2"_s);
+        scratch_.write(u"dev/vda2"_s, {});
+        scratch_.write(u"dev/vda9"_s, {});
+        link("../sys/vda2", u"block/254:2"_s);
+    }
+
+    void link(const char *target, const QString &name)
+    {
+        ASSERT_EQ(symlink(target, paths::toBytes(scratch_.path(name)).constData()), 0);
+    }
+
+    void mountRootFrom(const QByteArray &source, const QByteArray &device = "254:2")
+    {
+        scratch_.write(u"mountinfo"_s, "27 1 " + device + " / / rw - ext4 " + source + " rw\n");
+    }
+
+    QByteArray device(const char *name) const { return paths::toBytes(scratch_.path(u"dev/"_s)) + name; }
+
+    LinuxSystemInfo info() const
+    {
+        return LinuxSystemInfo({scratch_.path(u"mountinfo"_s), scratch_.path(u"by-label"_s),
+                                scratch_.path(u"dev"_s), scratch_.path(u"block"_s),
+                                scratch_.path(u"product_name"_s)});
+    }
+
+    ScratchFolder scratch_;
+};
+
+} // namespace
+
+TEST_F(LinuxSystemInfoFiles, namesTheRootVolumeByItsLabel)
+{
+    mountRootFrom(device("vda2"));
+    link("../dev/vda9", u"by-label/Other"_s);
+    link("../dev/vda2", u"by-label/My\\x20Disk"_s);
+    EXPECT_EQ(info().rootVolumeName(), u"My Disk"_s);
+}
+
+TEST_F(LinuxSystemInfoFiles, findsTheLabelThroughADeviceMappersLink)
+{
+    scratch_.makeFolder(u"dev/mapper"_s);
+    link("../vda2", u"dev/mapper/group-root"_s);
+    mountRootFrom(device("mapper/group-root"), "0:27");
+    EXPECT_EQ(info().rootVolumeName(), u"group-root"_s);
+    link("../dev/vda2", u"by-label/System"_s);
+    EXPECT_EQ(info().rootVolumeName(), u"System"_s);
+}
+
+TEST_F(LinuxSystemInfoFiles, namesTheRootVolumeByItsDeviceWithoutALabel)
+{
+    mountRootFrom(device("vda2"));
+    link("../dev/vda9", u"by-label/Other"_s);
+    link("../dev/missing", u"by-label/Broken"_s);
+    EXPECT_EQ(info().rootVolumeName(), u"vda2"_s);
+}
+
+TEST_F(LinuxSystemInfoFiles, findsTheDeviceOfAnEarlyBootByItsNumber)
+{
+    mountRootFrom(device("root"));
+    EXPECT_EQ(info().rootVolumeName(), u"vda2"_s);
+    link("../dev/vda2", u"by-label/System"_s);
+    EXPECT_EQ(info().rootVolumeName(), u"System"_s);
+}
+
+TEST_F(LinuxSystemInfoFiles, namesNothingThatIsNoDevice)
+{
+    for (const QByteArray &source :
+         {QByteArray("overlay"), QByteArray("server:/export"), QByteArray("tank/ROOT"),
+          device("../mountinfo"), device("missing") + "/x", QByteArray("/etc/passwd")}) {
+        mountRootFrom(source, "0:42");
+        EXPECT_EQ(info().rootVolumeName(), std::nullopt) << source.toStdString();
+    }
+}
+
+TEST_F(LinuxSystemInfoFiles, namesNothingWithoutAMountTable)
+{
+    EXPECT_EQ(info().rootVolumeName(), std::nullopt);
+    scratch_.write(u"mountinfo"_s, QByteArray(100'000, '\xFF'));
+    EXPECT_EQ(info().rootVolumeName(), std::nullopt);
+}
+
+TEST_F(LinuxSystemInfoFiles, readsTheHardwareModelTrimmed)
+{
+    scratch_.write(u"product_name"_s, "  Notebook 14 Pro \n");
+    EXPECT_EQ(info().hardwareModel(), u"Notebook 14 Pro"_s);
+}
+
+TEST_F(LinuxSystemInfoFiles, hasNoHardwareModelWhenItIsMissingOrEmpty)
+{
+    EXPECT_EQ(info().hardwareModel(), std::nullopt);
+    scratch_.write(u"product_name"_s, " \n");
+    EXPECT_EQ(info().hardwareModel(), std::nullopt);
+}
+
+TEST_F(LinuxSystemInfoFiles, boundsAndRepairsTheHardwareModel)
+{
+    scratch_.write(u"product_name"_s, "A\xFF" + QByteArray(1'000'000, 'x'));
+    const auto model = info().hardwareModel();
+    ASSERT_TRUE(model);
+    EXPECT_TRUE(model->startsWith(u"A\uFFFDx"_s));
+    EXPECT_LE(model->size(), 4096);
+}
+
+TEST(LinuxSystemInfo, measuresTheRootVolume)
+{
+    const auto volume = LinuxSystemInfo().rootVolume();
+    ASSERT_TRUE(volume);
+    struct statvfs status = {};
+    ASSERT_EQ(statvfs("/", &status), 0);
+    EXPECT_EQ(static_cast<quint64>(volume->total), status.f_blocks * status.f_frsize);
+    EXPECT_GE(volume->available, 0);
+    EXPECT_LE(volume->available, volume->total);
+}
+
+TEST(LinuxSystemInfo, givesTheLocaleWithoutKeywords)
+{
+    const icu::Locale before = icu::Locale::getDefault();
+    UErrorCode status = U_ZERO_ERROR;
+    icu::Locale::setDefault(icu::Locale("de", "AT", nullptr, "currency=EUR"), status);
+    EXPECT_EQ(LinuxSystemInfo().localeIdentifier(), u"de_AT"_s);
+    icu::Locale::setDefault(before, status);
+    EXPECT_TRUE(U_SUCCESS(status));
+}
+
+TEST(LinuxSystemInfo, tellsTheRunningKernelsVersion)
+{
+    EXPECT_GE(LinuxSystemInfo().systemVersion().major, 4);
+}

@@ -1,0 +1,42 @@
+#include "PrivateBus.h"
+
+#include "base/Files.h"
+#include "WaitUntil.h"
+
+#include <QStandardPaths>
+#include <QUuid>
+
+using namespace Qt::StringLiterals;
+
+PrivateBus::PrivateBus()
+{
+    const QByteArray config =
+        "<busconfig><type>session</type><listen>unix:path=" + paths::toBytes(folder_.path(u"bus"_s))
+        + "</listen><policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
+          "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>";
+    const QString file = folder_.write(u"bus.conf"_s, config);
+    const QString program = QStandardPaths::findExecutable(u"dbus-daemon"_s);
+    EXPECT_FALSE(program.isEmpty()) << "These tests need dbus-daemon.";
+    daemon_ = std::make_unique<ChildProcess>(
+        program, QStringList{u"--config-file="_s + file, u"--nofork"_s, u"--nopidfile"_s});
+    daemon_->launch();
+    EXPECT_TRUE(waitUntil([this] { return connect().isConnected(); }));
+}
+
+PrivateBus::~PrivateBus()
+{
+    for (const QString &name : connections_)
+        QDBusConnection::disconnectFromBus(name);
+}
+
+QDBusConnection PrivateBus::connect()
+{
+    const QString name = QUuid::createUuid().toString();
+    connections_.append(name);
+    return QDBusConnection::connectToBus(u"unix:path="_s + folder_.path(u"bus"_s), name);
+}
+
+QDBusConnection PrivateBus::none()
+{
+    return QDBusConnection(u"no connection of this name"_s);
+}
