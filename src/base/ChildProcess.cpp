@@ -6,10 +6,13 @@
 
 #include <cerrno>
 #include <csignal>
+#include <iterator>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -85,6 +88,32 @@ private:
     posix_spawn_file_actions_t actions_{};
 };
 
+/// A pipe from a child to us, closed at both ends unless its reader is taken out.
+class Pipe
+{
+public:
+    /// Throws Error (the system's) when there is none to be had.
+    Pipe()
+    {
+        if (systemcalls::openPipe(ends_) == -1)
+            throw errors::fromErrno(errno);
+    }
+    ~Pipe()
+    {
+        if (ends_[0] >= 0)
+            close(ends_[0]);
+        close(ends_[1]);
+    }
+    Pipe(const Pipe &) = delete;
+    Pipe &operator=(const Pipe &) = delete;
+
+    int writer() const { return ends_[1]; }
+    int takeReader() { return std::exchange(ends_[0], -1); }
+
+private:
+    int ends_[2] = {-1, -1};
+};
+
 /// 0, or the system's error number.
 int spawn(pid_t &child, const QString &executable, const QStringList &arguments, const SpawnActions &actions)
 {
@@ -98,7 +127,7 @@ int spawn(pid_t &child, const QString &executable, const QStringList &arguments,
 void awaitEnd(pid_t child)
 {
     siginfo_t info;
-    while (waitid(P_PID, static_cast<id_t>(child), &info, WEXITED | WNOWAIT) == -1 && errno == EINTR) { }
+    while (waitid(P_PID, static_cast<id_t>(child), &info, WEXITED | WNOWAIT) == -1 && errno == EINTR) {}
 }
 
 std::optional<int> reap(pid_t child)
@@ -109,6 +138,16 @@ std::optional<int> reap(pid_t child)
             return std::nullopt;
     }
     return WIFEXITED(status) ? std::optional<int>(WEXITSTATUS(status)) : std::nullopt;
+}
+
+/// Adds what there is to read to `all`. False at the end and at an error.
+bool readSome(int descriptor, QByteArray &all)
+{
+    char chunk[4096];
+    const ssize_t count = read(descriptor, chunk, sizeof chunk);
+    if (count > 0)
+        all.append(chunk, count);
+    return count > 0 || (count == -1 && errno == EINTR);
 }
 
 } // namespace
@@ -123,34 +162,35 @@ ChildProcess::~ChildProcess()
 {
     terminate();
     waitUntilExit();
-    if (output_ >= 0)
-        close(output_);
+    for (const int descriptor : {output_, errors_}) {
+        if (descriptor >= 0)
+            close(descriptor);
+    }
 }
 
 void ChildProcess::launch()
 {
-    int ends[2];
-    if (systemcalls::openPipe(ends) == -1)
-        throw errors::fromErrno(errno);
+    Pipe output;
+    std::optional<Pipe> errorOutput;
     SpawnActions actions;
     actions.openNull(STDIN_FILENO, O_RDONLY);
-    actions.duplicate(ends[1], STDOUT_FILENO);
-    actions.openNull(STDERR_FILENO, O_WRONLY);
+    actions.duplicate(output.writer(), STDOUT_FILENO);
+    if (capturesErrors_)
+        actions.duplicate(errorOutput.emplace().writer(), STDERR_FILENO);
+    else
+        actions.openNull(STDERR_FILENO, O_WRONLY);
 
-    int failure = 0;
     {
         const std::lock_guard lock(mutex_);
         pid_t child = 0;
-        failure = spawn(child, executable_, arguments_, actions);
-        if (failure == 0)
-            child_ = child;
+        const int failure = spawn(child, executable_, arguments_, actions);
+        if (failure != 0)
+            throw errors::fromErrno(failure);
+        child_ = child;
     }
-    close(ends[1]);
-    if (failure != 0) {
-        close(ends[0]);
-        throw errors::fromErrno(failure);
-    }
-    output_ = ends[0];
+    output_ = output.takeReader();
+    if (errorOutput)
+        errors_ = errorOutput->takeReader();
 }
 
 void ChildProcess::waitUntilExit()
@@ -171,13 +211,20 @@ void ChildProcess::waitUntilExit()
 QByteArray ChildProcess::readToEnd()
 {
     QByteArray all;
-    char chunk[4096];
-    while (output_ >= 0) {
-        const ssize_t count = read(output_, chunk, sizeof chunk);
-        if (count > 0)
-            all.append(chunk, count);
-        else if (count == 0 || errno != EINTR)
+    // Both at once: a program that waits for room in one pipe never comes to the end of the other. A negative
+    // number is passed over by `poll`.
+    pollfd open[] = {{output_, POLLIN, 0}, {errors_, POLLIN, 0}};
+    while (open[0].fd >= 0 || open[1].fd >= 0) {
+        if (poll(open, std::size(open), -1) == -1) {
+            if (errno == EINTR)
+                continue;
             break;
+        }
+        if (open[0].revents != 0 && !readSome(open[0].fd, all))
+            open[0].fd = -1;
+        if (open[1].revents != 0 && !readSome(open[1].fd, errorOutput_))
+            open[1].fd = -1;
+        errorOutput_.truncate(mostErrorOutput);
     }
     return all;
 }

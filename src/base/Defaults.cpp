@@ -43,7 +43,10 @@ bool Defaults::boolean(const QString &key) const
 qint64 Defaults::integer(const QString &key) const
 {
     const QVariant found = value(key);
-    return isInteger(found) ? found.toLongLong() : 0;
+    if (!isInteger(found))
+        return 0;
+    // Not by toLongLong, which rounds doubles by adding a half and so misses odd ones from 2^52 on.
+    return found.typeId() == QMetaType::Double ? static_cast<qint64>(found.toDouble()) : found.toLongLong();
 }
 
 void Defaults::set(const QString &key, const QVariant &value)

@@ -7,7 +7,9 @@
 #include <QScopeGuard>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -36,6 +38,95 @@ bool fails(Operation operation, const QString &path)
 QByteArray native(const QString &path)
 {
     return path.contains(QChar::Null) ? QByteArray() : paths::toBytes(path);
+}
+
+/// An open file, closed with it.
+class Descriptor
+{
+public:
+    /// Takes what `open` gave; throws Error where that is -1.
+    explicit Descriptor(int number)
+        : number_(number)
+    {
+        if (number == -1)
+            throw errors::fromErrno(errno);
+    }
+    Descriptor(Descriptor &&other) noexcept
+        : number_(std::exchange(other.number_, -1))
+    {
+    }
+    ~Descriptor()
+    {
+        if (number_ != -1)
+            close(number_);
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+    int number() const { return number_; }
+
+private:
+    int number_;
+};
+
+/// A regular file. A pipe or device is refused, since opening or reading it could wait for ever.
+Descriptor openToRead(const QString &path)
+{
+    constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+    Descriptor file(fails(Operation::open, path) ? -1 : open(native(path).constData(), flags));
+    struct stat status = {};
+    if (fstat(file.number(), &status) == -1)
+        throw errors::fromErrno(errno);
+    if (!S_ISREG(status.st_mode))
+        throw errors::fromErrno(EINVAL);
+    return file;
+}
+
+/// At most `most` bytes from where the file stands. Throws Error.
+QByteArray readUpTo(const Descriptor &file, qint64 most)
+{
+    QByteArray content;
+    char chunk[16384];
+    while (content.size() < most) {
+        const auto wanted = static_cast<size_t>(std::min<qint64>(most - content.size(), sizeof chunk));
+        const ssize_t count = read(file.number(), chunk, wanted);
+        if (count == -1 && errno == EINTR)
+            continue;
+        if (count == -1)
+            throw errors::fromErrno(errno);
+        if (count == 0)
+            break;
+        content.append(chunk, count);
+    }
+    return content;
+}
+
+/// Writes all of `content`; `path` is only what a test knows the file by. Throws Error.
+void writeWhole(const Descriptor &file, const QString &path, QByteArrayView content)
+{
+    constexpr qsizetype mostAtOnce = 65536;
+    while (!content.isEmpty()) {
+        if (fails(Operation::write, path))
+            throw errors::fromErrno(errno);
+        const auto wanted = static_cast<size_t>(std::min(content.size(), mostAtOnce));
+        const ssize_t count = write(file.number(), content.data(), wanted);
+        if (count == -1 && errno == EINTR)
+            continue;
+        if (count == -1)
+            throw errors::fromErrno(errno);
+        content = content.sliced(count);
+    }
+}
+
+/// Makes a rename in `folder` last through a loss of power. The file is in its place by then, so that a file system
+/// which can't do this is no failure.
+void syncFolder(const QString &folder)
+{
+    const int descriptor = open(native(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor == -1)
+        return;
+    fsync(descriptor);
+    close(descriptor);
 }
 
 std::optional<struct stat> followed(const QString &path)
@@ -79,30 +170,47 @@ std::optional<std::vector<QString>> list(const QString &folder)
 
 std::optional<QByteArray> readPrefix(const QString &path, qint64 most)
 {
-    if (fails(Operation::open, path))
+    try {
+        const Descriptor file = openToRead(path);
+        return readUpTo(file, most);
+    } catch (const Error &) {
         return std::nullopt;
-    const int descriptor = open(native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor == -1)
-        return std::nullopt;
-    const auto closing = qScopeGuard([descriptor] { close(descriptor); });
-    struct stat status = {};
-    if (fstat(descriptor, &status) == -1 || !S_ISREG(status.st_mode))
-        return std::nullopt;
-
-    QByteArray content;
-    char chunk[16384];
-    while (content.size() < most) {
-        const auto wanted = static_cast<size_t>(std::min<qint64>(most - content.size(), sizeof chunk));
-        const ssize_t count = read(descriptor, chunk, wanted);
-        if (count == -1 && errno == EINTR)
-            continue;
-        if (count == -1)
-            return std::nullopt;
-        if (count == 0)
-            break;
-        content.append(chunk, count);
     }
+}
+
+QByteArray readAll(const QString &path, qint64 most)
+{
+    const Descriptor file = openToRead(path);
+    struct stat status = {};
+    if (fstat(file.number(), &status) == -1)
+        throw errors::fromErrno(errno);
+    if (status.st_size > most)
+        throw errors::fromErrno(EFBIG);
+    QByteArray content = readUpTo(file, most + 1); // one more, since it may be growing
+    if (content.size() > most)
+        throw errors::fromErrno(EFBIG);
     return content;
+}
+
+void writeAtomically(const QString &path, const QByteArray &content)
+{
+    const QString folder = paths::parent(path);
+    // Named by itself, since the file's own name may be as long as a name can be.
+    QByteArray temporary = native(paths::join(folder, QStringLiteral(".quillmere-XXXXXX")));
+    const Descriptor file(fails(Operation::open, path) ? -1 : mkostemp(temporary.data(), O_CLOEXEC));
+    auto removing = qScopeGuard([&temporary] { unlink(temporary.constData()); });
+
+    struct stat old = {};
+    const bool replaces = lstat(native(path).constData(), &old) == 0 && S_ISREG(old.st_mode);
+    if (replaces)
+        fchmod(file.number(), old.st_mode & 0777); // a file system that keeps no such bits may refuse
+    writeWhole(file, path, content);
+    if (fails(Operation::sync, path) || fsync(file.number()) == -1)
+        throw errors::fromErrno(errno);
+    if (fails(Operation::rename, path) || rename(temporary.constData(), native(path).constData()) == -1)
+        throw errors::fromErrno(errno);
+    removing.dismiss();
+    syncFolder(folder);
 }
 
 void makeDirectory(const QString &path)
@@ -118,8 +226,11 @@ void makeDirectories(const QString &path)
     const QString above = paths::parent(path);
     if (!above.isEmpty() && above != path)
         makeDirectories(above);
-    if (mkdir(native(path).constData(), 0777) == -1 && errno != EEXIST)
-        throw errors::fromErrno(errno);
+    if (mkdir(native(path).constData(), 0777) == 0)
+        return;
+    const int code = errno;
+    if (code != EEXIST || !isDirectory(path)) // another thread or program may have made it meanwhile
+        throw errors::fromErrno(code);
 }
 
 void move(const QString &from, const QString &to)

@@ -23,12 +23,13 @@ enum class Kind {
 };
 
 /// What the file system says of one entry itself; a link is a link, and has its own size.
-struct Attributes {
+struct Attributes
+{
     Kind kind = Kind::other;
-    qint64 size = 0;                     ///< bytes, as reported for the entry
-    Date modified = dates::distantPast;  ///< content modification
-    Date created = dates::distantPast;   ///< birth; the distant past where it is not kept
-    bool isHidden = false;               ///< the file system's attribute; a leading dot where there is none
+    qint64 size = 0;                    ///< bytes, as reported for the entry
+    Date modified = dates::distantPast; ///< content modification
+    Date created = dates::distantPast;  ///< birth; the distant past where it is not kept
+    bool isHidden = false;              ///< the file system's attribute; a leading dot where there is none
 
     bool isDirectory() const { return kind == Kind::directory; }
 };
@@ -49,6 +50,16 @@ std::optional<std::vector<QString>> list(const QString &folder);
 /// At most `most` bytes from the start of a regular file. None when it can't be opened or read, and for pipes,
 /// sockets and devices, whose opening could wait for ever.
 std::optional<QByteArray> readPrefix(const QString &path, qint64 most);
+
+/// The whole of a regular file. Throws Error: the system's where it can't be opened or read, EFBIG for more than
+/// `most` bytes, which are not read then, and EINVAL for what is no regular file.
+QByteArray readAll(const QString &path, qint64 most);
+
+/// Replaces the content of a file, or makes it, so that a reader sees the old content or the new one and never a part:
+/// a temporary file beside it is written, synced and renamed over it. A new file is its user's alone (0600), a replaced
+/// one hands its permissions on. A link at `path` is replaced itself; what it leads to stays untouched. Throws Error
+/// (the system's), and leaves nothing behind then.
+void writeAtomically(const QString &path, const QByteArray &content);
 
 /// Makes one folder. Throws Error (the system's) when it can't, also when the name is taken.
 void makeDirectory(const QString &path);
@@ -92,6 +103,9 @@ enum class Operation {
     list,
     attributes,
     open,
+    write, ///< of `writeAtomically`, whose path this and the next two get
+    sync,
+    rename,
 };
 
 /// Asked before each of these calls with the path at hand; an error number other than 0 makes the call fail

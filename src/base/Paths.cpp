@@ -1,5 +1,8 @@
 #include "base/Paths.h"
 
+#include <QStringList>
+
+#include <QStringDecoder>
 
 namespace {
 
@@ -32,6 +35,15 @@ qsizetype sequenceLength(QByteArrayView bytes)
     return length;
 }
 
+/// The text of well-formed UTF-8. A byte order mark at its start belongs to the name; QString drops it.
+QString decoded(QByteArrayView utf8)
+{
+    if (!utf8.startsWith("\xEF\xBB\xBF"))
+        return QString::fromUtf8(utf8);
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(utf8);
+}
+
 /// True when the character at `index` is one half of a surrogate pair that stands whole in the text.
 bool isPaired(QStringView text, qsizetype index)
 {
@@ -45,7 +57,7 @@ namespace paths {
 QString fromBytes(QByteArrayView bytes)
 {
     if (bytes.isValidUtf8())
-        return QString::fromUtf8(bytes);
+        return decoded(bytes);
     QString text;
     text.reserve(bytes.size());
     for (qsizetype i = 0; i < bytes.size();) {
@@ -53,7 +65,7 @@ QString fromBytes(QByteArrayView bytes)
         if (length == 0)
             text += QChar(static_cast<char16_t>(escapeBase + static_cast<uchar>(bytes[i])));
         else
-            text += QString::fromUtf8(bytes.sliced(i, length));
+            text += decoded(bytes.sliced(i, length));
         i += length == 0 ? 1 : length;
     }
     return text;
@@ -117,6 +129,18 @@ QString extension(const QString &path)
 QString join(const QString &folder, const QString &name)
 {
     return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+QString standardized(const QString &path)
+{
+    QStringList kept;
+    for (const QString &part : path.split(u'/', Qt::SkipEmptyParts)) {
+        if (part != u"." && part != u"..")
+            kept.append(part);
+        else if (part == u".." && !kept.isEmpty())
+            kept.removeLast();
+    }
+    return u'/' + kept.join(u'/');
 }
 
 bool isAtOrBelow(const QString &path, const QString &folder)

@@ -34,6 +34,9 @@ QString extension(const QString &path);
 /// `folder` + "/" + `name`, with one slash between them.
 QString join(const QString &folder, const QString &name);
 
+/// An absolute path without ".", ".." and doubled slashes, by the text alone.
+QString standardized(const QString &path);
+
 /// True when `path` is `folder` or lies below it, by the text alone.
 bool isAtOrBelow(const QString &path, const QString &folder);
 

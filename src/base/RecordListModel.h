@@ -61,6 +61,13 @@ public:
             emit dataChanged(index(0), index(rowCount() - 1));
     }
 
+    /// Takes a new record in the place of that of one row.
+    void replace(int row, Record record)
+    {
+        records_[static_cast<size_t>(row)] = std::move(record);
+        emit dataChanged(index(row), index(row));
+    }
+
     int rowCount(const QModelIndex &parent = {}) const override
     {
         return parent.isValid() ? 0 : static_cast<int>(records_.size());

@@ -11,9 +11,11 @@ namespace {
 
 constexpr double leastShare = 0.02;
 constexpr size_t mostCategories = 12;
-constexpr std::array palette = {"58a6ff", "a371f7", "3fb950", "da3633", "d29922", "39d2c0", "f778ba", "8b949e"};
+constexpr std::array palette = {"58a6ff", "a371f7", "3fb950", "da3633",
+                                "d29922", "39d2c0", "f778ba", "8b949e"};
 
-struct SymbolRow {
+struct SymbolRow
+{
     const char *extensions; // separated by blanks
     const char *symbol;
 };
@@ -109,8 +111,8 @@ double share(qint64 part, qint64 whole)
 
 QString shareText(double share)
 {
-    // Ties go to the even digit, as with C's formats; QString rounds them up. Long enough for any double.
-    std::array<char, 320> digits{};
+    // As C's "%.1f" in any locale: ties go to the even digit, where QString's own numbers round them up.
+    std::array<char, 32> digits{}; // enough for any two counts of bytes
     const auto end =
         std::to_chars(digits.begin(), digits.end(), share * 100, std::chars_format::fixed, 1).ptr;
     return QString::fromLatin1(digits.data(), end - digits.data()) + u'%';

@@ -63,14 +63,14 @@ FocusScope {
         Keys.onEnterPressed: card.view.activateRow(currentIndex)
         Keys.onRightPressed: card.view.openRow(currentIndex)
         Keys.onLeftPressed: card.view.goBack()
-        Keys.onMenuPressed: menu.openAt(currentIndex)
+        Keys.onMenuPressed: menu.openAt(currentIndex, currentItem)
         delegate: ContentsRow {
             width: ListView.view.width
             isCurrent: ListView.isCurrentItem && list.activeFocus
             revealTip: card.view.texts.reveal
             onClicked: card.view.openRow(index)
             onRevealed: card.view.revealRow(index)
-            onMenuRequested: menu.openAt(index)
+            onMenuRequested: menu.openAt(index, null)
             onPressed: list.take(index)
         }
     }

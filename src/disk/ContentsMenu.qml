@@ -8,12 +8,16 @@ PopupMenu {
     required property DiskAnalyzerView view
     property int row: -1
 
-    function openAt(index) {
+    // Opens at the pointer, or below `item` where a key has asked for it.
+    function openAt(index, item) {
         if (index < 0)
             return;
         row = index;
         openLine.text = view.openText(index); // what stands in that row now
-        popup();
+        if (!item)
+            return popup();
+        const corner = item.mapToItem(parent, Theme.unit * 8, item.height);
+        popup(corner.x, corner.y);
     }
 
     MenuLine {
@@ -32,5 +36,15 @@ PopupMenu {
     MenuLine {
         text: menu.view.texts.openInTerminal
         onTriggered: menu.view.openTerminal(menu.row)
+    }
+    MenuLine {
+        isDivider: true
+        enabled: false
+    }
+    MenuLine {
+        objectName: "trashLine"
+        text: menu.view.trashText
+        enabled: menu.view.canTrash
+        onTriggered: menu.view.moveToTrash(menu.row)
     }
 }

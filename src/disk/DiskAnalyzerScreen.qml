@@ -22,11 +22,19 @@ FocusScope {
         anchors.margins: Theme.unit * 5
         view: screen.view
     }
+    AccessBanner {
+        id: banner
+        anchors.left: header.left
+        anchors.right: header.right
+        anchors.top: header.bottom
+        anchors.topMargin: visible ? Theme.unit * 3 : 0
+        banner: screen.view.banner
+    }
     AnalyzerPath {
         id: path
         anchors.left: header.left
         anchors.right: header.right
-        anchors.top: header.bottom
+        anchors.top: banner.bottom
         anchors.topMargin: Theme.unit * 3
         view: screen.view
     }

@@ -1,5 +1,6 @@
 #include "disk/DiskAnalyzerView.h"
 
+#include "base/Error.h"
 #include "base/Paths.h"
 #include "disk/AnalyzerContents.h"
 #include "filesystem/FileSystemService.h"
@@ -31,7 +32,7 @@ QString sizeText(const DiskAnalyzerView::Entry &entry)
 } // namespace
 
 DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskService,
-                                   FileSystemService &fileSystem)
+                                   FileSystemService &fileSystem, FDAService &access)
     : platform_(platform)
     , diskService_(diskService)
     , fileSystem_(fileSystem)
@@ -46,6 +47,7 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
           {"share", [](const Row &row) { return row.share; }},
           {"isFolder", [](const Row &row) { return row.entry->isDirectory; }},
       })
+    , banner_(access, DiskService::analyzerContext)
 {
     connect(&diskService_, &DiskService::isScanningAnalyzerChanged, this, [this] {
         emit scanChanged();
@@ -202,8 +204,7 @@ void DiskAnalyzerView::goHome()
 
 void DiskAnalyzerView::goTo(int index)
 {
-    const auto count = static_cast<size_t>(index + 1);
-    if (index < -1 || count > breadcrumb_.size())
+    if (index < -1 || index >= static_cast<int>(breadcrumb_.size()))
         return;
     setBreadcrumb({breadcrumb_.begin(), breadcrumb_.begin() + index + 1});
 }
@@ -250,6 +251,32 @@ void DiskAnalyzerView::openTerminal(int row)
 {
     if (const Entry entry = child(row))
         fileSystem_.openInTerminal(entry->isDirectory ? entry->path : paths::parent(entry->path));
+}
+
+QString DiskAnalyzerView::trashText() const
+{
+    return isScanning() ? QStringLiteral("Move to Trash (wait for scan)") : QStringLiteral("Move to Trash");
+}
+
+void DiskAnalyzerView::moveToTrash(int row)
+{
+    const Entry entry = child(row);
+    const Entry shown = currentEntry();
+    if (!entry || !canTrash())
+        return;
+    isTrashing_ = true;
+    emit scanChanged();
+    const QPointer self(this); // the event loop runs during the move, and another screen may be chosen from there
+    try {
+        fileSystem_.moveToTrash(entry->path);
+    } catch (const Error &) {
+        // Dropped without a word: the row stays, and a rescan tells what is there.
+    }
+    if (!self)
+        return;
+    isTrashing_ = false;
+    emit scanChanged();
+    openEntry(shown);
 }
 
 void DiskAnalyzerView::openChildNamed(const QString &name)

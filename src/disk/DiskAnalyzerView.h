@@ -1,5 +1,6 @@
 #pragma once
 
+#include "activity/FDABanner.h"
 #include "base/RecordListModel.h"
 #include "base/Ticker.h"
 #include "disk/AnalyzerTexts.h"
@@ -41,13 +42,17 @@ class DiskAnalyzerView final : public QObject
     Q_PROPERTY(bool isEmptyDirectory READ isEmptyDirectory NOTIFY contentChanged)
     Q_PROPERTY(QAbstractItemModel *breadcrumbs READ breadcrumbs CONSTANT)
     Q_PROPERTY(QAbstractItemModel *contents READ contents CONSTANT)
+    Q_PROPERTY(FDABanner *banner READ banner CONSTANT)
+    Q_PROPERTY(QString trashText READ trashText NOTIFY scanChanged)
+    Q_PROPERTY(bool canTrash READ canTrash NOTIFY scanChanged)
     Q_PROPERTY(TreemapView *treemap READ treemap CONSTANT)
 
 public:
     /// A node of a measured tree; the pointer keeps the whole tree alive.
     using Entry = std::shared_ptr<const FileEntry>;
 
-    DiskAnalyzerView(const Platform &platform, DiskService &diskService, FileSystemService &fileSystem);
+    DiskAnalyzerView(const Platform &platform, DiskService &diskService, FileSystemService &fileSystem,
+                     FDAService &access);
 
     QString title() const;
     QString symbol() const;
@@ -74,6 +79,9 @@ public:
     /// Rows: symbol, entryName, sizeText, shareText, share (0 to 1), isFolder.
     QAbstractItemModel *contents() { return &contentRows_; }
     TreemapView *treemap() { return &treemap_; }
+    FDABanner *banner() { return &banner_; }
+    QString trashText() const;
+    bool canTrash() const { return !isScanning() && !isTrashing_; }
 
     const std::vector<Entry> &breadcrumb() const { return breadcrumb_; }
     /// The last of the breadcrumb, else the service's tree; none while there is neither.
@@ -95,6 +103,7 @@ public:
     Q_INVOKABLE void revealRow(int row);
     Q_INVOKABLE void copyPath(int row);
     Q_INVOKABLE void openTerminal(int row);
+    Q_INVOKABLE void moveToTrash(int row); ///< waits for it, with the event loop running
 
     void openEntry(const Entry &entry);
 
@@ -127,4 +136,6 @@ private:
     RecordListModel<Entry> breadcrumbRows_;
     RecordListModel<Row> contentRows_;
     TreemapView treemap_;
+    FDABanner banner_;
+    bool isTrashing_ = false;
 };

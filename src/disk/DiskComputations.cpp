@@ -16,9 +16,9 @@ constexpr size_t mostDrillChildren = 10;
 /// The largest ones, largest first; equal ones keep their order.
 std::vector<LargeDirectory> largest(std::vector<LargeDirectory> entries, size_t most)
 {
-    std::stable_sort(entries.begin(), entries.end(), [](const LargeDirectory &left, const LargeDirectory &right) {
-        return left.size > right.size;
-    });
+    std::stable_sort(
+        entries.begin(), entries.end(),
+        [](const LargeDirectory &left, const LargeDirectory &right) { return left.size > right.size; });
     if (entries.size() > most)
         entries.resize(most);
     return entries;

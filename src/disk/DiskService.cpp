@@ -1,5 +1,6 @@
 #include "disk/DiskService.h"
 
+#include "activity/FDAService.h"
 #include "filesystem/FileSystemService.h"
 #include "shell/common/SettingsKeys.h"
 
@@ -12,16 +13,19 @@ constexpr int analyzerDepth = 2;    // the root and its folders are listed, what
 
 } // namespace
 
-DiskService::DiskService(const Platform &platform, FileSystemService &fileSystem)
+const QString DiskService::analyzerContext = QStringLiteral("Disk Analyzer");
+
+DiskService::DiskService(const Platform &platform, FileSystemService &fileSystem, FDAService &access)
     : platform_(platform)
     , fileSystem_(fileSystem)
+    , access_(access)
     , analyzerScanPath_(platform.home)
 {
 }
 
-DiskService &DiskService::shared(const Platform &platform, FileSystemService &fileSystem)
+DiskService &DiskService::shared(const Platform &platform, FileSystemService &fileSystem, FDAService &access)
 {
-    static DiskService &instance = *new DiskService(platform, fileSystem);
+    static DiskService &instance = *new DiskService(platform, fileSystem, access);
     return instance;
 }
 
@@ -147,6 +151,10 @@ void DiskService::scanAnalyzer(const QString &path, bool force)
         return;
     if (isScanningAnalyzer_)
         return;
+    if (access_.hasFullDiskAccess())
+        access_.clearDenied(analyzerContext);
+    else
+        access_.markDenied(analyzerContext);
     const int generation = ++analyzerScanGeneration_;
     postToMain([path](DiskService &self) {
         self.isScanningAnalyzer_ = true;

@@ -16,6 +16,7 @@
 #include <optional>
 #include <vector>
 
+class FDAService;
 class FileSystemService;
 
 /// Where the disk's bytes are: sizes through `du`, the volume's usage, and the three cached scans built on them.
@@ -28,10 +29,10 @@ class DiskService final : public QObject
 public:
     using Processes = std::vector<std::shared_ptr<ChildProcess>>;
 
-    DiskService(const Platform &platform, FileSystemService &fileSystem);
+    DiskService(const Platform &platform, FileSystemService &fileSystem, FDAService &access);
 
     /// The process's one instance, made at the first call with its arguments and never destroyed.
-    static DiskService &shared(const Platform &platform, FileSystemService &fileSystem);
+    static DiskService &shared(const Platform &platform, FileSystemService &fileSystem, FDAService &access);
 
     // Size probes and the volume.
 
@@ -77,6 +78,9 @@ public:
     void cancelStorageScan();
     void cancelLargestDirsScan();
 
+    /// The name under which the analyzer tells whether protected folders could be read.
+    static const QString analyzerContext;
+
     /// Measures the folder at `path` two levels deep into `analyzerRoot`. The old tree goes at once.
     void scanAnalyzer(const QString &path, bool force);
     /// Ends every generic probe and the walk. What was measured so far is published as the tree.
@@ -113,6 +117,7 @@ private:
 
     const Platform &platform_;
     FileSystemService &fileSystem_;
+    FDAService &access_;
 
     mutable std::mutex probeLock_; // guards liveSizeProbes_ and nothing else
     std::map<ProbeContext, Processes> liveSizeProbes_;

@@ -12,6 +12,8 @@ T.ItemDelegate {
     height: implicitHeight
     leftPadding: Theme.unit * 2
     hoverEnabled: true
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Item {
         Symbol {

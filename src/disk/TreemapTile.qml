@@ -53,6 +53,7 @@ Rectangle {
         }
     }
     Rectangle {
+        objectName: "hoverOutline"
         anchors.fill: parent
         visible: tile.isHovered
         radius: parent.radius

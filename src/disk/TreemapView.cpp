@@ -1,5 +1,6 @@
 #include "disk/TreemapView.h"
 
+#include "base/Paths.h"
 #include "shell/common/Formatters.h"
 
 #include <algorithm>
@@ -23,6 +24,12 @@ QString labelColor(const QString &tileColor)
     return luminance > 0.18 ? QStringLiteral("#0d1117") : QStringLiteral("#ffffff"); // equal contrast at 0.18
 }
 
+QString sizeText(double bytes)
+{
+    constexpr double tooMany = 0x1p62; // beyond it a double may not fit the count's type
+    return formatBytes(clampedBytes(static_cast<qint64>(std::min(bytes, tooMany))));
+}
+
 bool hasLabel(const TreemapItem &item)
 {
     return item.rect.width() > leastLabelWidth && item.rect.height() > leastLabelHeight;
@@ -33,9 +40,8 @@ bool hasLabel(const TreemapItem &item)
 TreemapView::TreemapView(QObject *parent)
     : QObject(parent)
     , tiles_({
-          {"tileName", [](const TreemapItem &item) { return item.name; }},
-          {"sizeText",
-           [](const TreemapItem &item) { return formatBytes(clampedBytes(static_cast<qint64>(item.size))); }},
+          {"tileName", [](const TreemapItem &item) { return paths::display(item.name); }},
+          {"sizeText", [](const TreemapItem &item) { return sizeText(item.size); }},
           {"tileColor", [](const TreemapItem &item) { return colorText(item.color); }},
           {"labelColor", [](const TreemapItem &item) { return labelColor(item.color); }},
           {"tileX", [](const TreemapItem &item) { return item.rect.x() + gap / 2; }},

@@ -2,6 +2,7 @@
 
 #include "base/Date.h"
 
+#include <QHashFunctions>
 #include <QString>
 #include <QUuid>
 

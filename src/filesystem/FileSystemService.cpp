@@ -4,6 +4,7 @@
 #include "base/Paths.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -14,7 +15,7 @@ constexpr size_t mostChildren = 30;
 struct Candidate {
     QByteArray name;
     qint64 size = 0;
-    std::optional<FileEntry> folder;
+    std::unique_ptr<FileEntry> folder; // null for a file
 };
 
 FileEntry folderEntry(const QString &path, qint64 size)
@@ -116,10 +117,10 @@ FileEntry FileSystemService::scanTree(const QString &path, int depth, int maxDep
         const auto attributes = reader.attributes();
         if (!attributes || attributes->isHidden)
             continue;
-        Candidate candidate{reader.name().toByteArray(), attributes->size, std::nullopt};
+        Candidate candidate{reader.name().toByteArray(), attributes->size, nullptr};
         if (attributes->isDirectory()) {
             const QString child = paths::join(path, paths::fromBytes(candidate.name));
-            candidate.folder = scanTree(child, depth + 1, maxDepth);
+            candidate.folder = std::make_unique<FileEntry>(scanTree(child, depth + 1, maxDepth));
             candidate.size = candidate.folder->size;
         }
         addChecked(total, candidate.size);

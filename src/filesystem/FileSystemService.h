@@ -49,6 +49,18 @@ public:
     /// a text cut inside a character isn't either.
     std::optional<QString> readTextPrefix(const QString &path, qint64 length) const;
 
+    /// The code of the error of `adminTrash` that tells a cancelled password dialog from a failure.
+    static constexpr int adminCancelled = Recycler::cancelled;
+
+    /// Moves an entry to the Trash; of a link the link itself. Returns when it is done, on any thread. On the main one
+    /// the event loop runs meanwhile, so that the caller may be entered again. Throws Error: the recycle service's, or
+    /// "Quillmere.Trash" when the entry is still there without one.
+    void moveToTrash(const QString &path) const;
+
+    /// Moves an entry to the Trash with an administrator's rights, for which the system asks; blocks for as long, so
+    /// never on the main thread. Nothing there is a success. Throws Error in the domain "Quillmere.AdminTrash".
+    void adminTrash(const QString &path) const;
+
     /// Opens a terminal in a folder; a leading tilde is the home folder. Main thread.
     void openInTerminal(const QString &path) const;
 

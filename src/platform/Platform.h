@@ -9,6 +9,7 @@
 #include "platform/ChildPrograms.h"
 #include "platform/KeyStyle.h"
 #include "platform/Locations.h"
+#include "platform/Recycler.h"
 #include "platform/SystemInfo.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
@@ -26,6 +27,7 @@ struct Platform {
     WorkQueue &workQueue;
     NotificationCenter &notifications;
     Workspace &workspace;
+    Recycler &recycler;
     SystemLog &systemLog;
     const SystemInfo &systemInfo;
 };

@@ -29,6 +29,10 @@ public:
     /// Opens an address ("mailto:…", "https:…"), percent-encoded.
     virtual void openAddress(const QByteArray &address) = 0;
 
+    /// Opens a page of the system's settings, named by the address that it has on a Mac; another system shows its own
+    /// page of that purpose.
+    virtual void openSettingsPage(const QByteArray &address) = 0;
+
     /// Shows an entry selected in its folder.
     virtual void reveal(const QString &path) = 0;
 

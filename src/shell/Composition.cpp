@@ -2,6 +2,7 @@
 
 #include "disk/DiskAnalyzerView.h"
 #include "shell/UpcomingView.h"
+#include "shell/common/NotificationNames.h"
 #include "shell/common/SettingsKeys.h"
 
 #include <QFontDatabase>
@@ -12,13 +13,15 @@
 Q_IMPORT_QML_PLUGIN(QuillmerePlugin)
 
 Composition::Composition(const Platform &platform, Appearance &appearance, feedback::Program program,
-                         const std::function<void()> &exitNow)
+                         const std::function<void()> &exitNow, Relaunch relaunch)
     : platform_(platform)
     , appearance_(appearance)
+    , relaunch_(std::move(relaunch))
     , content_(platform, std::move(program))
     , quit_(platform, content_, exitNow)
     , sidebar_(platform, disk(), content_)
     , main_(platform, content_, screens())
+    , sheets_(content_, [this] { return std::make_unique<HistoryView>(platform_, history()); })
     , menuBar_(platform, main_, [this] { quit_.requestQuit(); })
     , editCommands_(menuBar_)
 {
@@ -36,7 +39,22 @@ FileSystemService &Composition::fileSystem()
 
 DiskService &Composition::disk()
 {
-    return DiskService::shared(platform_, fileSystem());
+    return DiskService::shared(platform_, fileSystem(), access());
+}
+
+FDAService &Composition::access()
+{
+    return FDAService::shared(platform_, {relaunch_.executable,
+                                          [this] {
+                                              if (relaunch_.letGo)
+                                                  relaunch_.letGo();
+                                          },
+                                          [this] { quit_.requestQuit(); }});
+}
+
+HistoryService &Composition::history()
+{
+    return HistoryService::shared(platform_);
 }
 
 MainContentView::Screen Composition::upcoming(SidebarItem item)
@@ -53,7 +71,7 @@ MainContentView::Screens Composition::screens()
     }
     screens[SidebarItem::diskAnalyzer] = {
         QStringLiteral("disk/DiskAnalyzerScreen.qml"),
-        [this] { return std::make_unique<DiskAnalyzerView>(platform_, disk(), fileSystem()); },
+        [this] { return std::make_unique<DiskAnalyzerView>(platform_, disk(), fileSystem(), access()); },
         {QStringLiteral("⌘R")},
     };
     return screens;
@@ -68,6 +86,7 @@ bool Composition::show()
         {QStringLiteral("content"), QVariant::fromValue(&content_)},
         {QStringLiteral("sidebar"), QVariant::fromValue(&sidebar_)},
         {QStringLiteral("main"), QVariant::fromValue(&main_)},
+        {QStringLiteral("sheets"), QVariant::fromValue(&sheets_)},
         {QStringLiteral("commands"), QVariant::fromValue(&menuBar_)},
         {QStringLiteral("appearance"), QVariant::fromValue(&appearance_)},
         {QStringLiteral("quit"), QVariant::fromValue(&quit_)},
@@ -89,8 +108,10 @@ void Composition::windowAppeared()
     sidebar_.appear();
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &sidebar_,
                      [this](Qt::ApplicationState state) {
-                         if (state == Qt::ApplicationActive)
-                             sidebar_.sceneActivated();
+                         if (state != Qt::ApplicationActive)
+                             return;
+                         sidebar_.sceneActivated();
+                         platform_.notifications.post(notifications::becameActive);
                      });
 }
 

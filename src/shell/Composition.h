@@ -1,5 +1,7 @@
 #pragma once
 
+#include "activity/FDAService.h"
+#include "activity/HistoryService.h"
 #include "disk/DiskService.h"
 #include "filesystem/FileSystemService.h"
 #include "platform/Appearance.h"
@@ -9,6 +11,7 @@
 #include "shell/MainContentView.h"
 #include "shell/MenuBarView.h"
 #include "shell/QuitPaths.h"
+#include "shell/SheetsView.h"
 #include "shell/SidebarView.h"
 
 #include <QQmlApplicationEngine>
@@ -17,6 +20,12 @@
 
 class QQuickWindow;
 
+/// What a start of the program anew needs.
+struct Relaunch {
+    QString executable;           ///< absolute path of the running program
+    std::function<void()> letGo; ///< gives up what a second process would take for a running one
+};
+
 /// Puts the program together: which service is handed what, which model belongs to which screen, and the window that
 /// shows them. It is the one place that calls `shared()`. One a process; main thread.
 class Composition
@@ -24,7 +33,7 @@ class Composition
 public:
     /// All of these outlive the composition. `exitNow` ends the process and does not return.
     Composition(const Platform &platform, Appearance &appearance, feedback::Program program,
-                const std::function<void()> &exitNow);
+                const std::function<void()> &exitNow, Relaunch relaunch = {});
     ~Composition();
     Composition(const Composition &) = delete;
     Composition &operator=(const Composition &) = delete;
@@ -32,6 +41,8 @@ public:
     // Services, each made at its first use.
     FileSystemService &fileSystem();
     DiskService &disk();
+    HistoryService &history();
+    FDAService &access();
 
     // The window's models.
     ContentView &content() { return content_; }
@@ -57,10 +68,12 @@ private:
 
     const Platform &platform_;
     Appearance &appearance_;
+    const Relaunch relaunch_;
     ContentView content_;
     QuitPaths quit_;
     SidebarView sidebar_;
     MainContentView main_;
+    SheetsView sheets_;
     MenuBarView menuBar_;
     EditCommands editCommands_;
     QQmlApplicationEngine engine_;

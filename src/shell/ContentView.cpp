@@ -47,10 +47,17 @@ bool ContentView::onboardingCompleted() const
 
 void ContentView::appear()
 {
+    if (onboardingCompleted())
+        return;
     platform_.mainQueue.postAfter(tourDelay, [self = QPointer(this)] {
-        if (self && !self->onboardingCompleted())
+        if (self)
             self->setSheet(Sheet::onboarding, true);
     });
+}
+
+void ContentView::closeHistory()
+{
+    setSheet(Sheet::history, false);
 }
 
 void ContentView::dismissSheets()

@@ -35,6 +35,8 @@ public:
     /// The window is there for the first time: the welcome tour follows unless it was seen to its end.
     Q_INVOKABLE void appear();
 
+    Q_INVOKABLE void closeHistory();
+
     /// Takes every sheet down, as a request to quit does first.
     void dismissSheets();
 

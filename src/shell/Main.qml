@@ -9,6 +9,7 @@ ApplicationWindow {
     required property ContentView content
     required property SidebarView sidebar
     required property MainContentView main
+    required property SheetsView sheets
     required property MenuBarView commands
     required property Appearance appearance
     required property QuitPaths quit
@@ -53,5 +54,12 @@ ApplicationWindow {
         anchors.top: titleBar.bottom
         anchors.bottom: parent.bottom
         main: window.main
+    }
+    Loader {
+        active: window.sheets.history !== null
+        sourceComponent: HistorySheet {
+            view: window.sheets.history
+            onDismissed: window.content.closeHistory()
+        }
     }
 }

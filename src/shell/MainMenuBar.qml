@@ -34,6 +34,10 @@ MenuBar {
         }
     }
 
+    Shortcut {
+        sequence: "F10" // the usual key for the menu bar
+        onActivated: bar.itemAt(0).triggered()
+    }
     Instantiator {
         model: bar.commands.menus
         onObjectAdded: (index, menu) => bar.insertMenu(index, menu)
@@ -44,11 +48,14 @@ MenuBar {
             items: modelData.items
         }
     }
+    // Over the list that never changes: the objects of a list that is replaced live on, and a key that two of them
+    // have does nothing.
     Instantiator {
-        model: bar.commands.shortcuts
+        model: bar.commands.keys
         Shortcut {
             required property var modelData
             sequence: modelData.sequence
+            enabled: bar.commands.shortcuts.some(shortcut => shortcut.command === modelData.command)
             onActivated: bar.commands.perform(modelData.command)
         }
     }

@@ -114,17 +114,35 @@ QVariantList MenuBarView::menus() const
     return menus;
 }
 
+bool MenuBarView::hasShortcut(const Command &command)
+{
+    // Quitting by key is watched for ahead of everything else, and a text field knows its own keys.
+    const bool isWatchedElsewhere = command.notification.isEmpty();
+    return !command.keys.isEmpty() && command.isEnabled && !isWatchedElsewhere;
+}
+
+QVariantMap MenuBarView::shortcut(size_t index) const
+{
+    return {{QStringLiteral("sequence"), keysigns::sequence(commands_[index].keys)},
+            {QStringLiteral("command"), static_cast<int>(index)}};
+}
+
+QVariantList MenuBarView::keys() const
+{
+    QVariantList keys;
+    for (size_t i = 0; i < commands_.size(); ++i) {
+        if (hasShortcut(commands_[i]))
+            keys.append(shortcut(i));
+    }
+    return keys;
+}
+
 QVariantList MenuBarView::shortcuts() const
 {
     QVariantList shortcuts;
     for (size_t i = 0; i < commands_.size(); ++i) {
-        const Command &command = commands_[i];
-        // Quitting by key is watched for ahead of everything else, and a text field knows its own keys.
-        const bool isWatchedElsewhere = command.notification.isEmpty();
-        if (command.keys.isEmpty() || !command.isEnabled || isWatchedElsewhere || main_.claimsKey(command.keys))
-            continue;
-        shortcuts.append(QVariantMap{{QStringLiteral("sequence"), keysigns::sequence(command.keys)},
-                                     {QStringLiteral("command"), static_cast<int>(i)}});
+        if (hasShortcut(commands_[i]) && !main_.claimsKey(commands_[i].keys))
+            shortcuts.append(shortcut(i));
     }
     return shortcuts;
 }

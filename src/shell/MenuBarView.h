@@ -15,6 +15,7 @@ class MenuBarView final : public QObject
     Q_OBJECT
     Q_PROPERTY(QVariantList menus READ menus CONSTANT)
     Q_PROPERTY(bool hasText READ hasText NOTIFY hasTextChanged)
+    Q_PROPERTY(QVariantList keys READ keys CONSTANT)
     Q_PROPERTY(QVariantList shortcuts READ shortcuts NOTIFY shortcutsChanged)
 
 public:
@@ -37,6 +38,9 @@ public:
     /// command}. Those with `isText` are enabled only while `hasText` is set.
     QVariantList menus() const;
 
+    /// Every key that may be in force, as `shortcuts` has them. Unlike that list it never changes.
+    QVariantList keys() const;
+
     /// The keys in force: {sequence, command} for each command that is enabled and whose key no screen claims.
     QVariantList shortcuts() const;
 
@@ -54,6 +58,8 @@ signals:
 
 private:
     QVariantMap item(size_t index) const;
+    static bool hasShortcut(const Command &command);
+    QVariantMap shortcut(size_t index) const;
 
     const Platform &platform_;
     const MainContentView &main_;

@@ -2,6 +2,9 @@
 
 // What QML may know of the program's own types. The core itself knows nothing of QML.
 
+#include "activity/HistoryTexts.h"
+#include "activity/HistoryView.h"
+#include "activity/FDABanner.h"
 #include "disk/AnalyzerTexts.h"
 #include "disk/DiskAnalyzerView.h"
 #include "disk/TreemapView.h"
@@ -10,6 +13,7 @@
 #include "shell/MainContentView.h"
 #include "shell/MenuBarView.h"
 #include "shell/QuitPaths.h"
+#include "shell/SheetsView.h"
 #include "shell/SidebarView.h"
 #include "shell/UpcomingView.h"
 
@@ -46,6 +50,29 @@ struct DiskAnalyzerViewType
     QML_UNCREATABLE("Handed in by the program")
 };
 
+struct HistoryTextsType
+{
+    Q_GADGET
+    QML_FOREIGN(HistoryTexts)
+    QML_VALUE_TYPE(historyTexts)
+};
+
+struct HistoryViewType
+{
+    Q_GADGET
+    QML_FOREIGN(HistoryView)
+    QML_NAMED_ELEMENT(HistoryView)
+    QML_UNCREATABLE("Handed in by the program")
+};
+
+struct FDABannerType
+{
+    Q_GADGET
+    QML_FOREIGN(FDABanner)
+    QML_NAMED_ELEMENT(FDABanner)
+    QML_UNCREATABLE("Handed in by the program")
+};
+
 struct MainContentViewType
 {
     Q_GADGET
@@ -67,6 +94,14 @@ struct QuitPathsType
     Q_GADGET
     QML_FOREIGN(QuitPaths)
     QML_NAMED_ELEMENT(QuitPaths)
+    QML_UNCREATABLE("Handed in by the program")
+};
+
+struct SheetsViewType
+{
+    Q_GADGET
+    QML_FOREIGN(SheetsView)
+    QML_NAMED_ELEMENT(SheetsView)
     QML_UNCREATABLE("Handed in by the program")
 };
 

@@ -12,9 +12,10 @@ enum class Sheet {
 constexpr bool isBuilt(Sheet sheet)
 {
     switch (sheet) {
+    case Sheet::history:
+        return true;
     case Sheet::settings:
     case Sheet::shortcuts:
-    case Sheet::history:
     case Sheet::onboarding:
         return false;
     }

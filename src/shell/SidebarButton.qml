@@ -19,7 +19,7 @@ T.ItemDelegate {
     focusPolicy: Qt.TabFocus
     text: itemTitle
     highlighted: isSelected
-    Keys.onReturnPressed: click()
+    Keys.onReturnPressed: clicked()
 
     contentItem: Item {
         Symbol {

@@ -28,7 +28,7 @@ Item {
         focusPolicy: Qt.StrongFocus
         text: bar.main.searchPlaceholder
         onClicked: bar.main.openSearch()
-        Keys.onReturnPressed: click()
+        Keys.onReturnPressed: clicked()
 
         contentItem: Item {
             Symbol {

@@ -69,10 +69,13 @@ int main(int argc, char *argv[])
                                  }});
     Appearance appearance;
     const PortalAppearance portal(bus, appearance);
-    Composition composition(linuxPlatform.platform(), appearance, program::feedbackProgram(), [&composition] {
-        composition.disk().cancelProbes(); // or they would measure on for nobody
-        exitNow();
-    });
+    Composition composition(
+        linuxPlatform.platform(), appearance, program::feedbackProgram(),
+        [&composition] {
+            composition.disk().cancelProbes(); // or they would measure on for nobody
+            exitNow();
+        },
+        {QGuiApplication::applicationFilePath(), [&instance] { instance.release(); }});
     const QuitSignals quitSignals([&composition] { composition.quit().handleQuitEvent(); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      [&composition] { composition.quit().handleQuitEvent(); }); // the session's end

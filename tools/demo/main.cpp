@@ -3,6 +3,7 @@
 #include "base/EventLoopMainQueue.h"
 #include "base/ThreadWorkQueue.h"
 #include "platform/Appearance.h"
+#include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
 #include "platform/linux/LinuxSystemLog.h"
 #include "platform/linux/LinuxWorkspace.h"
@@ -87,10 +88,11 @@ int runDemo(DemoHome &demo)
                                       panel->choose(request, std::move(chosen));
                               }},
                              workQueue);
+    LinuxRecycler recycler(ChildPrograms().pkexec, ChildPrograms().mv);
     LinuxSystemLog systemLog(clock);
     const LinuxSystemInfo systemInfo;
     const Platform platform{demo.home(), locations,     defaults,  clock,     ChildPrograms(), KeyStyle::words, mainQueue,
-                            workQueue,   notifications, workspace, systemLog, systemInfo};
+                            workQueue,   notifications, workspace, recycler, systemLog, systemInfo};
     Appearance appearance;
     appearance.setDark(!options.isLight);
     const auto exitNow = [&demo] {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Recycler.h"
 #include "platform/SystemInfo.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
@@ -14,11 +15,20 @@ class NoWorkspace final : public Workspace
 public:
     void open(const QString &) override {}
     void openAddress(const QByteArray &) override {}
+    void openSettingsPage(const QByteArray &) override { }
     void reveal(const QString &) override {}
     void showFolder(const QString &) override {}
     void openTerminal(const QString &) override {}
     void chooseFolder(const FolderRequest &, FolderChosen) override {}
     void copyText(const QString &) override {}
+};
+
+/// A Trash that takes nothing.
+class NoRecycler final : public Recycler
+{
+public:
+    void recycle(const QStringList &, Completion completion) override { completion({}); }
+    std::optional<AdminFailure> moveToTrashAsAdministrator(const QString &) override { return AdminFailure{false}; }
 };
 
 /// A log that keeps nothing.

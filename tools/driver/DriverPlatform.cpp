@@ -67,10 +67,11 @@ DriverPlatform::DriverPlatform(const QString &home, std::function<Locations()> l
     : home_(home)
     , locations_(std::move(locations))
     , platform_{home_,      locations_, defaults_,      clock_,     ChildPrograms(), KeyStyle::words,
-                mainQueue_, workQueue_, notifications_, workspace_, systemLog_,      systemInfo_}
+                mainQueue_, workQueue_, notifications_, workspace_, recycler_, systemLog_,      systemInfo_}
     , fileSystem_(platform_,
                   [this](const QString &path) { return disk_.probeSize(path, ProbeContext::generic); })
-    , disk_(platform_, fileSystem_)
+    , access_(platform_, {})
+    , disk_(platform_, fileSystem_, access_)
 {
     defaults_.registerDefaults(settings::registeredDefaults());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "activity/FDAService.h"
 #include "base/EventLoopMainQueue.h"
 #include "base/ThreadWorkQueue.h"
 #include "disk/DiskService.h"
@@ -44,9 +45,11 @@ private:
     Defaults defaults_;
     Lazy<Locations> locations_;
     NoWorkspace workspace_;
+    NoRecycler recycler_;
     NoSystemLog systemLog_;
     NoSystemInfo systemInfo_;
     Platform platform_;
     FileSystemService fileSystem_;
+    FDAService access_;
     DiskService disk_;
 };

@@ -2,10 +2,10 @@
 
 #include "base/Paths.h"
 
+#include <memory>
+
 #undef signals // a macro of Qt's, and a member's name in GIO's headers
 #include <gio/gio.h>
-
-#include <memory>
 
 namespace {
 

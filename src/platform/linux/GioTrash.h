@@ -9,11 +9,12 @@
 namespace giotrash {
 
 /// Why the library did not move an item.
-struct Failure {
+struct Failure
+{
     QString domain;
     int code = 0;
     QString description;
-    bool hasNoTrash = false;    ///< the library keeps no Trash for the item's volume, or none that it can reach
+    bool hasNoTrash = false; ///< the library keeps no Trash for the item's volume, or none that it can reach
     bool nameIsTooLong = false; ///< for the note beside the item, or for the file system
 };
 

@@ -5,6 +5,7 @@
 #include "platform/LinuxEnvironment.h"
 #include "platform/Platform.h"
 #include "platform/linux/JsonDefaults.h"
+#include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
 #include "platform/linux/LinuxSystemLog.h"
 #include "platform/linux/LinuxWorkspace.h"
@@ -31,6 +32,7 @@ private:
     JsonDefaults defaults_;
     Lazy<Locations> locations_;
     LinuxWorkspace workspace_;
+    LinuxRecycler recycler_;
     LinuxSystemLog systemLog_;
     LinuxSystemInfo systemInfo_;
     Platform platform_;

@@ -9,8 +9,9 @@ class LinuxRecycler final : public Recycler
 public:
     /// The domain of the errors that are this class's own, and their codes.
     static constexpr QLatin1StringView errorDomain{"Quillmere.Recycler"};
-    static constexpr int volumeHasNoTrash = 1;    ///< a file system in memory, or one that only the system uses
-    static constexpr int trashIsOnOtherVolume = 2; ///< the home Trash has been put on another volume
+    static constexpr int volumeHasNoTrash = 1;     ///< it is in memory, or the system's own
+    static constexpr int trashIsOnOtherVolume = 2; ///< the data folder isn't on the home folder's volume
+    static constexpr int trashIsLink = 3;          ///< the desktop would show nothing of what went behind it
 
     /// The absolute paths of the two programs.
     LinuxRecycler(QString pkexec, QString mv);

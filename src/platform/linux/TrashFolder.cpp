@@ -4,9 +4,11 @@
 #include "base/Paths.h"
 #include "platform/linux/TrashInfo.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <ctime>
+#include <iterator>
 #include <memory>
 
 #include <fcntl.h>
@@ -16,6 +18,8 @@
 namespace {
 
 constexpr qsizetype longestName = 255; // bytes; file systems that take less report it
+const QString itemsFolder = QStringLiteral("files");
+const QString notesFolder = QStringLiteral("info");
 const QString noteSuffix = QStringLiteral(".trashinfo");
 
 bool isThere(const QString &path)
@@ -56,10 +60,10 @@ QString resolved(const QString &path)
     return real ? paths::fromBytes(real.get()) : QString();
 }
 
-/// The root of the volume on which the item at a path without links is.
-QString volumeRoot(const QString &item, dev_t device)
+/// The root of the volume `device`, on which a folder is whose path contains no links.
+QString volumeRoot(const QString &folder, dev_t device)
 {
-    QString root = paths::parent(item);
+    QString root = folder;
     while (root != u"/") {
         const auto above = TrashFolder::identity(paths::parent(root));
         if (!above || above->device != device)
@@ -103,7 +107,8 @@ void writeFile(const QString &path, int flags, const QByteArray &content)
     if (file == -1)
         throw errors::fromErrno(errno);
     errno = ENOSPC; // a short write reports nothing; what it lacks is room
-    int failure = write(file, content.constData(), static_cast<size_t>(content.size())) == content.size() ? 0 : errno;
+    int failure =
+        write(file, content.constData(), static_cast<size_t>(content.size())) == content.size() ? 0 : errno;
     // A network's or a quota's refusal may come as late as here.
     if (close(file) == -1 && failure == 0)
         failure = errno;
@@ -132,13 +137,12 @@ TrashFolder TrashFolder::ofHome(const QString &dataFolder)
     return {paths::join(dataFolder, QStringLiteral("Trash")), {}};
 }
 
-std::optional<TrashFolder> TrashFolder::ofVolume(const QString &item)
+std::optional<TrashFolder> TrashFolder::ofVolume(const QString &item, dev_t device)
 {
     const QString folder = resolved(paths::parent(item));
-    const auto itself = identity(item);
-    if (folder.isEmpty() || !itself)
+    if (folder.isEmpty())
         return std::nullopt;
-    const QString root = volumeRoot(paths::join(folder, paths::lastComponent(item)), itself->device);
+    const QString root = volumeRoot(folder, device);
     const QString user = QString::number(geteuid());
     const QString common = paths::join(root, QStringLiteral(".Trash"));
     if (isCommonFolder(common) && isOwnFolder(paths::join(common, user)))
@@ -147,6 +151,15 @@ std::optional<TrashFolder> TrashFolder::ofVolume(const QString &item)
     if (isOwnFolder(own))
         return TrashFolder(own, root);
     return std::nullopt;
+}
+
+bool TrashFolder::isLink() const
+{
+    const QString parts[] = {path_, paths::join(path_, itemsFolder), paths::join(path_, notesFolder)};
+    return std::any_of(std::begin(parts), std::end(parts), [](const QString &part) {
+        const auto attributes = files::attributes(part);
+        return attributes && attributes->kind == files::Kind::link;
+    });
 }
 
 std::optional<TrashFolder::Entry> TrashFolder::find(const QString &name, const Identity &identity) const
@@ -171,8 +184,8 @@ bool TrashFolder::wouldReplace(const QString &name) const
 
 TrashFolder::Entry TrashFolder::reserve(const QString &item) const
 {
-    makePrivateFolders(paths::join(path_, QStringLiteral("files")));
-    makePrivateFolders(paths::join(path_, QStringLiteral("info")));
+    makePrivateFolders(paths::join(path_, itemsFolder));
+    makePrivateFolders(paths::join(path_, notesFolder));
     const QByteArray content = note(item);
     for (int number = 1;; ++number) {
         Entry place = entry(fittingName(paths::lastComponent(item), number));
@@ -204,8 +217,8 @@ void TrashFolder::release(const Entry &entry)
 
 TrashFolder::Entry TrashFolder::entry(const QString &name) const
 {
-    return {paths::join(paths::join(path_, QStringLiteral("files")), name),
-            paths::join(paths::join(path_, QStringLiteral("info")), name + noteSuffix)};
+    return {paths::join(paths::join(path_, itemsFolder), name),
+            paths::join(paths::join(path_, notesFolder), name + noteSuffix)};
 }
 
 QByteArray TrashFolder::note(const QString &item) const

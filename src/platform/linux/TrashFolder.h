@@ -17,13 +17,15 @@ class TrashFolder
 {
 public:
     /// An item's two places.
-    struct Entry {
+    struct Entry
+    {
         QString file;
         QString info;
     };
 
     /// What tells one item on the disk from all others.
-    struct Identity {
+    struct Identity
+    {
         dev_t device = 0;
         ino_t number = 0;
 
@@ -36,12 +38,13 @@ public:
     /// The home Trash below the data folder. It need not exist.
     static TrashFolder ofHome(const QString &dataFolder);
 
-    /// The user's own Trash on the volume that the item at an absolute path is on. None when there is none, or none
-    /// that is safe to use: neither the volume's common ".Trash" nor the user's folder may be a link.
-    static std::optional<TrashFolder> ofVolume(const QString &item);
+    /// The user's own Trash on the volume `device`, on which the item at an absolute path is or was. None when
+    /// there is none, or none that is safe to use: neither the volume's common ".Trash" nor the user's folder may
+    /// be a link.
+    static std::optional<TrashFolder> ofVolume(const QString &item, dev_t device);
 
-    /// The folder that holds "files" and "info".
-    const QString &path() const { return path_; }
+    /// True when the Trash or one of its two folders is a link. The folders above may be links.
+    bool isLink() const;
 
     /// The place that the library has given to an item that it has just moved. `name` is the item's last path
     /// component. None when it isn't found.

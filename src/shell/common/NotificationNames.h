@@ -15,4 +15,7 @@ inline const QString openOnboarding = QStringLiteral("Quillmere.openOnboarding")
 inline const QString reportBug = QStringLiteral("Quillmere.reportBug");
 inline const QString requestFeature = QStringLiteral("Quillmere.requestFeature");
 
+/// The system's word that the program has come to the front; posted once a time, not at the start.
+inline const QString becameActive = QStringLiteral("Platform.becameActive");
+
 } // namespace notifications

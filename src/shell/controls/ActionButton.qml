@@ -8,6 +8,7 @@ T.Button {
 
     property string symbol
     property string tip
+    property bool isDestructive: false
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
@@ -16,8 +17,8 @@ T.Button {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : 0.5
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Row {
         spacing: Theme.unit * 1.5
@@ -31,6 +32,7 @@ T.Button {
         BodyText {
             anchors.verticalCenter: parent.verticalCenter
             text: control.text
+            color: control.isDestructive ? Theme.red : Theme.text
         }
     }
     background: Rectangle {

@@ -1,0 +1,13 @@
+#pragma once
+
+/// The main thread's event loop, for the few runs on it that have to wait for another thread.
+namespace eventloop {
+
+/// True on the thread that runs the program's event loop.
+bool isMainThread();
+
+/// Lets the event loop run for `seconds`, so that timers and posted blocks go on meanwhile. Whoever calls it must
+/// expect to be entered again from there. Main thread only.
+void turn(double seconds);
+
+} // namespace eventloop

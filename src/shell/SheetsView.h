@@ -1,0 +1,35 @@
+#pragma once
+
+#include "activity/HistoryView.h"
+#include "shell/ContentView.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+/// Makes the models of the sheets that are up, each anew when its sheet opens. Main thread.
+class SheetsView final : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(HistoryView *history READ history NOTIFY historyChanged)
+
+public:
+    using MakeHistory = std::function<std::unique_ptr<HistoryView>()>;
+
+    SheetsView(const ContentView &content, MakeHistory makeHistory);
+    ~SheetsView() override;
+
+    /// Null while the sheet is down.
+    HistoryView *history() const { return history_.get(); }
+
+signals:
+    void historyChanged();
+
+private:
+    void follow();
+
+    const ContentView &content_;
+    const MakeHistory makeHistory_;
+    std::unique_ptr<HistoryView> history_;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "base/Date.h"
+
+#include <QString>
+
+/// Dates as a person reads them, in the current locale and time zone.
+namespace datetexts {
+
+/// The date and the time of day in the short styles, as "3/1/26, 9:30 AM".
+QString shortDateTime(Date date);
+
+} // namespace datetexts

@@ -1,0 +1,243 @@
+#include "activity/FDABanner.h"
+#include "activity/FDAService.h"
+#include "base/Files.h"
+#include "shell/common/NotificationNames.h"
+#include "support/TestPlatform.h"
+
+#include <QScopeGuard>
+
+namespace {
+
+const QString duplicates = QStringLiteral("Duplicate Finder");
+const QString cleanup = QStringLiteral("Smart Cleanup");
+const QString analyzer = QStringLiteral("Disk Analyzer");
+
+struct FDAServiceTest : public testing::Test
+{
+    TestPlatform test;
+    int quitRequests = 0;
+    int lettings = 0;
+    FDAService service{test.platform,
+                       {test.temp.at(QStringLiteral("program")), [this] { ++lettings; }, [this] { ++quitRequests; }}};
+
+    QString safari() const { return QStringLiteral("home/Library/Safari"); }
+    QString mail() const { return QStringLiteral("home/Library/Mail"); }
+
+    void grant() { test.temp.folder(safari()); }
+    void becomeActive() { test.notifications.post(notifications::becameActive); }
+};
+
+} // namespace
+
+TEST_F(FDAServiceTest, oneFolderThatCanBeListedIsAccess)
+{
+    test.temp.folder(mail()); // empty, and Safari's is missing
+    EXPECT_TRUE(service.hasFullDiskAccess());
+}
+
+TEST_F(FDAServiceTest, readsAsDeniedWithBothFoldersMissing)
+{
+    EXPECT_FALSE(service.hasFullDiskAccess());
+}
+
+TEST_F(FDAServiceTest, foldersThatCannotBeListedAreNoAccess)
+{
+    test.temp.folder(safari());
+    test.temp.folder(mail());
+    files::injectFaults([](files::Operation operation, const QString &) {
+        return operation == files::Operation::list ? EPERM : 0;
+    });
+    const auto heal = qScopeGuard([] { files::injectFaults({}); });
+    EXPECT_FALSE(service.hasFullDiskAccess());
+}
+
+TEST_F(FDAServiceTest, handsOutItsCachedAnswerUntilARecheck)
+{
+    EXPECT_FALSE(service.hasFullDiskAccess());
+    grant();
+    EXPECT_FALSE(service.hasFullDiskAccess());
+    service.recheck();
+    EXPECT_TRUE(service.hasFullDiskAccess());
+}
+
+TEST_F(FDAServiceTest, aFirstProbeThatSucceedsRaisesNoGrant)
+{
+    grant();
+    EXPECT_TRUE(service.hasFullDiskAccess());
+    test.settle();
+    EXPECT_FALSE(service.grantedAfterPrompt());
+}
+
+TEST_F(FDAServiceTest, aGrantWhileRunningShowsOnEveryToolsBannerAtOnce)
+{
+    FDABanner finder(service, duplicates);
+    FDABanner disk(service, analyzer);
+    service.markDenied(duplicates);
+    service.hasFullDiskAccess();
+    test.settle();
+    EXPECT_TRUE(finder.isShown());
+    EXPECT_FALSE(disk.isShown());
+
+    grant();
+    becomeActive();
+    test.settle();
+    for (const FDABanner *banner : {&finder, &disk}) {
+        EXPECT_TRUE(banner->isShown());
+        EXPECT_EQ(banner->title(), QStringLiteral("Full Disk Access enabled"));
+        EXPECT_EQ(banner->text(), QStringLiteral("Restart Quillmere to start using protected folders."));
+        EXPECT_EQ(banner->symbol(), QStringLiteral("checkmark.shield.fill"));
+        EXPECT_EQ(banner->buttonText(), QStringLiteral("Restart now"));
+        EXPECT_EQ(banner->buttonSymbol(), QStringLiteral("arrow.clockwise"));
+        EXPECT_EQ(banner->buttonTip(),
+                  QStringLiteral("Quit and reopen Quillmere so the new permission takes effect"));
+        EXPECT_FALSE(banner->canBeHidden());
+    }
+    // A grant found on coming to the front leaves the denied tools as they are.
+    EXPECT_TRUE(service.deniedContexts().contains(duplicates));
+}
+
+TEST_F(FDAServiceTest, theGrantNeverFallsAgain)
+{
+    service.hasFullDiskAccess();
+    grant();
+    service.recheck();
+    test.settle();
+    ASSERT_TRUE(service.grantedAfterPrompt());
+    files::injectFaults([](files::Operation, const QString &) { return EPERM; });
+    const auto heal = qScopeGuard([] { files::injectFaults({}); });
+    service.recheck();
+    test.settle();
+    EXPECT_FALSE(service.hasFullDiskAccess());
+    EXPECT_TRUE(service.grantedAfterPrompt());
+}
+
+TEST_F(FDAServiceTest, marksAndClearsInALaterTurn)
+{
+    service.markDenied(analyzer);
+    EXPECT_TRUE(service.deniedContexts().isEmpty());
+    test.settle();
+    EXPECT_EQ(service.deniedContexts(), QSet<QString>{analyzer});
+    service.clearDenied(analyzer);
+    test.settle();
+    EXPECT_TRUE(service.deniedContexts().isEmpty());
+}
+
+TEST_F(FDAServiceTest, aDismissedBannerStaysHiddenForThatToolAlone)
+{
+    FDABanner finder(service, duplicates);
+    FDABanner cleaner(service, cleanup);
+    service.markDenied(duplicates);
+    service.markDenied(cleanup);
+    test.settle();
+    finder.hide();
+    test.settle();
+    service.markDenied(duplicates); // a later scan
+    test.settle();
+    EXPECT_FALSE(finder.isShown());
+    EXPECT_TRUE(cleaner.isShown());
+}
+
+TEST_F(FDAServiceTest, theDeniedFaceLeadsToTheSettings)
+{
+    FDABanner banner(service, analyzer);
+    service.markDenied(analyzer);
+    test.settle();
+    EXPECT_EQ(banner.title(), QStringLiteral("Some folders couldn't be scanned"));
+    EXPECT_EQ(banner.text(), QStringLiteral("Quillmere needs Full Disk Access to read protected folders. Find "
+                                            "Quillmere in the list and toggle the switch on."));
+    EXPECT_EQ(banner.symbol(), QStringLiteral("lock.shield.fill"));
+    EXPECT_EQ(banner.buttonText(), QStringLiteral("Open System Settings"));
+    EXPECT_EQ(banner.hideTip(), QStringLiteral("Hide for this session"));
+    EXPECT_TRUE(banner.canBeHidden());
+    banner.act();
+    EXPECT_EQ(test.workspace.settingsPage,
+              "x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles");
+    EXPECT_TRUE(service.isPolling());
+}
+
+TEST_F(FDAServiceTest, aBannerThatAppearsAsksTheDiskAgain)
+{
+    service.hasFullDiskAccess();
+    grant();
+    FDABanner banner(service, analyzer);
+    banner.appear();
+    test.settle();
+    EXPECT_TRUE(service.grantedAfterPrompt());
+}
+
+TEST_F(FDAServiceTest, thePollFindsTheGrantAndEmptiesTheDeniedTools)
+{
+    service.markDenied(duplicates);
+    service.openSystemSettings();
+    test.mainQueue.advance(3);
+    test.settle();
+    EXPECT_TRUE(service.isPolling());
+    EXPECT_FALSE(service.grantedAfterPrompt());
+    grant();
+    test.clock.advance(6);
+    test.mainQueue.advance(3);
+    test.settle();
+    EXPECT_FALSE(service.isPolling());
+    EXPECT_TRUE(service.grantedAfterPrompt());
+    EXPECT_TRUE(service.deniedContexts().isEmpty());
+}
+
+TEST_F(FDAServiceTest, thePollGivesUpAfterTwoMinutes)
+{
+    service.startGrantPolling();
+    test.clock.advance(120);
+    test.mainQueue.advance(3);
+    EXPECT_TRUE(service.isPolling()); // not yet more than 120 seconds
+    test.clock.advance(0.5);
+    test.mainQueue.advance(3);
+    EXPECT_FALSE(service.isPolling());
+    grant();
+    test.mainQueue.advance(60);
+    test.settle();
+    EXPECT_FALSE(service.grantedAfterPrompt());
+}
+
+TEST_F(FDAServiceTest, openingTheSettingsAgainRestartsThePollAndItsClock)
+{
+    service.openSystemSettings();
+    test.clock.advance(119);
+    service.openSystemSettings();
+    test.clock.advance(2); // 121 seconds after the first
+    test.mainQueue.advance(3);
+    EXPECT_TRUE(service.isPolling());
+    EXPECT_EQ(test.mainQueue.waiting(), 1U); // one timer, not two
+}
+
+TEST_F(FDAServiceTest, theRelaunchLineQuotesThePathAsItStands)
+{
+    EXPECT_EQ(FDAService::relaunchLine(QStringLiteral("/Apps/My Quillmere")),
+              QStringLiteral("sleep 1 && \"/Apps/My Quillmere\" & disown; exit 0"));
+    // A double quote in the path is not escaped, and breaks the line.
+    EXPECT_EQ(FDAService::relaunchLine(QStringLiteral("/a\"b")),
+              QStringLiteral("sleep 1 && \"/a\"b\" & disown; exit 0"));
+}
+
+TEST_F(FDAServiceTest, relaunchLetsGoStartsTheShellAndAsksToQuit)
+{
+    TestPlatform &own = test;
+    const QString record = own.temp.at(QStringLiteral("arguments"));
+    own.platform.programs.sh = own.temp.script(QStringLiteral("sh"), "printf '%s\\n' \"$@\" > '" + record.toUtf8()
+                                                   + ".new' && mv '" + record.toUtf8() + ".new' '" + record.toUtf8()
+                                                   + "'\n");
+    service.relaunch();
+    EXPECT_EQ(lettings, 1);
+    EXPECT_EQ(quitRequests, 0); // asked for in a later turn
+    own.settle();
+    EXPECT_EQ(quitRequests, 1);
+    while (!files::exists(record)) { } // the stand-in shell runs beside us; CTest ends a test that never comes back
+    EXPECT_EQ(files::readPrefix(record, 4096),
+              "-c\n" + FDAService::relaunchLine(own.temp.at(QStringLiteral("program"))).toUtf8() + "\n");
+}
+
+TEST_F(FDAServiceTest, aRelaunchThatCannotStartJustQuits)
+{
+    test.platform.programs.sh = QStringLiteral("/nonexistent/sh");
+    service.relaunch();
+    test.settle();
+    EXPECT_EQ(quitRequests, 1);
+}

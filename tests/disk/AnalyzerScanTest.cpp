@@ -1,0 +1,271 @@
+#include "disk/DiskServices.h"
+
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct AnalyzerScan : testing::Test
+{
+    DiskServices services;
+    TestPlatform &test = services.test;
+    DiskService &disk = services.disk;
+    QString root = test.temp.folder("root");
+
+    void scan(const QString &path, bool force = true)
+    {
+        disk.scanAnalyzer(path, force);
+        test.settle();
+    }
+
+    /// Posts a scan and lets the main thread take note of it; the walk itself has not begun.
+    void begin(const QString &path)
+    {
+        disk.scanAnalyzer(path, true);
+        test.mainQueue.run();
+        ASSERT_TRUE(disk.isScanningAnalyzer());
+    }
+
+    const FileEntry *childNamed(const FileEntry &entry, const QString &name) const
+    {
+        for (const FileEntry &child : entry.children.value()) {
+            if (child.name == name)
+                return &child;
+        }
+        return nullptr;
+    }
+};
+
+} // namespace
+
+TEST_F(AnalyzerScan, listsTheRootAndItsFoldersAndMeasuresWhatLiesBelow)
+{
+    test.temp.file("root/file", QByteArray(3, 'x'));
+    test.temp.file("root/sub/inner", QByteArray(5, 'x'));
+    test.temp.file("root/sub/deep/far/away", QByteArray(70'000, 'x'));
+    test.temp.file("root/sub/deep/.hidden", QByteArray(90'000, 'x'));
+    scan(root, false);
+
+    const FileEntry &tree = *disk.analyzerRoot();
+    const FileEntry *sub = childNamed(tree, "sub");
+    ASSERT_TRUE(sub);
+    const FileEntry *deep = childNamed(*sub, "deep");
+    ASSERT_TRUE(deep);
+    EXPECT_FALSE(deep->children);
+    EXPECT_EQ(deep->size, disk.probeSize(test.temp.at("root/sub/deep"), ProbeContext::generic));
+    EXPECT_GE(deep->size, 160'000);
+    EXPECT_EQ(tree.size, 3 + 5 + deep->size);
+}
+
+TEST_F(AnalyzerScan, theOldTreeGoesAtOnceAndThePathIsShown)
+{
+    scan(test.home);
+    ASSERT_TRUE(disk.analyzerRoot());
+    const auto date = disk.lastAnalyzerScan();
+    disk.scanAnalyzer(root, true);
+    EXPECT_TRUE(disk.analyzerRoot());
+    EXPECT_FALSE(disk.isScanningAnalyzer());
+    test.mainQueue.run();
+    EXPECT_TRUE(disk.isScanningAnalyzer());
+    EXPECT_FALSE(disk.analyzerRoot());
+    EXPECT_EQ(disk.analyzerScanPath(), root);
+    EXPECT_EQ(disk.lastAnalyzerScan(), date);
+    test.settle();
+    EXPECT_EQ(disk.analyzerRoot()->path, root);
+}
+
+TEST_F(AnalyzerScan, isOnAUserInitiatedThread)
+{
+    disk.scanAnalyzer(root, true);
+    EXPECT_EQ(test.workQueue.lastPriority(), WorkPriority::userInitiated);
+    test.settle();
+}
+
+TEST_F(AnalyzerScan, forcedScanDuringAScanDoesNothing)
+{
+    begin(root);
+    disk.scanAnalyzer(root, true);
+    disk.scanAnalyzer(test.home, true);
+    EXPECT_EQ(test.workQueue.waiting(), 1U);
+    test.settle();
+    EXPECT_EQ(disk.analyzerRoot()->path, root);
+    EXPECT_EQ(disk.analyzerScanPath(), root);
+}
+
+TEST_F(AnalyzerScan, keepsTheTreeOnTheSamePathWithinTheLifetime)
+{
+    scan(root, false);
+    const auto tree = disk.analyzerRoot();
+    test.clock.advance(299);
+    scan(root, false);
+    EXPECT_EQ(disk.analyzerRoot(), tree);
+    test.clock.advance(1);
+    scan(root, false);
+    EXPECT_NE(disk.analyzerRoot(), tree);
+}
+
+TEST_F(AnalyzerScan, onAnotherPathAlwaysScans)
+{
+    scan(root, false);
+    scan(test.home, false);
+    EXPECT_EQ(disk.analyzerRoot()->path, test.home);
+    scan(root, false);
+    EXPECT_EQ(disk.analyzerRoot()->path, root);
+}
+
+TEST_F(AnalyzerScan, choosingAPathAloneKeepsTheTreeAndMakesTheNextUnforcedScanRun)
+{
+    scan(root, false);
+    disk.setAnalyzerScanPath(test.home);
+    EXPECT_EQ(disk.analyzerRoot()->path, root);
+    scan(disk.analyzerScanPath(), false);
+    EXPECT_EQ(disk.analyzerRoot()->path, test.home);
+}
+
+TEST_F(AnalyzerScan, forcePassesTheCacheOver)
+{
+    scan(root);
+    const auto tree = disk.analyzerRoot();
+    scan(root);
+    EXPECT_NE(disk.analyzerRoot(), tree);
+}
+
+TEST_F(AnalyzerScan, breakdownsDateDoesNotMakeItFresh)
+{
+    disk.scanStorage(true);
+    scan(root, false);
+    EXPECT_TRUE(disk.analyzerRoot());
+    test.clock.advance(400);
+    disk.scanStorage(true);
+    test.settle();
+    const auto tree = disk.analyzerRoot();
+    scan(root, false);
+    EXPECT_NE(disk.analyzerRoot(), tree);
+}
+
+TEST_F(AnalyzerScan, cancelledScanLeavesAPartialTreeThatTheNextUnforcedCallReuses)
+{
+    test.temp.file("root/file", QByteArray(3, 'x'));
+    test.temp.folder("root/sub/deep");
+    // The cancel comes from within the first probe, which is the last one that runs.
+    DiskService *service = nullptr;
+    FileSystemService cancelling(test.platform, [&](const QString &) {
+        service->cancelAnalyzerScan();
+        return qint64(1000);
+    });
+    DiskService own(test.platform, cancelling, test.access);
+    service = &own;
+    test.temp.folder("root/sub/deeper");
+    own.scanAnalyzer(root, false);
+    test.settle();
+
+    EXPECT_TRUE(cancelling.scanCancelled);
+    EXPECT_FALSE(own.isScanningAnalyzer());
+    ASSERT_TRUE(own.analyzerRoot());
+    EXPECT_EQ(own.analyzerRoot()->size, 3 + 1000); // one of the two deep folders, and the file
+    EXPECT_EQ(own.lastAnalyzerScan(), test.clock.now());
+    const auto partial = own.analyzerRoot();
+    own.scanAnalyzer(root, false);
+    test.settle();
+    EXPECT_EQ(own.analyzerRoot(), partial);
+}
+
+TEST_F(AnalyzerScan, cancelClearsTheFlagInALaterTurn)
+{
+    begin(root);
+    disk.cancelAnalyzerScan();
+    EXPECT_TRUE(disk.isScanningAnalyzer());
+    EXPECT_TRUE(services.fileSystem.scanCancelled);
+    test.mainQueue.run();
+    EXPECT_FALSE(disk.isScanningAnalyzer());
+    EXPECT_FALSE(disk.analyzerRoot());
+    test.settle();
+}
+
+TEST_F(AnalyzerScan, newScanClearsTheCancelOfTheOneBefore)
+{
+    test.temp.file("root/file", QByteArray(3, 'x'));
+    disk.cancelAnalyzerScan();
+    scan(root);
+    EXPECT_FALSE(services.fileSystem.scanCancelled);
+    EXPECT_EQ(disk.analyzerRoot()->size, 3);
+}
+
+TEST_F(AnalyzerScan, resultOfAScanThatALaterOneHasOvertakenIsDropped)
+{
+    begin(root);
+    disk.cancelAnalyzerScan();
+    test.mainQueue.run();
+    begin(test.home);
+
+    ASSERT_TRUE(test.workQueue.step()); // the first one's walk ends now
+    test.mainQueue.run();
+    EXPECT_FALSE(disk.analyzerRoot());
+    EXPECT_TRUE(disk.isScanningAnalyzer());
+    EXPECT_FALSE(disk.lastAnalyzerScan());
+
+    ASSERT_TRUE(test.workQueue.step());
+    test.mainQueue.run();
+    EXPECT_EQ(disk.analyzerRoot()->path, test.home);
+    EXPECT_FALSE(disk.isScanningAnalyzer());
+}
+
+TEST_F(AnalyzerScan, ofTwoCallsInOneTurnOnlyTheLaterPublishes)
+{
+    disk.scanAnalyzer(root, false);
+    disk.scanAnalyzer(test.home, false);
+    EXPECT_EQ(test.workQueue.waiting(), 2U);
+    test.settle();
+    EXPECT_EQ(disk.analyzerRoot()->path, test.home);
+    EXPECT_EQ(disk.analyzerScanPath(), test.home);
+    EXPECT_FALSE(disk.isScanningAnalyzer());
+}
+
+TEST_F(AnalyzerScan, marksItselfDeniedWithoutFullDiskAccessAndClearsThatWithIt)
+{
+    scan(root); // the home folder has none of the protected folders yet
+    EXPECT_TRUE(test.access.deniedContexts().contains("Disk Analyzer"));
+    test.temp.folder("home/Library/Safari");
+    test.access.recheck();
+    scan(root);
+    EXPECT_FALSE(test.access.deniedContexts().contains("Disk Analyzer"));
+}
+
+TEST_F(AnalyzerScan, doesNotAskForFullDiskAccessWhenItIsSkipped)
+{
+    test.temp.folder("home/Library/Safari");
+    scan(root, false);
+    test.access.markDenied("Disk Analyzer");
+    scan(root, false); // cached
+    EXPECT_TRUE(test.access.deniedContexts().contains("Disk Analyzer"));
+}
+
+TEST_F(AnalyzerScan, missingFolderGivesATreeWithoutChildren)
+{
+    scan(test.temp.at("missing"));
+    ASSERT_TRUE(disk.analyzerRoot());
+    EXPECT_EQ(disk.analyzerRoot()->size, 0);
+    EXPECT_FALSE(disk.analyzerRoot()->children);
+}
+
+TEST_F(AnalyzerScan, fieldsAreSetBeforeAnyChangeIsNotified)
+{
+    disk.setAnalyzerScanPath("/before");
+    QStringList seen;
+    const auto note = [this, &seen](const char *signal) {
+        seen << QStringLiteral("%1 %2 %3 %4 %5")
+                    .arg(signal)
+                    .arg(disk.isScanningAnalyzer())
+                    .arg(disk.analyzerRoot() != nullptr)
+                    .arg(disk.lastAnalyzerScan().has_value())
+                    .arg(disk.analyzerScanPath() == root);
+    };
+    QObject::connect(&disk, &DiskService::isScanningAnalyzerChanged, [&] { note("flag"); });
+    QObject::connect(&disk, &DiskService::analyzerRootChanged, [&] { note("tree"); });
+    QObject::connect(&disk, &DiskService::lastAnalyzerScanChanged, [&] { note("date"); });
+    QObject::connect(&disk, &DiskService::analyzerScanPathChanged, [&] { note("path"); });
+    scan(root);
+    EXPECT_EQ(seen, QStringList({"flag 1 0 0 1", "tree 1 0 0 1", "path 1 0 0 1", "tree 0 1 1 1",
+                                 "date 0 1 1 1", "flag 0 1 1 1"}));
+}

@@ -1,0 +1,685 @@
+#include "disk/DiskAnalyzerView.h"
+
+#include "base/Paths.h"
+#include "filesystem/FileSystemService.h"
+#include "shell/common/Rows.h"
+#include "shell/common/SettingsKeys.h"
+#include "support/TestPlatform.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include <filesystem>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The screen over a small home: "Documents" with the folder "Deep", which lies at the depth limit and is measured
+/// only, and "notes.txt". What a probe measures is set by the test.
+class DiskAnalyzerViewTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        inHome("Documents/report.pdf", 600);
+        inHome("Documents/Deep/inside.txt", 250);
+        inHome("notes.txt", 200);
+        probe = [](const QString &path) { return qint64(path.endsWith(QStringLiteral("/Deep")) ? 400 : 0); };
+    }
+
+    void inHome(const QString &relative, qint64 size) const
+    {
+        test.temp.sparseFile(QStringLiteral("home/") + relative, size);
+    }
+    void inHome(const char *relative, qint64 size) const { inHome(QString::fromUtf8(relative), size); }
+    QString path(const char *relative) const { return paths::join(test.home, QString::fromUtf8(relative)); }
+
+    void make() { view = std::make_unique<DiskAnalyzerView>(test.platform, disk, fileSystem, test.access); }
+    /// A screen with the whole home measured.
+    void makeScanned()
+    {
+        make();
+        view->appear();
+        test.settle();
+    }
+    /// A click on the row or on the tile of that name.
+    void open(const char *name) { view->openRow(rowOf(view->contents(), "entryName", name)); }
+    void tapTile(const char *name)
+    {
+        view->treemap()->tap(rowOf(view->treemap()->tiles(), "tileName", name));
+    }
+    static int rowOf(const QAbstractItemModel *model, const char *role, const char *text)
+    {
+        return static_cast<int>(columnTexts(model, role).indexOf(QString::fromUtf8(text)));
+    }
+    QString names() const { return columnTexts(view->contents(), "entryName").join(u','); }
+    QString crumbs() const { return columnTexts(view->breadcrumbs(), "entryName").join(u'/'); }
+
+    TestPlatform test;
+    std::function<qint64(const QString &)> probe;
+    FileSystemService fileSystem{test.platform, [this](const QString &path) { return probe(path); }};
+    DiskService disk{test.platform, fileSystem, test.access};
+    std::unique_ptr<DiskAnalyzerView> view;
+};
+
+} // namespace
+
+TEST_F(DiskAnalyzerViewTest, hasItsFixedTexts)
+{
+    make();
+    EXPECT_EQ(view->title(), QStringLiteral("Disk Analyzer"));
+    EXPECT_EQ(view->symbol(), QStringLiteral("internaldrive"));
+    EXPECT_EQ(view->refreshSequence(), QStringLiteral("Ctrl+R"));
+    const AnalyzerTexts texts = view->texts();
+    EXPECT_EQ(texts.rescan, QStringLiteral("Rescan"));
+    EXPECT_EQ(texts.changeFolder, QStringLiteral("Change Folder"));
+    EXPECT_EQ(texts.scanning, QStringLiteral("Scanning..."));
+    EXPECT_EQ(texts.cancel, QStringLiteral("Cancel"));
+    EXPECT_EQ(texts.cancelTip, QStringLiteral("Stop scanning"));
+    EXPECT_EQ(texts.analyzing, QStringLiteral("Analyzing disk usage..."));
+    EXPECT_EQ(texts.goBack, QStringLiteral("Go back"));
+    EXPECT_EQ(texts.home, QStringLiteral("Home"));
+    EXPECT_EQ(texts.openInFinder, QStringLiteral("Open in Finder"));
+    EXPECT_EQ(texts.visualMap, QStringLiteral("VISUAL MAP"));
+    EXPECT_EQ(texts.nameColumn, QStringLiteral("Name"));
+    EXPECT_EQ(texts.sizeColumn, QStringLiteral("Size"));
+    EXPECT_EQ(texts.shareColumn, QStringLiteral("% of Parent"));
+    EXPECT_EQ(texts.loadingContents, QStringLiteral("Loading contents..."));
+    EXPECT_EQ(texts.emptyDirectory, QStringLiteral("Empty directory"));
+    EXPECT_EQ(texts.reveal, QStringLiteral("Reveal in Finder"));
+    EXPECT_EQ(texts.copyPath, QStringLiteral("Copy Path"));
+    EXPECT_EQ(texts.openInTerminal, QStringLiteral("Open in Terminal"));
+}
+
+TEST_F(DiskAnalyzerViewTest, hasNothingToShowBeforeTheFirstScan)
+{
+    make();
+    EXPECT_FALSE(view->hasEntry());
+    EXPECT_FALSE(view->isScanning());
+    EXPECT_FALSE(view->isAnalyzing());
+    EXPECT_FALSE(view->isPillShown());
+    EXPECT_FALSE(view->isEmptyDirectory());
+    EXPECT_TRUE(view->isMapEmpty());
+    EXPECT_EQ(view->pillText() + view->pillTooltip() + view->mapSummary() + view->location(), QString());
+    EXPECT_EQ(view->contentsHeader(), QStringLiteral("CONTENTS (0 items)"));
+    view->openInFinder();
+    view->openRow(0);
+    view->goBack();
+    EXPECT_EQ(test.workspace.calls, QStringList());
+    EXPECT_EQ(test.workQueue.waiting(), 0U);
+}
+
+TEST_F(DiskAnalyzerViewTest, scansItsFolderWhenItAppears)
+{
+    makeScanned();
+    EXPECT_TRUE(view->hasEntry());
+    EXPECT_EQ(view->location(), test.home);
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 1.2 KB"));
+    EXPECT_EQ(view->contentsHeader(), QStringLiteral("CONTENTS (2 items)"));
+    EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
+}
+
+TEST_F(DiskAnalyzerViewTest, showsProgressInThePlaceOfATreeDuringAScan)
+{
+    makeScanned();
+    view->rescan();
+    EXPECT_TRUE(view->hasEntry()); // the flag is set in the next turn
+    test.mainQueue.run();
+    EXPECT_EQ(disk.analyzerRoot(), nullptr);
+    EXPECT_TRUE(view->isScanning());
+    EXPECT_TRUE(view->isAnalyzing());
+    EXPECT_FALSE(view->hasEntry());
+    EXPECT_FALSE(view->isEmptyDirectory());
+    EXPECT_EQ(view->progressText(), QStringLiteral("Scanning ") + test.home);
+    EXPECT_EQ(view->contents()->rowCount(), 0);
+    test.settle();
+    EXPECT_FALSE(view->isScanning());
+    EXPECT_FALSE(view->isAnalyzing());
+    EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
+}
+
+TEST_F(DiskAnalyzerViewTest, tellsBeginningAndEndOfAScan)
+{
+    make();
+    std::vector<bool> states;
+    QObject::connect(view.get(), &DiskAnalyzerView::scanChanged, view.get(),
+                     [this, &states] { states.push_back(view->isScanning()); });
+    const QSignalSpy contents(view.get(), &DiskAnalyzerView::contentChanged);
+    view->appear();
+    test.settle();
+    EXPECT_EQ(states, (std::vector<bool>{true, false}));
+    EXPECT_GE(contents.count(), 2);
+}
+
+TEST_F(DiskAnalyzerViewTest, findsAFinishedTreeWhenItIsMade)
+{
+    disk.scanAnalyzer(test.home, false);
+    test.settle();
+    make();
+    EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
+    EXPECT_TRUE(view->isPillShown());
+}
+
+TEST_F(DiskAnalyzerViewTest, keepsTheTreeOfTheSameFolderWithinTheLifetime)
+{
+    makeScanned();
+    const auto tree = disk.analyzerRoot();
+    make();
+    test.clock.advance(299);
+    view->appear();
+    EXPECT_EQ(test.workQueue.waiting(), 0U);
+    EXPECT_EQ(disk.analyzerRoot(), tree);
+    test.clock.advance(1);
+    view->appear();
+    EXPECT_EQ(test.workQueue.waiting(), 1U);
+}
+
+TEST_F(DiskAnalyzerViewTest, scansAnotherFolderWhateverTheAgeOfTheTree)
+{
+    makeScanned();
+    disk.setAnalyzerScanPath(path("Documents"));
+    view->appear();
+    test.settle();
+    EXPECT_EQ(names(), QStringLiteral("report.pdf,Deep"));
+}
+
+TEST_F(DiskAnalyzerViewTest, rescansATreeThatIsFresh)
+{
+    makeScanned();
+    inHome("new.bin", 5000);
+    view->rescan();
+    test.settle();
+    EXPECT_EQ(names(), QStringLiteral("new.bin,Documents,notes.txt"));
+    inHome("newer.bin", 6000);
+    view->refresh();
+    test.settle();
+    EXPECT_EQ(names(), QStringLiteral("newer.bin,new.bin,Documents,notes.txt"));
+}
+
+TEST_F(DiskAnalyzerViewTest, leavesTheWayInOnARescan)
+{
+    makeScanned();
+    open("Documents");
+    view->rescan();
+    EXPECT_FALSE(view->canGoBack());
+    EXPECT_EQ(view->breadcrumbs()->rowCount(), 0);
+}
+
+TEST_F(DiskAnalyzerViewTest, startsNoSecondScanOnARescanDuringAScan)
+{
+    makeScanned();
+    view->rescan();
+    test.mainQueue.run();
+    ASSERT_TRUE(view->isScanning());
+    view->rescan();
+    test.mainQueue.run();
+    EXPECT_EQ(test.workQueue.waiting(), 1U);
+}
+
+TEST_F(DiskAnalyzerViewTest, leavesTheWayInOnARescanDuringAScanButNotByTheKey)
+{
+    makeScanned();
+    open("Documents");
+    disk.scanAnalyzer(test.home, true);
+    test.mainQueue.run();
+    ASSERT_TRUE(view->isScanning());
+    view->refresh();
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
+    view->rescan();
+    EXPECT_EQ(crumbs(), QString());
+    EXPECT_EQ(test.workQueue.waiting(), 1U);
+}
+
+TEST_F(DiskAnalyzerViewTest, keepsShowingAFolderWhoseTreeTheServiceHasDropped)
+{
+    makeScanned();
+    open("Documents");
+    disk.scanAnalyzer(test.home, true);
+    test.mainQueue.run();
+    ASSERT_EQ(disk.analyzerRoot(), nullptr);
+    EXPECT_FALSE(view->isAnalyzing());
+    EXPECT_EQ(names(), QStringLiteral("report.pdf,Deep"));
+    EXPECT_EQ(view->location(), path("Documents"));
+}
+
+TEST_F(DiskAnalyzerViewTest, stopsTheScanInALaterTurn)
+{
+    make();
+    view->appear();
+    test.mainQueue.run();
+    view->cancelScan();
+    EXPECT_TRUE(fileSystem.scanCancelled);
+    EXPECT_TRUE(view->isScanning());
+    test.mainQueue.run();
+    EXPECT_FALSE(view->isScanning());
+}
+
+TEST_F(DiskAnalyzerViewTest, reusesThePartialTreeOfACancelledScan)
+{
+    make();
+    probe = [this](const QString &) {
+        view->cancelScan(); // as a click in the middle of the walk
+        return qint64(0);
+    };
+    view->appear();
+    test.settle();
+    ASSERT_TRUE(view->hasEntry());
+    EXPECT_TRUE(view->isPillShown());
+    const auto partial = disk.analyzerRoot();
+    view->appear();
+    test.settle();
+    EXPECT_EQ(disk.analyzerRoot(), partial);
+}
+
+TEST_F(DiskAnalyzerViewTest, asksForAFolderAndScansIt)
+{
+    makeScanned();
+    open("Documents");
+    test.workspace.chosenFolder = path("Documents");
+    view->changeFolder();
+    EXPECT_EQ(test.workspace.folderRequest.message, QStringLiteral("Choose a folder to analyze"));
+    EXPECT_EQ(test.workspace.folderRequest.start, test.home);
+    EXPECT_EQ(disk.analyzerScanPath(), path("Documents"));
+    EXPECT_FALSE(view->canGoBack());
+    test.mainQueue.run();
+    EXPECT_EQ(view->progressText(), QStringLiteral("Scanning ") + path("Documents"));
+    test.settle();
+    EXPECT_EQ(view->location(), path("Documents"));
+}
+
+TEST_F(DiskAnalyzerViewTest, scansTheChosenFolderThoughItsTreeIsFresh)
+{
+    makeScanned();
+    test.workspace.chosenFolder = test.home;
+    view->changeFolder();
+    EXPECT_EQ(test.workQueue.waiting(), 1U);
+}
+
+TEST_F(DiskAnalyzerViewTest, changesNothingWhenNoFolderIsChosen)
+{
+    makeScanned();
+    open("Documents");
+    test.workspace.chosenFolder.reset();
+    view->changeFolder();
+    EXPECT_EQ(disk.analyzerScanPath(), test.home);
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
+    EXPECT_EQ(test.workQueue.waiting(), 0U);
+}
+
+TEST_F(DiskAnalyzerViewTest, movesItsPillOnEveryThirtySeconds)
+{
+    makeScanned();
+    EXPECT_EQ(view->pillText(), QStringLiteral("Cached · just now"));
+    const QSignalSpy changes(view.get(), &DiskAnalyzerView::pillChanged);
+    test.clock.advance(180);
+    EXPECT_EQ(view->pillText(), QStringLiteral("Cached · just now"));
+    test.mainQueue.advance(29);
+    EXPECT_EQ(changes.count(), 0);
+    test.mainQueue.advance(2);
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(view->pillText(), QStringLiteral("Cached · 3 min ago"));
+    EXPECT_EQ(view->pillTooltip(),
+              QStringLiteral(
+                  "Last scanned 3 min ago. Auto-refresh in 2 min 0 sec, or click Refresh to update now."));
+    test.clock.advance(120);
+    test.mainQueue.advance(30);
+    EXPECT_EQ(view->pillText(), QStringLiteral("Stale · refreshing soon"));
+    EXPECT_EQ(view->pillTooltip(), QStringLiteral("Cache expired — next view will re-scan automatically."));
+    EXPECT_EQ(test.workQueue.waiting(), 0U); // no timer scans
+}
+
+TEST_F(DiskAnalyzerViewTest, takesThePillsLifetimeFromTheSettingsAsTheyStand)
+{
+    makeScanned();
+    test.clock.advance(400);
+    test.mainQueue.advance(30);
+    EXPECT_EQ(view->pillText(), QStringLiteral("Stale · refreshing soon"));
+    test.defaults.set(settings::diskCacheLifetimeMinutes, qint64(10));
+    EXPECT_EQ(view->pillText(), QStringLiteral("Cached · 6 min ago"));
+}
+
+TEST_F(DiskAnalyzerViewTest, listsTheContentsWithTheirShares)
+{
+    makeScanned();
+    const QAbstractItemModelTester tester(view->contents(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    EXPECT_EQ(columnTexts(view->contents(), "symbol").join(u','), QStringLiteral("folder.fill,doc.fill"));
+    EXPECT_EQ(columnTexts(view->contents(), "sizeText").join(u','), QStringLiteral("1000 B,200 B"));
+    EXPECT_EQ(columnTexts(view->contents(), "shareText").join(u','), QStringLiteral("83.3%,16.7%"));
+    EXPECT_EQ(columnTexts(view->contents(), "isFolder").join(u','), QStringLiteral("true,false"));
+    EXPECT_DOUBLE_EQ(rowValue(view->contents(), 0, "share").toDouble(), 1000.0 / 1200);
+    open("Documents");
+    EXPECT_EQ(columnTexts(view->contents(), "shareText").join(u','), QStringLiteral("60.0%,40.0%"));
+    view->rescan();
+    test.settle();
+    EXPECT_EQ(view->contents()->rowCount(), 2);
+}
+
+TEST_F(DiskAnalyzerViewTest, roundsASharesTieToTheEvenDigit)
+{
+    test.temp.sparseFile(QStringLiteral("ties/more"), 351); // 87.75 % of 400
+    test.temp.sparseFile(QStringLiteral("ties/less"), 49);  // 12.25 %
+    test.temp.sparseFile(QStringLiteral("ties/none"), 0);
+    disk.setAnalyzerScanPath(test.temp.at(QStringLiteral("ties")));
+    makeScanned();
+    EXPECT_EQ(columnTexts(view->contents(), "shareText").join(u','), QStringLiteral("87.8%,12.2%,0.0%"));
+}
+
+TEST_F(DiskAnalyzerViewTest, hasNoShareOfAnEmptyWhole)
+{
+    test.temp.sparseFile(QStringLiteral("zeros/a"), 0);
+    test.temp.folder(QStringLiteral("zeros/b"));
+    disk.setAnalyzerScanPath(test.temp.at(QStringLiteral("zeros")));
+    makeScanned();
+    EXPECT_EQ(columnTexts(view->contents(), "shareText").join(u','), QStringLiteral("0.0%,0.0%"));
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 0 B"));
+    EXPECT_FALSE(view->isEmptyDirectory());
+    EXPECT_TRUE(view->isMapEmpty());
+}
+
+TEST_F(DiskAnalyzerViewTest, sumsInTheMapWhatIsListedAndInItsHeadWhatIsThere)
+{
+    for (int i = 0; i < 32; ++i) // two more than a listing keeps
+        test.temp.sparseFile(QStringLiteral("many/%1").arg(i), 100);
+    disk.setAnalyzerScanPath(test.temp.at(QStringLiteral("many")));
+    makeScanned();
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("30 items · 3.1 KB"));
+    EXPECT_EQ(rowValue(view->contents(), 0, "shareText").toString(), QStringLiteral("3.1%"));
+    view->treemap()->resize(400, 300);
+    EXPECT_NE(rowOf(view->treemap()->tiles(), "tileName", "18 others"), -1);
+}
+
+TEST_F(DiskAnalyzerViewTest, opensAListedFolderByItsRowAtOnce)
+{
+    makeScanned();
+    const QAbstractItemModelTester tester(view->breadcrumbs(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    open("Documents");
+    EXPECT_FALSE(view->isScanningDeeper());
+    EXPECT_EQ(test.workQueue.waiting(), 0U);
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
+    EXPECT_EQ(view->location(), path("Documents"));
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 1000 B"));
+    EXPECT_EQ(view->contentsHeader(), QStringLiteral("CONTENTS (2 items)"));
+    EXPECT_TRUE(view->canGoBack());
+    view->goHome();
+    EXPECT_EQ(crumbs(), QString());
+}
+
+TEST_F(DiskAnalyzerViewTest, opensAFolderByItsTile)
+{
+    makeScanned();
+    view->treemap()->resize(400, 300);
+    tapTile("Documents");
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
+    EXPECT_EQ(columnTexts(view->treemap()->tiles(), "tileName").join(u','),
+              QStringLiteral("report.pdf,Deep"));
+}
+
+TEST_F(DiskAnalyzerViewTest, opensNoFileByItsRowOrItsTile)
+{
+    makeScanned();
+    view->treemap()->resize(400, 300);
+    open("notes.txt");
+    tapTile("notes.txt");
+    EXPECT_EQ(crumbs(), QString());
+    EXPECT_FALSE(view->isScanningDeeper());
+    EXPECT_EQ(test.workspace.calls, QStringList());
+}
+
+TEST_F(DiskAnalyzerViewTest, doesNothingOnTheTileOfAllOthers)
+{
+    for (int i = 0; i < 20; ++i)
+        test.temp.sparseFile(QStringLiteral("equal/folder%1/file").arg(i), 100);
+    disk.setAnalyzerScanPath(test.temp.at(QStringLiteral("equal")));
+    makeScanned();
+    view->treemap()->resize(400, 300);
+    ASSERT_EQ(view->treemap()->tiles()->rowCount(), 13);
+    ASSERT_NE(rowOf(view->treemap()->tiles(), "tileName", "8 others"), -1);
+    tapTile("8 others");
+    EXPECT_FALSE(view->canGoBack());
+    EXPECT_FALSE(view->isScanningDeeper());
+    EXPECT_EQ(test.workQueue.waiting(), 0U);
+}
+
+TEST_F(DiskAnalyzerViewTest, hasAParentRowBelowTheTop)
+{
+    makeScanned();
+    EXPECT_EQ(view->parentRowText(), QString());
+    open("Documents");
+    EXPECT_EQ(view->parentRowText(), QStringLiteral("..  Home"));
+    open("Deep");
+    test.settle();
+    EXPECT_EQ(view->parentRowText(), QStringLiteral("..  Documents"));
+    view->goBack();
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
+    view->goBack();
+    EXPECT_EQ(crumbs(), QString());
+    EXPECT_EQ(view->location(), test.home);
+    view->goBack();
+    EXPECT_EQ(view->location(), test.home);
+}
+
+TEST_F(DiskAnalyzerViewTest, cutsTheWayInBackToAnEntryOfIt)
+{
+    makeScanned();
+    open("Documents");
+    open("Deep");
+    test.settle();
+    ASSERT_EQ(crumbs(), QStringLiteral("Documents/Deep"));
+    view->goTo(5);
+    view->goTo(-2);
+    view->goTo(std::numeric_limits<int>::max());
+    view->goTo(1);
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents/Deep"));
+    view->goTo(0);
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
+}
+
+TEST_F(DiskAnalyzerViewTest, listsAFolderAtTheDepthLimitOneLevelOnAClick)
+{
+    test.temp.sparseFile(QStringLiteral("home/Documents/Deep/below/file"), 1);
+    makeScanned();
+    QStringList probed;
+    probe = [&probed](const QString &path) {
+        probed << path;
+        return qint64(70);
+    };
+    open("Documents");
+    open("Deep");
+    EXPECT_TRUE(view->isScanningDeeper());
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
+    EXPECT_EQ(test.workQueue.lastPriority(), WorkPriority::userInitiated);
+    test.workQueue.run();
+    EXPECT_TRUE(view->isScanningDeeper());
+    test.mainQueue.run();
+    EXPECT_FALSE(view->isScanningDeeper());
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents/Deep"));
+    EXPECT_EQ(names(), QStringLiteral("inside.txt,below"));
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 320 B")); // measured anew
+    EXPECT_EQ(probed, QStringList{path("Documents/Deep/below")});
+}
+
+TEST_F(DiskAnalyzerViewTest, undoesACancelByAClickIntoTheDepth)
+{
+    makeScanned();
+    open("Documents");
+    fileSystem.scanCancelled = true;
+    open("Deep");
+    test.settle();
+    EXPECT_FALSE(fileSystem.scanCancelled);
+    EXPECT_EQ(names(), QStringLiteral("inside.txt"));
+}
+
+TEST_F(DiskAnalyzerViewTest, takesNoSecondClickWhileALevelLoads)
+{
+    makeScanned();
+    view->treemap()->resize(400, 300);
+    open("Documents");
+    open("Deep");
+    open("Deep");
+    tapTile("Deep");
+    EXPECT_EQ(test.workQueue.waiting(), 1U);
+    test.settle();
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents/Deep"));
+}
+
+TEST_F(DiskAnalyzerViewTest, showsAFolderThatHasVanishedAsEmpty)
+{
+    makeScanned();
+    open("Documents");
+    std::filesystem::remove_all(paths::toBytes(path("Documents/Deep")).toStdString());
+    open("Deep");
+    EXPECT_FALSE(view->isEmptyDirectory());
+    test.settle();
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents/Deep"));
+    EXPECT_TRUE(view->isEmptyDirectory());
+    EXPECT_TRUE(view->isMapEmpty());
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("0 items · 0 B"));
+    EXPECT_EQ(view->contentsHeader(), QStringLiteral("CONTENTS (0 items)"));
+    view->goBack();
+    EXPECT_EQ(names(), QStringLiteral("report.pdf,Deep"));
+}
+
+TEST_F(DiskAnalyzerViewTest, showsAnEmptyFolderAsEmptyOnlyOnceItIsLoaded)
+{
+    test.temp.folder(QStringLiteral("home/Nothing"));
+    makeScanned();
+    open("Nothing"); // listed and empty, so it is listed again
+    EXPECT_TRUE(view->isScanningDeeper());
+    EXPECT_FALSE(view->isEmptyDirectory());
+    test.settle();
+    EXPECT_EQ(crumbs(), QStringLiteral("Nothing"));
+    EXPECT_TRUE(view->isEmptyDirectory());
+}
+
+TEST_F(DiskAnalyzerViewTest, survivesTheScreensEndWhileALevelLoads)
+{
+    for (const bool isJobDone : {false, true}) {
+        makeScanned();
+        open("Documents");
+        open("Deep");
+        if (isJobDone)
+            test.workQueue.run();
+        view.reset();
+        test.settle();
+        EXPECT_NE(disk.analyzerRoot(), nullptr);
+    }
+}
+
+TEST_F(DiskAnalyzerViewTest, survivesTheScreensEndDuringAScan)
+{
+    make();
+    view->appear();
+    test.mainQueue.run();
+    view.reset();
+    test.settle();
+    test.mainQueue.advance(60); // its timer has gone with it
+    EXPECT_EQ(test.mainQueue.waiting(), 0U);
+    EXPECT_NE(disk.analyzerRoot(), nullptr);
+}
+
+TEST_F(DiskAnalyzerViewTest, actsOnARow)
+{
+    makeScanned();
+    const int folder = rowOf(view->contents(), "entryName", "Documents");
+    const int file = rowOf(view->contents(), "entryName", "notes.txt");
+    EXPECT_EQ(view->openText(folder), QStringLiteral("Drill Into"));
+    EXPECT_EQ(view->openText(file), QStringLiteral("Open"));
+    view->revealRow(folder);
+    view->openTerminal(folder);
+    view->openTerminal(file); // in the folder that holds it
+    view->activateRow(file);
+    EXPECT_EQ(test.workspace.calls, (QStringList{QStringLiteral("reveal ") + path("Documents"),
+                                                 QStringLiteral("terminal ") + path("Documents"),
+                                                 QStringLiteral("terminal ") + test.home,
+                                                 QStringLiteral("open ") + path("notes.txt")}));
+    view->copyPath(file);
+    EXPECT_EQ(test.workspace.clipboard, path("notes.txt"));
+    view->activateRow(folder);
+    EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
+}
+
+TEST_F(DiskAnalyzerViewTest, doesNothingForARowThatIsNotThere)
+{
+    makeScanned();
+    for (const int row : {-1, 2, 99}) {
+        view->openRow(row);
+        view->activateRow(row);
+        view->revealRow(row);
+        view->copyPath(row);
+        view->openTerminal(row);
+    }
+    EXPECT_EQ(test.workspace.calls, QStringList());
+    EXPECT_EQ(test.workspace.clipboard, QString());
+    EXPECT_FALSE(view->canGoBack());
+}
+
+TEST_F(DiskAnalyzerViewTest, showsTheEntryOnViewInTheFileViewer)
+{
+    makeScanned();
+    view->openInFinder();
+    open("Documents");
+    view->openInFinder();
+    EXPECT_EQ(test.workspace.calls, (QStringList{QStringLiteral("show ") + test.home,
+                                                 QStringLiteral("show ") + path("Documents")}));
+}
+
+TEST_F(DiskAnalyzerViewTest, showsBytesThatAreNoTextAndUsesThemInPaths)
+{
+    const QString name = paths::fromBytes("caf\xe9");
+    test.temp.sparseFile(
+        paths::join(QStringLiteral("hostile"), name + QStringLiteral("/") + name + QStringLiteral("/f")), 9);
+    const QString root = test.temp.at(QStringLiteral("hostile"));
+    QStringList probed;
+    probe = [&probed](const QString &path) {
+        probed << path;
+        return qint64(9);
+    };
+    disk.setAnalyzerScanPath(root);
+    makeScanned();
+    const QString folder = paths::join(root, name);
+    EXPECT_EQ(probed, QStringList{paths::join(folder, name)});
+    EXPECT_EQ(names(), QStringLiteral("caf\uFFFD"));
+    view->revealRow(0);
+    EXPECT_EQ(test.workspace.calls, QStringList{QStringLiteral("reveal ") + folder});
+
+    view->treemap()->resize(400, 300);
+    tapTile("caf\uFFFD");
+    EXPECT_EQ(crumbs(), QStringLiteral("caf\uFFFD"));
+    EXPECT_EQ(view->location(), root + QStringLiteral("/caf\uFFFD"));
+    view->openRow(0);
+    test.settle();
+    EXPECT_EQ(view->parentRowText(), QStringLiteral("..  caf\uFFFD"));
+    EXPECT_EQ(names(), QStringLiteral("f"));
+    EXPECT_EQ(view->breadcrumb().back()->path, paths::join(folder, name));
+
+    test.workspace.chosenFolder = folder;
+    view->changeFolder();
+    EXPECT_EQ(view->progressText(), QStringLiteral("Scanning ") + root + QStringLiteral("/caf\uFFFD"));
+}
+
+TEST_F(DiskAnalyzerViewTest, tellsApartNamesThatLookTheSame)
+{
+    test.temp.sparseFile(paths::fromBytes("twins/a\xe8/eight"), 20);
+    test.temp.sparseFile(paths::fromBytes("twins/a\xe9/nine"), 10);
+    disk.setAnalyzerScanPath(test.temp.at(QStringLiteral("twins")));
+    makeScanned();
+    ASSERT_EQ(names(), QStringLiteral("a\uFFFD,a\uFFFD"));
+    view->treemap()->resize(400, 300);
+    view->treemap()->tap(1);
+    EXPECT_EQ(names(), QStringLiteral("nine"));
+}
+
+TEST_F(DiskAnalyzerViewTest, takesNamesAsTheyStand)
+{
+    const QString name = QStringLiteral("100%1 &\n<b>%2");
+    test.temp.sparseFile(QStringLiteral("odd/") + name + QStringLiteral("/f"), 9);
+    disk.setAnalyzerScanPath(test.temp.at(QStringLiteral("odd")));
+    makeScanned();
+    EXPECT_EQ(names(), name);
+    view->openRow(0);
+    EXPECT_EQ(view->location(), test.temp.at(QStringLiteral("odd/")) + name);
+}

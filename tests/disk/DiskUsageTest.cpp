@@ -1,0 +1,34 @@
+#include "disk/DiskServices.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct DiskUsageQuery : testing::Test
+{
+    DiskServices services;
+
+    DiskUsage usageOf(std::optional<SystemInfo::Volume> volume)
+    {
+        services.test.systemInfo.volume = std::move(volume);
+        return services.disk.getDiskUsage();
+    }
+};
+
+} // namespace
+
+TEST_F(DiskUsageQuery, usedIsTotalLessAvailable)
+{
+    EXPECT_EQ(usageOf(SystemInfo::Volume{1000, 400, "Disk"}), (DiskUsage{1000, 600, 400, "Disk"}));
+}
+
+TEST_F(DiskUsageQuery, volumeWithoutANameIsMacintoshHdWithRealSizes)
+{
+    EXPECT_EQ(usageOf(SystemInfo::Volume{1000, 400, std::nullopt}),
+              (DiskUsage{1000, 600, 400, "Macintosh HD"}));
+}
+
+TEST_F(DiskUsageQuery, isZerosAndUnknownWhenTheVolumeCannotBeAsked)
+{
+    EXPECT_EQ(usageOf(std::nullopt), (DiskUsage{0, 0, 0, "Unknown"}));
+}

@@ -1,0 +1,209 @@
+#include "disk/TreemapView.h"
+
+#include "base/Paths.h"
+#include "shell/common/Rows.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+StorageCategory category(const QString &name, qint64 size, const QString &color = QStringLiteral("58a6ff"))
+{
+    return {QUuid::createUuid(), name, size, color, {}, {}};
+}
+
+class TreemapViewTest : public ::testing::Test
+{
+protected:
+    double number(int row, const char *role) { return rowValue(map.tiles(), row, role).toDouble(); }
+    QString text(int row, const char *role) { return rowValue(map.tiles(), row, role).toString(); }
+    bool hasLabelAt(double width, double height)
+    {
+        map.setCategories({category(QStringLiteral("all"), 100)});
+        map.resize(width, height);
+        return rowValue(map.tiles(), 0, "hasLabel").toBool();
+    }
+    void recordTaps()
+    {
+        map.onTap = [this](const StorageCategory &tapped) { taps << tapped.name; };
+    }
+
+    TreemapView map;
+    QAbstractItemModelTester tester{map.tiles(), QAbstractItemModelTester::FailureReportingMode::Fatal};
+    QStringList taps;
+    const std::vector<StorageCategory> unsorted{category(QStringLiteral("small"), 10),
+                                                category(QStringLiteral("large"), 60),
+                                                category(QStringLiteral("middle"), 30)};
+};
+
+} // namespace
+
+TEST_F(TreemapViewTest, drawsNothingWithoutCategoriesOrRoom)
+{
+    map.resize(100, 100);
+    EXPECT_EQ(map.tiles()->rowCount(), 0);
+    map.setCategories(unsorted);
+    EXPECT_EQ(map.tiles()->rowCount(), 3);
+    map.resize(0, 100);
+    EXPECT_EQ(map.tiles()->rowCount(), 0);
+}
+
+TEST_F(TreemapViewTest, drawsTheTilesInOrderOfTheirSize)
+{
+    map.setCategories(unsorted);
+    map.resize(100, 100);
+    EXPECT_EQ(columnTexts(map.tiles(), "tileName").join(u' '), QStringLiteral("large middle small"));
+    EXPECT_EQ(columnTexts(map.tiles(), "sizeText").join(u','), QStringLiteral("60 B,30 B,10 B"));
+}
+
+TEST_F(TreemapViewTest, drawsATileTwoPointsSmallerThanItsRectangleAndCentredOnIt)
+{
+    map.setCategories(unsorted);
+    map.resize(100, 100); // large: 60×100 at the left
+    EXPECT_DOUBLE_EQ(number(0, "tileX"), 1);
+    EXPECT_DOUBLE_EQ(number(0, "tileY"), 1);
+    EXPECT_DOUBLE_EQ(number(0, "tileWidth"), 58);
+    EXPECT_DOUBLE_EQ(number(0, "tileHeight"), 98);
+    EXPECT_DOUBLE_EQ(number(1, "tileX"), 61); // middle: 40×75 beside it, on top
+    EXPECT_DOUBLE_EQ(number(1, "tileHeight"), 73);
+}
+
+TEST_F(TreemapViewTest, drawsNoTileOfNegativeExtent)
+{
+    map.setCategories({category(QStringLiteral("all"), 100)});
+    map.resize(1.5, 1);
+    EXPECT_EQ(number(0, "tileWidth"), 0);
+    EXPECT_EQ(number(0, "tileHeight"), 0);
+}
+
+TEST_F(TreemapViewTest, givesASingleCategoryTheWholeViewAndItsLabel)
+{
+    EXPECT_TRUE(hasLabelAt(200, 100));
+    EXPECT_EQ(map.tiles()->rowCount(), 1);
+    EXPECT_DOUBLE_EQ(number(0, "tileWidth"), 198);
+    EXPECT_DOUBLE_EQ(number(0, "tileHeight"), 98);
+}
+
+TEST_F(TreemapViewTest, labelsATileOnlyWhenItsRectangleIsWiderThan55AndTallerThan28)
+{
+    EXPECT_FALSE(hasLabelAt(55, 100));
+    EXPECT_TRUE(hasLabelAt(55.5, 100));
+    EXPECT_FALSE(hasLabelAt(100, 28));
+    EXPECT_TRUE(hasLabelAt(100, 28.5));
+}
+
+TEST_F(TreemapViewTest, drawsNoTileForACategoryOfSizeZero)
+{
+    map.setCategories({category(QStringLiteral("none"), 0), category(QStringLiteral("all"), 5)});
+    map.resize(100, 100);
+    EXPECT_EQ(columnTexts(map.tiles(), "tileName"), QStringList{QStringLiteral("all")});
+}
+
+TEST_F(TreemapViewTest, givesColoursAsTheLookWritesThem)
+{
+    map.setCategories({category(QStringLiteral("a"), 2, QStringLiteral("58a6ff")),
+                       category(QStringLiteral("b"), 1, QStringLiteral("nothing"))});
+    map.resize(100, 100);
+    EXPECT_EQ(text(0, "tileColor"), QStringLiteral("#ff58a6ff"));
+    EXPECT_EQ(text(1, "tileColor"), QStringLiteral("#ff000000"));
+}
+
+TEST_F(TreemapViewTest, writesLabelsDarkOnLightTilesAndWhiteOnDarkOnes)
+{
+    map.setCategories({category(QStringLiteral("light"), 2, QStringLiteral("58a6ff")),
+                       category(QStringLiteral("dark"), 1, QStringLiteral("484f58"))});
+    map.resize(100, 100);
+    EXPECT_EQ(text(0, "labelColor"), QStringLiteral("#0d1117"));
+    EXPECT_EQ(text(1, "labelColor"), QStringLiteral("#ffffff"));
+}
+
+TEST_F(TreemapViewTest, showsBytesOfANameThatAreNoTextAndHandsTheNameOnAsItIs)
+{
+    const QString name = paths::fromBytes("caf\xe9");
+    map.setCategories({category(name, 5)});
+    map.resize(100, 100);
+    EXPECT_EQ(text(0, "tileName"), QStringLiteral("caf\uFFFD"));
+    recordTaps();
+    map.tap(0);
+    EXPECT_EQ(taps, QStringList{name});
+}
+
+TEST_F(TreemapViewTest, hasATextForSizesBeyondTheLargestUnit)
+{
+    map.setCategories({category(QStringLiteral("all"), std::numeric_limits<qint64>::max())});
+    map.resize(100, 100);
+    EXPECT_EQ(text(0, "sizeText"), QStringLiteral("1024 TB"));
+}
+
+TEST_F(TreemapViewTest, tellsWhichTileThePointerIsOn)
+{
+    const QSignalSpy changes(&map, &TreemapView::hoveredIndexChanged);
+    EXPECT_EQ(map.hoveredIndex(), -1);
+    map.hover(1);
+    map.hover(1);
+    EXPECT_EQ(map.hoveredIndex(), 1);
+    EXPECT_EQ(changes.count(), 1);
+    map.leave(1);
+    EXPECT_EQ(map.hoveredIndex(), -1);
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(TreemapViewTest, keepsTheNextTileHoveredWhenTheLastOneIsLeftLate)
+{
+    map.hover(0);
+    map.hover(1);
+    map.leave(0);
+    EXPECT_EQ(map.hoveredIndex(), 1);
+}
+
+TEST_F(TreemapViewTest, hoversNothingOnceTheCategoriesChange)
+{
+    map.setCategories(unsorted);
+    map.hover(2);
+    map.setCategories({category(QStringLiteral("all"), 5)});
+    EXPECT_EQ(map.hoveredIndex(), -1);
+}
+
+TEST_F(TreemapViewTest, handsOnTheCategoryOfTheSortedListAndNotOfTheOneThatCame)
+{
+    map.setCategories(unsorted);
+    map.resize(100, 100);
+    recordTaps();
+    for (int i = 0; i < 3; ++i)
+        map.tap(i);
+    EXPECT_EQ(taps.join(u' '), QStringLiteral("large middle small"));
+}
+
+TEST_F(TreemapViewTest, handsOnNothingForAnIndexOutsideTheList)
+{
+    map.setCategories(unsorted);
+    recordTaps();
+    map.tap(-1);
+    map.tap(3);
+    EXPECT_EQ(taps, QStringList());
+}
+
+TEST_F(TreemapViewTest, takesAClickThatNobodyWaitsFor)
+{
+    map.setCategories(unsorted);
+    map.tap(0);
+    EXPECT_EQ(map.hoveredIndex(), -1);
+}
+
+TEST_F(TreemapViewTest, survivesAClickThatReplacesItsCategories)
+{
+    map.setCategories(unsorted);
+    map.resize(100, 100);
+    map.onTap = [this](const StorageCategory &tapped) {
+        map.setCategories({});
+        taps << tapped.name;
+    };
+    map.tap(1);
+    EXPECT_EQ(taps, QStringList{QStringLiteral("middle")});
+    EXPECT_EQ(map.tiles()->rowCount(), 0);
+}

@@ -1,0 +1,135 @@
+#include "shell/MainContentView.h"
+
+#include "support/TestPlatform.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Nine screens whose models carry their key as a name, and whose QML is "<key>.qml".
+MainContentView::Screens namedScreens()
+{
+    MainContentView::Screens screens;
+    for (const SidebarSection section : sidebar::sections) {
+        for (const SidebarItem item : sidebar::items(section)) {
+            const auto make = [item] {
+                auto model = std::make_unique<QObject>();
+                model->setObjectName(sidebar::key(item));
+                return model;
+            };
+            screens.emplace(item,
+                            MainContentView::Screen{sidebar::key(item) + QStringLiteral(".qml"), make, {}});
+        }
+    }
+    screens[SidebarItem::diskAnalyzer].keys = {QStringLiteral("⌘R")};
+    return screens;
+}
+
+void turnTheLoop()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+class MainContentViewTest : public ::testing::Test
+{
+protected:
+    TestPlatform test;
+    ContentView content{test.platform, {}};
+    MainContentView main{test.platform, content, namedScreens()};
+};
+
+} // namespace
+
+TEST_F(MainContentViewTest, beginsWithTheDashboard)
+{
+    ASSERT_NE(main.screen(), nullptr);
+    EXPECT_EQ(main.screen()->objectName(), QStringLiteral("dashboard"));
+    EXPECT_EQ(main.screenSource(), QStringLiteral("dashboard.qml"));
+}
+
+TEST_F(MainContentViewTest, showsTheScreenOfEachItem)
+{
+    for (const SidebarSection section : sidebar::sections) {
+        for (const SidebarItem item : sidebar::items(section)) {
+            content.setSelectedItem(item);
+            EXPECT_EQ(main.screen()->objectName(), sidebar::key(item));
+            EXPECT_EQ(main.screenSource(), sidebar::key(item) + QStringLiteral(".qml"));
+        }
+    }
+}
+
+TEST_F(MainContentViewTest, makesTheModelAnewAtEachSelection)
+{
+    const QPointer<QObject> first = main.screen();
+    content.setSelectedItem(SidebarItem::search);
+    content.setSelectedItem(SidebarItem::dashboard);
+    EXPECT_NE(main.screen(), first);
+    turnTheLoop();
+    EXPECT_TRUE(first.isNull());
+    EXPECT_EQ(main.screen()->objectName(), QStringLiteral("dashboard"));
+}
+
+TEST_F(MainContentViewTest, keepsTheModelWhenItsItemIsSelectedAgain)
+{
+    const QPointer<QObject> first = main.screen();
+    const QSignalSpy changes(&main, &MainContentView::screenChanged);
+    content.setSelectedItem(SidebarItem::dashboard);
+    turnTheLoop();
+    EXPECT_EQ(main.screen(), first);
+    EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(MainContentViewTest, destroysTheOldModelInALaterTurnOfTheLoop)
+{
+    const QPointer<QObject> old = main.screen();
+    bool wasAlive = false;
+    bool wasReplaced = false;
+    QObject::connect(&main, &MainContentView::screenChanged, &main, [this, &old, &wasAlive, &wasReplaced] {
+        wasAlive = !old.isNull();
+        wasReplaced = main.screen() != old;
+    });
+    content.setSelectedItem(SidebarItem::cleanup);
+    EXPECT_TRUE(wasAlive);
+    EXPECT_TRUE(wasReplaced);
+    EXPECT_FALSE(old.isNull());
+    turnTheLoop();
+    EXPECT_TRUE(old.isNull());
+}
+
+TEST_F(MainContentViewTest, tellsSearchPillTextsInTheSystemsWords)
+{
+    EXPECT_EQ(main.searchPlaceholder(), QStringLiteral("Search files..."));
+    EXPECT_EQ(main.searchHint(), QStringLiteral("Ctrl+K"));
+    EXPECT_EQ(main.searchTip(), QStringLiteral("Open Search (Ctrl+K)"));
+    EXPECT_EQ(main.searchSequence(), QStringLiteral("Ctrl+K"));
+}
+
+TEST_F(MainContentViewTest, tellsSearchPillTextsInSignsWhereTheyAreTheStyle)
+{
+    test.platform.keyStyle = KeyStyle::signs;
+    EXPECT_EQ(main.searchHint(), QStringLiteral("⌘K"));
+    EXPECT_EQ(main.searchTip(), QStringLiteral("Open Search (⌘K)"));
+    EXPECT_EQ(main.searchSequence(), QStringLiteral("Ctrl+K"));
+}
+
+TEST_F(MainContentViewTest, opensSearchByThePill)
+{
+    main.openSearch();
+    EXPECT_EQ(content.selectedItem(), SidebarItem::search);
+    EXPECT_EQ(main.screen()->objectName(), QStringLiteral("search"));
+}
+
+TEST_F(MainContentViewTest, claimsTheKeysOfTheScreenOnViewOnly)
+{
+    EXPECT_FALSE(main.claimsKey(QStringLiteral("⌘R")));
+    content.setSelectedItem(SidebarItem::diskAnalyzer);
+    EXPECT_TRUE(main.claimsKey(QStringLiteral("⌘R")));
+    EXPECT_FALSE(main.claimsKey(QStringLiteral("⌘N")));
+    content.setSelectedItem(SidebarItem::search);
+    EXPECT_FALSE(main.claimsKey(QStringLiteral("⌘R")));
+}

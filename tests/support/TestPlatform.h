@@ -1,0 +1,34 @@
+#pragma once
+
+#include "activity/FDAService.h"
+#include "platform/Platform.h"
+#include "support/Fakes.h"
+#include "support/SteppedQueues.h"
+#include "support/TempHome.h"
+
+/// A platform over a temporary home of the Mac's shape, with fakes, defaults in memory, a clock that the test sets and
+/// queues that it turns. The real `du` unless a test names another.
+struct TestPlatform {
+    TempHome temp; ///< "home" and "Applications" lie in it
+
+    QString home = temp.folder(QStringLiteral("home"));
+    Lazy<Locations> locations{[this] { return macLocations(home, temp.at(QStringLiteral("Applications"))); }};
+    Defaults defaults;
+    FakeClock clock;
+    SteppedMainQueue mainQueue;
+    SteppedWorkQueue workQueue;
+    NotificationCenter notifications;
+    FakeWorkspace workspace;
+    FakeRecycler recycler;
+    FakeSystemLog systemLog;
+    FakeSystemInfo systemInfo;
+    Platform platform{home,      locations, defaults,      clock,     ChildPrograms(), KeyStyle::words,
+                      mainQueue, workQueue, notifications, workspace, recycler, systemLog, systemInfo};
+    FDAService access{platform, {}};
+
+    /// Turns both queues until nothing is left to do.
+    void settle()
+    {
+        while (mainQueue.run() + workQueue.run() > 0) { }
+    }
+};
