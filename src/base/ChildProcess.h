@@ -10,11 +10,11 @@
 #include <sys/types.h>
 
 /// One run of another program: launch, wait, read, or terminate. Standard input is the null device, and so is
-/// standard error unless it is asked for; standard output is a pipe that this object reads. No shell is involved,
-/// so nothing needs quoting.
+/// standard error unless it is asked for; standard output is a pipe that this object reads. No shell is
+/// involved, so nothing needs quoting.
 ///
-/// `launch`, `waitUntilExit` and `readToEnd` belong to the one thread that runs the operation; `isRunning` and
-/// `terminate` may be called from any thread at any moment.
+/// `launch`, `waitUntilExit` and `readToEnd` belong to the one thread that runs the operation; `isRunning`
+/// and `terminate` may be called from any thread at any moment.
 class ChildProcess
 {
 public:
@@ -30,7 +30,8 @@ public:
     ChildProcess &operator=(const ChildProcess &) = delete;
 
     /// Collects standard error as well. To be called before `launch`; after it the run must be read first and
-    /// waited for then, else a program that complains at length fills the pipe and waits for its reader for ever.
+    /// waited for then, else a program that complains at length fills the pipe and waits for its reader for
+    /// ever.
     void captureErrorOutput() { capturesErrors_ = true; }
 
     /// Starts the program with the signals that we ignore or block set back to their defaults. Throws Error
@@ -40,8 +41,9 @@ public:
     /// Blocks until the program has ended. Returns at once when it was never launched.
     void waitUntilExit();
 
-    /// What is left to read of standard output, up to its end (and to that of standard error where it is captured). Empty when there is none. After `waitUntilExit`
-    /// this gives what the pipe holds, so it suits programs that print less than a pipe's buffer.
+    /// What is left to read of standard output, up to its end (and to that of standard error where it is
+    /// captured). Empty when there is none. After `waitUntilExit` this gives what the pipe holds, so it suits
+    /// programs that print less than a pipe's buffer.
     QByteArray readToEnd();
 
     /// The start of what `readToEnd` found on standard error. Empty when it is not captured.

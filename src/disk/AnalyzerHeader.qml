@@ -63,7 +63,6 @@ Item {
         }
         ActionButton {
             objectName: "rescanButton"
-            enabled: !header.view.isScanning
             text: header.view.texts.rescan
             symbol: "arrow.clockwise"
             onClicked: header.view.rescan()

@@ -53,6 +53,12 @@ FocusScope {
         keyNavigationEnabled: true
         activeFocusOnTab: true
 
+        // Whoever comes by key sees where they are.
+        onActiveFocusChanged: {
+            if (activeFocus && currentIndex < 0 && count > 0)
+                currentIndex = 0;
+        }
+
         function take(index) {
             currentIndex = index;
             forceActiveFocus();

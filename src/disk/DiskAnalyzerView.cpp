@@ -120,6 +120,11 @@ bool DiskAnalyzerView::isMapEmpty() const
     return !entry || !entry->hasChildren() || analyzer::mapCategories(*entry).empty();
 }
 
+QString DiskAnalyzerView::emptyMapText() const
+{
+    return isEmptyDirectory() ? texts().emptyDirectory : QStringLiteral("Nothing here takes any space");
+}
+
 QString DiskAnalyzerView::contentsHeader() const
 {
     return QStringLiteral("CONTENTS (%1 items)").arg(childCount(currentEntry()));

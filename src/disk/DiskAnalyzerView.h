@@ -36,6 +36,7 @@ class DiskAnalyzerView final : public QObject
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY contentChanged)
     Q_PROPERTY(QString mapSummary READ mapSummary NOTIFY contentChanged)
     Q_PROPERTY(bool isMapEmpty READ isMapEmpty NOTIFY contentChanged)
+    Q_PROPERTY(QString emptyMapText READ emptyMapText NOTIFY contentChanged)
     Q_PROPERTY(QString contentsHeader READ contentsHeader NOTIFY contentChanged)
     Q_PROPERTY(QString parentRowText READ parentRowText NOTIFY contentChanged)
     Q_PROPERTY(bool isScanningDeeper READ isScanningDeeper NOTIFY contentChanged)
@@ -69,6 +70,7 @@ public:
     bool canGoBack() const { return !breadcrumb_.empty(); }
     QString mapSummary() const;
     bool isMapEmpty() const;
+    QString emptyMapText() const; ///< why the map is empty
     QString contentsHeader() const;
     QString parentRowText() const; ///< empty at the top, where there is no parent row
     bool isScanningDeeper() const { return isScanningDeeper_; }

@@ -32,6 +32,6 @@ Card {
         width: parent.width
         visible: card.view.isMapEmpty
         symbol: "folder"
-        text: card.view.texts.emptyDirectory
+        text: card.view.emptyMapText
     }
 }

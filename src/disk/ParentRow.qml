@@ -12,6 +12,7 @@ T.ItemDelegate {
     height: implicitHeight
     leftPadding: Theme.unit * 2
     hoverEnabled: true
+    focusPolicy: Qt.TabFocus
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 

@@ -36,6 +36,7 @@ Rectangle {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: Theme.unit * 1.5
+        anchors.topMargin: tile.height < 40 ? 0 : Theme.unit * 1.5 // both lines have to fit into the lowest tile
         visible: tile.hasLabel
         BodyText {
             width: parent.width
@@ -46,7 +47,6 @@ Rectangle {
         }
         BodyText {
             width: parent.width
-            visible: tile.height > 40
             text: tile.sizeText
             color: tile.labelColor
             font.pixelSize: Theme.captionSize
@@ -59,7 +59,7 @@ Rectangle {
         radius: parent.radius
         color: "transparent"
         border.width: 2
-        border.color: "#66ffffff"
+        border.color: "#80ffffff" // 0.4 of white, under the opacity of the tile
     }
     HoverHandler {
         id: pointer

@@ -9,8 +9,8 @@
 #include <map>
 #include <optional>
 
-/// The system's Trash: what goes there can be taken back by the user. Both operations only report what the system
-/// said; whether an item is really gone is for the caller to look at. Safe from any thread.
+/// The system's Trash: what goes there can be taken back by the user. Both operations only report what the
+/// system said; whether an item is really gone is for the caller to look at. Safe from any thread.
 class Recycler
 {
 public:
@@ -39,12 +39,13 @@ public:
     Recycler &operator=(const Recycler &) = delete;
     virtual ~Recycler() = default;
 
-    /// Moves items into the Trash and returns at once. A link goes itself, never what it leads to. Goes on after
-    /// an item that can't be moved. `completion` runs exactly once, on a thread of its own, and may outlive
-    /// this object.
+    /// Moves items into the Trash and returns at once. A link goes itself, never what it leads to. Goes on
+    /// after an item that can't be moved. `completion` runs exactly once, on a thread of its own, and may
+    /// outlive this object.
     virtual void recycle(const QStringList &paths, Completion completion) = 0;
 
-    /// Moves one item into the user's Trash with an administrator's permissions, for which the system asks with a
-    /// dialog of its own. Blocks for as long as that stands; never on the main thread. None: success was reported.
+    /// Moves one item into the user's Trash with an administrator's permissions, for which the system asks
+    /// with a dialog of its own. Blocks for as long as that stands; never on the main thread. None: success
+    /// was reported.
     virtual std::optional<AdminFailure> moveToTrashAsAdministrator(const QString &path) = 0;
 };

@@ -12,9 +12,20 @@
 
 Q_IMPORT_QML_PLUGIN(QuillmerePlugin)
 
+namespace {
+
+/// Registered ahead of everything that reads a setting when it is made.
+const Platform &withRegisteredDefaults(const Platform &platform)
+{
+    platform.defaults.registerDefaults(settings::registeredDefaults());
+    return platform;
+}
+
+} // namespace
+
 Composition::Composition(const Platform &platform, Appearance &appearance, feedback::Program program,
                          const std::function<void()> &exitNow, Relaunch relaunch)
-    : platform_(platform)
+    : platform_(withRegisteredDefaults(platform))
     , appearance_(appearance)
     , relaunch_(std::move(relaunch))
     , content_(platform, std::move(program))
@@ -25,7 +36,6 @@ Composition::Composition(const Platform &platform, Appearance &appearance, feedb
     , menuBar_(platform, main_, [this] { quit_.requestQuit(); })
     , editCommands_(menuBar_)
 {
-    platform.defaults.registerDefaults(settings::registeredDefaults());
 }
 
 Composition::~Composition() = default;

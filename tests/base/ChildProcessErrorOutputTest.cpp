@@ -53,7 +53,7 @@ TEST(ChildProcessErrorOutput, isKeptApartFromTheOutput)
 {
     const Outputs outputs = outputsOf(u"echo right; echo wrong >&2; printf 'a\\0\\377' >&2; exit 7"_s);
     EXPECT_EQ(outputs.output, "right\n");
-    EXPECT_EQ(outputs.errors, QByteArray("wrong\na\0\xFF", 9 - 1));
+    EXPECT_EQ(outputs.errors, QByteArray("wrong\na\0\xFF", 9));
     EXPECT_EQ(outputs.exitCode, 7);
 }
 

@@ -94,7 +94,7 @@ TEST(ThreadWorkQueue, takesJobsThatTheUserWaitsForFirst)
             gate.acquire();
         });
     }
-    ASSERT_TRUE(acquire(arrived, mostJobs)); // every thread is taken
+    EXPECT_TRUE(acquire(arrived, mostJobs)); // every thread is taken
     for (const WorkPriority priority : {WorkPriority::utility, WorkPriority::userInitiated}) {
         work.post(priority, [&, priority] {
             const std::lock_guard lock(mutex);

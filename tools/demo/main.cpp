@@ -1,6 +1,7 @@
 #include "DemoHome.h"
 
 #include "base/EventLoopMainQueue.h"
+#include "base/Paths.h"
 #include "base/ThreadWorkQueue.h"
 #include "platform/Appearance.h"
 #include "platform/linux/LinuxRecycler.h"
@@ -116,10 +117,12 @@ int runDemo(DemoHome &demo)
 
 int main(int argc, char *argv[])
 {
-    QGuiApplication application(argc, argv);
-    program::describe(application);
     try {
         DemoHome demo;
+        // What goes to the Trash stays inside the demo as well; set before the desktop's library first looks.
+        qputenv("XDG_DATA_HOME", paths::toBytes(demo.home() + QStringLiteral("/.local/share")));
+        QGuiApplication application(argc, argv);
+        program::describe(application);
         return runDemo(demo);
     } catch (const std::exception &error) {
         fprintf(stderr, "The demo's home could not be made: %s\n", error.what());

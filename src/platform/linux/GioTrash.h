@@ -4,8 +4,8 @@
 
 #include <optional>
 
-/// The desktop's own library for the Trash. It takes the home and the data folder from the environment, once for
-/// the whole run of the program. Safe from any thread; everything may block for as long as the disk does.
+/// The desktop's own library for the Trash. It takes the home and the data folder from the environment, once
+/// for the whole run of the program. Safe from any thread; everything may block for as long as the disk does.
 namespace giotrash {
 
 /// Why the library did not move an item.

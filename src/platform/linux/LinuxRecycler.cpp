@@ -88,9 +88,10 @@ QString moveByHand(const Item &item, const TrashFolder &trash)
     return entry.file;
 }
 
-/// The place of an item that the library has just moved; empty when it isn't found. The library doesn't notice
-/// when it can't write an item's note, as on a full disk or beside a name that is nearly too long, and what has
-/// no note can't be restored. So an empty one is written here, or else the item goes back. Throws Error.
+/// The place of an item that the library has just moved; empty when it isn't found. The library doesn't
+/// notice when it can't write an item's note, as on a full disk or beside a name that is nearly too long, and
+/// what has no note can't be restored. So an empty one is written here, or else the item goes back. Throws
+/// Error.
 QString placeWithNote(const Item &item)
 {
     const std::optional<TrashFolder> trash = trashFor(item);
@@ -119,15 +120,16 @@ QString moveToTrash(const Item &item)
     const auto failure = giotrash::move(item.path);
     if (!failure)
         return placeWithNote(item);
-    // The library doesn't shorten a name for which the note's would be too long. It has made the Trash by now.
+    // The library doesn't shorten a name for which the note's would be too long. It has made the Trash by
+    // now.
     const std::optional<TrashFolder> made = failure->nameIsTooLong ? trashFor(item) : std::nullopt;
     if (!made)
         throw errorOf(*failure, item);
     return moveByHand(item, *made);
 }
 
-/// The item at a path. Throws Error (the system's) when nothing is there. A path that is empty or relative names
-/// nothing here: the library would look for it in the folder in which the program happens to run.
+/// The item at a path. Throws Error (the system's) when nothing is there. A path that is empty or relative
+/// names nothing here: the library would look for it in the folder in which the program happens to run.
 Item itemAt(const QString &path)
 {
     if (!path.startsWith(u'/') || path.contains(QChar::Null))
@@ -195,8 +197,9 @@ bool isThere(const QString &path)
     return TrashFolder::identity(path).has_value();
 }
 
-/// Gives the reserved name of a move that has failed back, unless something has come to lie there: a move from
-/// another volume may end with the item copied whole and the source half removed, and that copy must be found again.
+/// Gives the reserved name of a move that has failed back, unless something has come to lie there: a move
+/// from another volume may end with the item copied whole and the source half removed, and that copy must be
+/// found again.
 void settle(const TrashFolder::Entry &entry, const QString &source, bool succeeded)
 {
     const bool wasSkipped = succeeded && isThere(source);

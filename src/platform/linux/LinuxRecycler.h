@@ -2,8 +2,8 @@
 
 #include "platform/Recycler.h"
 
-/// The Trash of the desktop's own library, and `pkexec` for what takes an administrator. Nothing in the Trash is ever
-/// replaced.
+/// The Trash of the desktop's own library, and `pkexec` for what takes an administrator. Nothing in the Trash
+/// is ever replaced.
 class LinuxRecycler final : public Recycler
 {
 public:

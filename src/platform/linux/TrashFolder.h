@@ -9,10 +9,12 @@
 
 #include <sys/types.h>
 
-/// One Trash on the disk, as freedesktop.org's trash specification lays it out: the items in "files", and beside them
-/// in "info" a note for each, which says where it came from. A note that exists reserves its name.
+/// One Trash on the disk, as freedesktop.org's trash specification lays it out: the items in "files", and
+/// beside them in "info" a note for each, which says where it came from. A note that exists reserves its
+/// name.
 ///
-/// For what the desktop's library can't do itself; otherwise the Trash is the library's. Safe from any thread.
+/// For what the desktop's library can't do itself; otherwise the Trash is the library's. Safe from any
+/// thread.
 class TrashFolder
 {
 public:
@@ -38,9 +40,9 @@ public:
     /// The home Trash below the data folder. It need not exist.
     static TrashFolder ofHome(const QString &dataFolder);
 
-    /// The user's own Trash on the volume `device`, on which the item at an absolute path is or was. None when
-    /// there is none, or none that is safe to use: neither the volume's common ".Trash" nor the user's folder may
-    /// be a link.
+    /// The user's own Trash on the volume `device`, on which the item at an absolute path is or was. None
+    /// when there is none, or none that is safe to use: neither the volume's common ".Trash" nor the user's
+    /// folder may be a link.
     static std::optional<TrashFolder> ofVolume(const QString &item, dev_t device);
 
     /// True when the Trash or one of its two folders is a link. The folders above may be links.

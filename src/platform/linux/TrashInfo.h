@@ -8,8 +8,8 @@
 /// freedesktop.org's trash specification.
 namespace trashinfo {
 
-/// The note's content. `path` is where the item was: absolute, or relative to the root of the volume that the Trash
-/// is on; any bytes. `deleted` is written in local time, as the format wants it.
+/// The note's content. `path` is where the item was: absolute, or relative to the root of the volume that the
+/// Trash is on; any bytes. `deleted` is written in local time, as the format wants it.
 QByteArray text(const QByteArray &path, std::time_t deleted);
 
 } // namespace trashinfo

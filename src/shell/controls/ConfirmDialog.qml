@@ -71,7 +71,6 @@ T.Popup {
                     id: cancelButton
                     objectName: "confirmCancel"
                     text: dialog.cancelLabel
-                    focus: true
                     onClicked: dialog.close()
                 }
                 ActionButton {

@@ -18,7 +18,7 @@ T.Popup {
 
     parent: T.Overlay.overlay
     anchors.centerIn: parent
-    width: Math.min(760, parent ? parent.width - Theme.unit * 16 : 0)
+    width: Math.min(800, parent ? parent.width - Theme.unit * 16 : 0)
     height: Math.min(640, parent ? parent.height - Theme.unit * 16 : 0)
     padding: 1
     visible: true

@@ -1,0 +1,123 @@
+#include "base/Files.h"
+#include "disk/DiskAnalyzerView.h"
+#include "disk/DiskServices.h"
+
+#include <QTimer>
+
+#include <filesystem>
+
+namespace {
+
+/// The Disk Analyzer's Move to Trash, over a scanned home with a folder and a file.
+struct DiskAnalyzerTrash : public testing::Test
+{
+    DiskServices services;
+    TestPlatform &test = services.test;
+    std::unique_ptr<DiskAnalyzerView> view;
+    QString path = test.temp.file(QStringLiteral("home/big.bin"), QByteArray(9000, 'x'));
+
+    void SetUp() override
+    {
+        test.temp.file(QStringLiteral("home/folder/inside"), "x");
+        view = std::make_unique<DiskAnalyzerView>(test.platform, services.disk, services.fileSystem, test.access);
+        view->appear();
+        test.settle();
+    }
+    int rowOf(const QString &name) const
+    {
+        const std::vector<FileEntry> &children = *view->currentEntry()->children;
+        for (size_t i = 0; i < children.size(); ++i) {
+            if (children[i].name == name)
+                return static_cast<int>(i);
+        }
+        return -1;
+    }
+    void trashMoves()
+    {
+        test.recycler.answers = [](const QStringList &paths, const Recycler::Completion &done) {
+            std::filesystem::remove_all(paths.constFirst().toStdString());
+            done({});
+        };
+    }
+};
+
+} // namespace
+
+TEST_F(DiskAnalyzerTrash, movesTheRowsEntryAndOpensTheEntryOnViewOnceMore)
+{
+    trashMoves();
+    const DiskAnalyzerView::Entry shown = view->currentEntry();
+    view->moveToTrash(rowOf(QStringLiteral("big.bin")));
+    EXPECT_EQ(test.recycler.recycled, QStringList{path});
+    EXPECT_FALSE(files::exists(path));
+    ASSERT_EQ(view->breadcrumb().size(), 1U);
+    EXPECT_EQ(view->currentEntry(), shown);
+    // The measured tree is not changed: the row stays until the next scan.
+    EXPECT_GE(rowOf(QStringLiteral("big.bin")), 0);
+    view->rescan();
+    test.settle();
+    EXPECT_EQ(rowOf(QStringLiteral("big.bin")), -1);
+}
+
+TEST_F(DiskAnalyzerTrash, dropsAFailureWithoutAWord)
+{
+    view->moveToTrash(rowOf(QStringLiteral("big.bin"))); // the service refuses silently
+    EXPECT_TRUE(files::exists(path));
+    EXPECT_EQ(view->breadcrumb().size(), 1U);
+    EXPECT_TRUE(test.systemLog.lines.isEmpty());
+}
+
+TEST_F(DiskAnalyzerTrash, isDisabledWhileAScanRuns)
+{
+    EXPECT_EQ(view->trashText(), QStringLiteral("Move to Trash"));
+    EXPECT_TRUE(view->canTrash());
+    view->rescan();
+    test.mainQueue.run();
+    EXPECT_EQ(view->trashText(), QStringLiteral("Move to Trash (wait for scan)"));
+    EXPECT_FALSE(view->canTrash());
+    view->moveToTrash(0);
+    EXPECT_TRUE(test.recycler.recycled.isEmpty());
+    test.settle();
+    EXPECT_TRUE(view->canTrash());
+}
+
+TEST_F(DiskAnalyzerTrash, takesNoSecondMoveWhileOneIsUnderWay)
+{
+    Recycler::Completion answer;
+    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
+    QObject context;
+    QTimer::singleShot(0, &context, [&] {
+        EXPECT_FALSE(view->canTrash());
+        view->moveToTrash(rowOf(QStringLiteral("folder")));
+        answer({});
+    });
+    view->moveToTrash(rowOf(QStringLiteral("big.bin")));
+    EXPECT_EQ(test.recycler.recycled, QStringList{path});
+    EXPECT_TRUE(view->canTrash());
+}
+
+TEST_F(DiskAnalyzerTrash, survivesThatItsScreenGoesDuringTheMove)
+{
+    Recycler::Completion answer;
+    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
+    QObject context;
+    QTimer::singleShot(0, &context, [&] {
+        view.reset(); // another screen was chosen
+        answer({});
+    });
+    view->moveToTrash(rowOf(QStringLiteral("big.bin")));
+    EXPECT_EQ(view, nullptr);
+}
+
+TEST_F(DiskAnalyzerTrash, aScanTellsWhetherProtectedFoldersCouldBeRead)
+{
+    EXPECT_EQ(test.access.deniedContexts(), QSet<QString>{QStringLiteral("Disk Analyzer")});
+    EXPECT_TRUE(view->banner()->isShown());
+    EXPECT_EQ(view->banner()->title(), QStringLiteral("Some folders couldn't be scanned"));
+    test.temp.folder(QStringLiteral("home/Library/Mail"));
+    view->banner()->appear();
+    view->rescan();
+    test.settle();
+    EXPECT_TRUE(test.access.deniedContexts().isEmpty());
+    EXPECT_EQ(view->banner()->title(), QStringLiteral("Full Disk Access enabled"));
+}

@@ -1,0 +1,242 @@
+#include "base/Files.h"
+#include "base/Paths.h"
+#include "DesktopTrash.h"
+#include "LoopVolume.h"
+#include "RecyclerTest.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <linux/magic.h>
+#include <sys/ioctl.h>
+#include <sys/statfs.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class BadTrash : public RecyclerTest
+{
+protected:
+    void expectRefused(const QString &path, const char *why)
+    {
+        const Recycler::Result result = recycle({path});
+        EXPECT_TRUE(isThere(path)) << why;
+        EXPECT_TRUE(result.moved.empty()) << why;
+        ASSERT_TRUE(result.error) << why;
+        EXPECT_FALSE(result.error->description.isEmpty()) << why;
+        EXPECT_NE(result.error->domain, LinuxRecycler::errorDomain)
+            << "a refusal of the Trash, not of the volume";
+    }
+};
+
+/// A folder in which nobody can make anything, not even an administrator, for as long as it lives.
+class FrozenFolder
+{
+public:
+    explicit FrozenFolder(const QString &path)
+        : descriptor_(open(paths::toBytes(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+        fchmod(descriptor_, 0500);
+        int flags = 0;
+        if (ioctl(descriptor_, FS_IOC_GETFLAGS, &flags) == 0) {
+            flags |= FS_IMMUTABLE_FL;
+            ioctl(descriptor_, FS_IOC_SETFLAGS, &flags);
+        }
+        isFrozen_ = mkdirat(descriptor_, "probe", 0700) == -1;
+    }
+    ~FrozenFolder()
+    {
+        int flags = 0;
+        if (ioctl(descriptor_, FS_IOC_GETFLAGS, &flags) == 0) {
+            flags &= ~FS_IMMUTABLE_FL;
+            ioctl(descriptor_, FS_IOC_SETFLAGS, &flags);
+        }
+        fchmod(descriptor_, 0700);
+        close(descriptor_);
+    }
+    FrozenFolder(const FrozenFolder &) = delete;
+    FrozenFolder &operator=(const FrozenFolder &) = delete;
+
+    bool isFrozen() const { return isFrozen_; }
+
+private:
+    int descriptor_;
+    bool isFrozen_ = false;
+};
+
+/// A folder on a file system in memory that is not the one of the home folder. Empty when the machine has
+/// none.
+class MemoryFolder
+{
+public:
+    MemoryFolder()
+    {
+        char pattern[] = "/dev/shm/quillmere-XXXXXX";
+        struct statfs status = {};
+        if (statfs("/dev/shm", &status) == 0 && status.f_type == TMPFS_MAGIC && mkdtemp(pattern))
+            path_ = paths::fromBytes(pattern);
+    }
+    ~MemoryFolder()
+    {
+        if (path_.isEmpty())
+            return;
+        unlink(paths::toBytes(file()).constData());
+        rmdir(paths::toBytes(path_).constData());
+    }
+    MemoryFolder(const MemoryFolder &) = delete;
+    MemoryFolder &operator=(const MemoryFolder &) = delete;
+
+    const QString &path() const { return path_; }
+    QString file() const { return path_ + u"/100% file"_s; }
+
+private:
+    QString path_;
+};
+
+} // namespace
+
+TEST_F(BadTrash, isRefusedWhenItIsALinkBehindWhichTheDesktopShowsNothing)
+{
+    const QString file = makeFile(u"file"_s);
+    makeFolder(u"elsewhere"_s);
+    for (const QString &part : {u"Trash"_s, u"Trash/files"_s, u"Trash/info"_s}) {
+        const QString link = makeLink(u".local/share/"_s + part, at(u"elsewhere"_s));
+        const Recycler::Result result = recycle({file});
+        EXPECT_TRUE(isThere(file));
+        EXPECT_TRUE(result.moved.empty());
+        ASSERT_TRUE(result.error);
+        EXPECT_EQ(result.error->domain, LinuxRecycler::errorDomain);
+        EXPECT_EQ(result.error->code, LinuxRecycler::trashIsLink);
+        EXPECT_EQ(
+            result.error->description,
+            u"“file” can't be moved to the Trash because the Trash is a link, and the desktop shows nothing behind it."_s);
+        EXPECT_EQ(names(at(u"elsewhere"_s)), QStringList());
+        ASSERT_EQ(unlink(paths::toBytes(link).constData()), 0);
+    }
+}
+
+TEST_F(BadTrash, isRefusedWhenItIsALinkThatLeadsNowhere)
+{
+    makeLink(u".local/share/Trash"_s, at(u"nowhere"_s));
+    for (const QString &name : {u"file"_s, QString(255, u'l')}) {
+        const QString file = makeFile(name);
+        const Recycler::Result result = recycle({file});
+        EXPECT_TRUE(isThere(file));
+        ASSERT_TRUE(result.error);
+        EXPECT_EQ(result.error->code, LinuxRecycler::trashIsLink);
+    }
+    EXPECT_FALSE(isThere(at(u"nowhere"_s)));
+}
+
+TEST_F(BadTrash, isUsedBelowADataFolderThatIsALink)
+{
+    makeFolder(u"elsewhere"_s);
+    makeLink(u".local/share"_s, at(u"elsewhere"_s));
+    const QString file = makeFile(u"file"_s);
+    expectRecycled(file);
+    EXPECT_EQ(names(at(u"elsewhere/Trash/files"_s)), QStringList(u"file"_s));
+    EXPECT_TRUE(desktoptrash::restorePath(file));
+    EXPECT_EQ(traits(file).content, "content");
+}
+
+TEST_F(BadTrash, isRefusedWhenItIsAFile)
+{
+    makeFile(u".local/share/Trash"_s);
+    expectRefused(makeFile(u"file"_s), "Trash");
+    EXPECT_EQ(traits(TrashHome::trash()).content, "content");
+}
+
+TEST_F(BadTrash, isRefusedWhenTheDataFolderIsAFile)
+{
+    makeFile(u".local"_s);
+    expectRefused(makeFile(u"file"_s), "data folder");
+}
+
+TEST_F(BadTrash, isRefusedWhenItIsNotWritable)
+{
+    for (const QString &part : {u"files"_s, u"info"_s}) {
+        makeFolder(u".local/share/Trash/files"_s);
+        const FrozenFolder frozen(makeFolder(u".local/share/Trash/"_s + part));
+        if (!frozen.isFrozen())
+            GTEST_SKIP() << "An administrator may write everywhere on this file system.";
+        expectRefused(makeFile(u"file"_s), "short name");
+        expectRefused(makeFile(QString(255, u'l')), "long name");
+        EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList()) << "no note stays behind";
+        EXPECT_EQ(names(TrashHome::trash() + u"/files"_s), QStringList());
+    }
+}
+
+TEST_F(BadTrash, saysThatItIsOnAnotherVolume)
+{
+    const MemoryFolder memory;
+    if (memory.path().isEmpty())
+        GTEST_SKIP() << "There is no file system in memory at /dev/shm.";
+    makeLink(u".local/share"_s, memory.path());
+    for (const QString &name : {u"file"_s, QString(255, u'l')}) {
+        const QString file = makeFile(name);
+        const Recycler::Result result = recycle({file});
+        EXPECT_TRUE(isThere(file));
+        EXPECT_TRUE(result.moved.empty());
+        ASSERT_TRUE(result.error);
+        EXPECT_EQ(result.error->domain, LinuxRecycler::errorDomain);
+        EXPECT_EQ(result.error->code, LinuxRecycler::trashIsOnOtherVolume);
+        EXPECT_EQ(result.error->description,
+                  u"“%1” can't be moved to the Trash because the Trash is on another volume."_s.arg(name));
+        EXPECT_EQ(names(memory.path() + u"/Trash/info"_s), QStringList()) << "no note stays behind";
+    }
+    for (const char *part : {"/Trash/files", "/Trash/info", "/Trash"})
+        rmdir((paths::toBytes(memory.path()) + part).constData());
+}
+
+TEST_F(BadTrash, isMissingOnAVolumeInMemory)
+{
+    const MemoryFolder memory;
+    if (memory.path().isEmpty())
+        GTEST_SKIP() << "There is no file system in memory at /dev/shm.";
+    close(open(paths::toBytes(memory.file()).constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
+    const Recycler::Result result = recycle({memory.file()});
+    EXPECT_TRUE(isThere(memory.file()));
+    EXPECT_TRUE(result.moved.empty());
+    ASSERT_TRUE(result.error);
+    EXPECT_EQ(result.error->domain, LinuxRecycler::errorDomain);
+    EXPECT_EQ(result.error->code, LinuxRecycler::volumeHasNoTrash);
+    EXPECT_EQ(result.error->description,
+              u"“100% file” can't be moved to the Trash because its volume has no Trash."_s);
+}
+
+TEST_F(BadTrash, losesNoNoteOnAFullDisk)
+{
+    const LoopVolume volume(TrashHome::path(), 2);
+    if (!volume.whyNot().isEmpty())
+        GTEST_SKIP() << volume.whyNot().constData();
+    const QString file = makeFile(u"file"_s, QByteArray(5000, 'f'));
+    const QString other = makeFile(u"other"_s);
+    expectRecycled(other); // makes the Trash
+    EXPECT_TRUE(desktoptrash::restorePath(other));
+    volume.fill(u"filler"_s);
+    age(file, 0640);
+    const Traits before = traits(file);
+    const Recycler::Result result = recycle({file});
+    EXPECT_TRUE(result.moved.empty());
+    ASSERT_TRUE(result.error);
+    EXPECT_EQ(result.error->code, ENOSPC);
+    EXPECT_EQ(result.error->description, u"“file” can't be moved to the Trash: No space left on device"_s);
+    ASSERT_TRUE(isThere(file)) << "it has come back";
+    EXPECT_EQ(traits(file), before);
+    EXPECT_EQ(names(TrashHome::trash() + u"/files"_s), QStringList());
+    EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList());
+}
+
+TEST_F(BadTrash, isRefusedOnAFullDiskThatHasNone)
+{
+    const LoopVolume volume(TrashHome::path(), 2);
+    if (!volume.whyNot().isEmpty())
+        GTEST_SKIP() << volume.whyNot().constData();
+    const QString file = makeFile(u"file"_s);
+    volume.fill(u"filler"_s);
+    expectRefused(file, "no room for the folders");
+    EXPECT_EQ(traits(file).content, "content");
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <ostream>
+
+/// The name of an item, for tests that run for several, with a word for it that can stand in a test's name.
+struct NamedBytes
+{
+    const char *word;
+    QByteArray bytes;
+};
+
+inline void PrintTo(const NamedBytes &name, std::ostream *stream)
+{
+    *stream << name.word;
+}
