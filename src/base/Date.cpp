@@ -1,8 +1,8 @@
 #include "base/Date.h"
 
-#include <unicode/calendar.h>
-
 #include <memory>
+
+#include <unicode/calendar.h>
 
 namespace dates {
 

@@ -4,7 +4,8 @@
 
 /// A failure of an operation that changes the disk. Thrown, and caught by the direct caller, which counts it,
 /// collects its text or shows it; none crosses a slot, a queue's block or QML.
-struct Error {
+struct Error
+{
     QString domain;      ///< "Quillmere.{Name}", or the platform's.
     int code = 0;        ///< Meaning depends on the domain.
     QString description; ///< For the user, as it stands.

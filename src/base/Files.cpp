@@ -165,6 +165,8 @@ std::optional<std::vector<QString>> list(const QString &folder)
     std::vector<QString> names;
     while (reader.next())
         names.push_back(paths::fromBytes(reader.name()));
+    if (reader.hasFailed())
+        return std::nullopt;
     return names;
 }
 
@@ -254,9 +256,13 @@ DirectoryReader::~DirectoryReader()
 
 bool DirectoryReader::next()
 {
+    if (!directory_)
+        return false;
     do {
+        errno = 0;
         entry_ = readdir(directory_); // NOLINT(concurrency-mt-unsafe): safe on a stream of one's own
     } while (entry_ && (strcmp(entry_->d_name, ".") == 0 || strcmp(entry_->d_name, "..") == 0));
+    hasFailed_ = !entry_ && errno != 0;
     return entry_ != nullptr;
 }
 

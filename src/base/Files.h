@@ -83,8 +83,11 @@ public:
     /// False when the folder can't be listed.
     bool isOpen() const { return directory_ != nullptr; }
 
-    /// Moves on to the next entry ("." and ".." are passed over). False at the end.
+    /// Moves on to the next entry ("." and ".." are passed over). False at the end, and when the folder isn't open.
     bool next();
+
+    /// True when the folder could be opened but not be read to its end.
+    bool hasFailed() const { return hasFailed_; }
 
     /// The current entry's name, valid until the next call of `next`.
     QByteArrayView name() const;
@@ -96,6 +99,7 @@ private:
     QString folder_;
     DIR *directory_ = nullptr;
     const dirent *entry_ = nullptr;
+    bool hasFailed_ = false;
 };
 
 /// The calls that a test can make fail.
@@ -110,6 +114,6 @@ enum class Operation {
 
 /// Asked before each of these calls with the path at hand; an error number other than 0 makes the call fail
 /// with it. For tests only: an empty function takes it away again. Not to be changed while calls are under way.
-void injectFaults(std::function<int(Operation, const QString &path)> faults);
+void injectFaults(std::function<int(Operation, const QString &path)> injected);
 
 } // namespace files

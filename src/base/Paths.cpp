@@ -1,8 +1,7 @@
 #include "base/Paths.h"
 
-#include <QStringList>
-
 #include <QStringDecoder>
+#include <QStringList>
 
 namespace {
 

@@ -12,7 +12,8 @@ template<typename Record>
 class RecordListModel final : public QAbstractListModel
 {
 public:
-    struct Role {
+    struct Role
+    {
         QByteArray name; ///< as the delegate's required property is called
         std::function<QVariant(const Record &)> value;
     };
@@ -35,13 +36,15 @@ public:
 
     /// Takes a new list of which much is the old one: `isSame` tells whether two records are the same row. What
     /// stays at the head and at the foot keeps its place; the rows between are removed and inserted.
-    void update(std::vector<Record> records, const std::function<bool(const Record &, const Record &)> &isSame)
+    void update(std::vector<Record> records,
+                const std::function<bool(const Record &, const Record &)> &isSame)
     {
         const auto [head, newHead] =
             std::mismatch(records_.begin(), records_.end(), records.begin(), records.end(), isSame);
         const auto kept = head - records_.begin();
-        const auto [foot, newFoot] = std::mismatch(records_.rbegin(), std::make_reverse_iterator(head),
-                                                   records.rbegin(), std::make_reverse_iterator(newHead), isSame);
+        const auto [foot, newFoot] =
+            std::mismatch(records_.rbegin(), std::make_reverse_iterator(head), records.rbegin(),
+                          std::make_reverse_iterator(newHead), isSame);
         const auto keptFoot = foot - records_.rbegin();
         const auto removed = static_cast<int>(static_cast<std::ptrdiff_t>(records_.size()) - kept - keptFoot);
         const auto inserted = static_cast<int>(static_cast<std::ptrdiff_t>(records.size()) - kept - keptFoot);
@@ -53,7 +56,8 @@ public:
         }
         if (inserted > 0) {
             beginInsertRows({}, first, first + inserted - 1);
-            records_.insert(records_.begin() + first, records.begin() + first, records.begin() + first + inserted);
+            records_.insert(records_.begin() + first, records.begin() + first,
+                            records.begin() + first + inserted);
             endInsertRows();
         }
         records_ = std::move(records);
@@ -76,7 +80,8 @@ public:
     QVariant data(const QModelIndex &index, int role) const override
     {
         const auto number = static_cast<size_t>(role - Qt::UserRole);
-        if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role < Qt::UserRole || number >= roles_.size())
+        if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role < Qt::UserRole
+            || number >= roles_.size())
             return {};
         return roles_[number].value(records_[static_cast<size_t>(index.row())]);
     }

@@ -1,6 +1,7 @@
 #include "base/Ticker.h"
 
-struct Ticker::Run {
+struct Ticker::Run
+{
     MainQueue &main;
     double period = 0;
     MainQueue::Block block;

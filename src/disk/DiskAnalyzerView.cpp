@@ -134,8 +134,8 @@ QString DiskAnalyzerView::parentRowText() const
 {
     if (breadcrumb_.empty())
         return {};
-    const QString parent =
-        breadcrumb_.size() > 1 ? paths::display(breadcrumb_[breadcrumb_.size() - 2]->name) : QStringLiteral("Home");
+    const QString parent = breadcrumb_.size() > 1 ? paths::display(breadcrumb_[breadcrumb_.size() - 2]->name)
+                                                  : QStringLiteral("Home");
     return QStringLiteral("..  ") + parent;
 }
 
@@ -182,13 +182,12 @@ void DiskAnalyzerView::changeFolder()
 {
     const Workspace::FolderRequest request{QStringLiteral("Choose a folder to analyze"),
                                            diskService_.analyzerScanPath()};
-    platform_.workspace.chooseFolder(
-        request, [self = QPointer(this)](const std::optional<QString> &folder) {
-            if (!self || !folder)
-                return;
-            self->diskService_.setAnalyzerScanPath(*folder);
-            self->startScan(*folder);
-        });
+    platform_.workspace.chooseFolder(request, [self = QPointer(this)](const std::optional<QString> &folder) {
+        if (!self || !folder)
+            return;
+        self->diskService_.setAnalyzerScanPath(*folder);
+        self->startScan(*folder);
+    });
 }
 
 void DiskAnalyzerView::cancelScan()
@@ -271,7 +270,8 @@ void DiskAnalyzerView::moveToTrash(int row)
         return;
     isTrashing_ = true;
     emit scanChanged();
-    const QPointer self(this); // the event loop runs during the move, and another screen may be chosen from there
+    const QPointer self(
+        this); // the event loop runs during the move, and another screen may be chosen from there
     try {
         fileSystem_.moveToTrash(entry->path);
     } catch (const Error &) {
@@ -309,19 +309,20 @@ void DiskAnalyzerView::scanDeeper(const QString &path)
 {
     isScanningDeeper_ = true;
     emit contentChanged();
-    platform_.workQueue.post(WorkPriority::userInitiated, [self = QPointer(this), path, &main = platform_.mainQueue,
-                                                           &fileSystem = fileSystem_] {
-        fileSystem.scanCancelled.store(false, std::memory_order_relaxed);
-        const Entry tree = std::make_shared<const FileEntry>(fileSystem.scanTree(path, 0, 1));
-        main.post([self, tree] {
-            if (!self)
-                return;
-            self->isScanningDeeper_ = false;
-            std::vector<Entry> longer = self->breadcrumb_;
-            longer.push_back(tree);
-            self->setBreadcrumb(std::move(longer));
+    platform_.workQueue.post(
+        WorkPriority::userInitiated,
+        [self = QPointer(this), path, &main = platform_.mainQueue, &fileSystem = fileSystem_] {
+            fileSystem.scanCancelled.store(false, std::memory_order_relaxed);
+            const Entry tree = std::make_shared<const FileEntry>(fileSystem.scanTree(path, 0, 1));
+            main.post([self, tree] {
+                if (!self)
+                    return;
+                self->isScanningDeeper_ = false;
+                std::vector<Entry> longer = self->breadcrumb_;
+                longer.push_back(tree);
+                self->setBreadcrumb(std::move(longer));
+            });
         });
-    });
 }
 
 void DiskAnalyzerView::setBreadcrumb(std::vector<Entry> breadcrumb)

@@ -99,7 +99,7 @@ public:
     Q_INVOKABLE void goTo(int index); ///< cuts the breadcrumb back to that entry
     Q_INVOKABLE void openInFinder();  ///< shows the entry on view
     // Of a row of the table:
-    Q_INVOKABLE void openRow(int row);    ///< into a folder; nothing on a file
+    Q_INVOKABLE void openRow(int row);     ///< into a folder; nothing on a file
     Q_INVOKABLE void activateRow(int row); ///< the first item of its menu: into a folder, or opens a file
     Q_INVOKABLE QString openText(int row) const; ///< how the menu calls `activateRow`
     Q_INVOKABLE void revealRow(int row);
@@ -115,7 +115,8 @@ signals:
     void pillChanged();
 
 private:
-    struct Row {
+    struct Row
+    {
         Entry entry;
         double share = 0;
     };

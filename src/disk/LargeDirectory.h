@@ -4,7 +4,8 @@
 #include <QUuid>
 
 /// One of the biggest items below the user's main folders; a plain file can be one too.
-struct LargeDirectory {
+struct LargeDirectory
+{
     QUuid id; ///< fresh at each creation
     QString name;
     QString path;    ///< absolute

@@ -6,7 +6,7 @@ namespace {
 constexpr qint64 minute = 60;
 constexpr qint64 hour = 60 * minute;
 constexpr qint64 day = 24 * hour;
-}
+} // namespace
 
 QString ageText(double age)
 {

@@ -7,7 +7,8 @@
 #include <optional>
 
 /// Tells how old a cached result is. The screen that shows it moves `now` along.
-struct LastScannedPill {
+struct LastScannedPill
+{
     std::optional<Date> date;
     double cacheLifetime = 0; ///< seconds
     Date now;

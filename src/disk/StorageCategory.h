@@ -6,7 +6,8 @@
 #include <vector>
 
 /// A named share of the disk, as a bar or a map shows it.
-struct StorageCategory {
+struct StorageCategory
+{
     QUuid id; ///< fresh at each creation
     QString name;
     qint64 size = 0; ///< bytes

@@ -7,7 +7,8 @@
 #include <vector>
 
 /// One rectangle of a treemap.
-struct TreemapItem {
+struct TreemapItem
+{
     QString name;
     double size = 0; ///< bytes
     QString color;   ///< six hexadecimal digits

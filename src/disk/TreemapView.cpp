@@ -95,5 +95,6 @@ void TreemapView::setHoveredIndex(int index)
 void TreemapView::tap(int index)
 {
     if (onTap && index >= 0 && index < static_cast<int>(sorted_.size()))
-        onTap(StorageCategory(sorted_[static_cast<size_t>(index)])); // a copy: the callback may change the list
+        onTap(
+            StorageCategory(sorted_[static_cast<size_t>(index)])); // a copy: the callback may change the list
 }

@@ -7,7 +7,8 @@
 #include <vector>
 
 /// One node of a measured tree.
-struct FileEntry {
+struct FileEntry
+{
     QUuid id; ///< fresh at each creation
     QString name;
     QString path;    ///< absolute

@@ -6,7 +6,8 @@
 
 namespace {
 
-struct KindRow {
+struct KindRow
+{
     const char *extensions; // separated by blanks
     const char *value;
 };

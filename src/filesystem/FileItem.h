@@ -8,12 +8,13 @@
 
 /// One entry of a folder listing. Two items are equal when their paths are, whatever else differs, so a selection
 /// outlives a new listing.
-struct FileItem {
+struct FileItem
+{
     QUuid id; ///< fresh at each creation: it identifies a row, not a file
     QString name;
-    QString path;               ///< absolute
-    qint64 size = 0;            ///< bytes of the entry itself; for a folder not the total of what is in it
-    bool isDirectory = false;   ///< of the entry itself: a link to a folder is none
+    QString path;             ///< absolute
+    qint64 size = 0;          ///< bytes of the entry itself; for a folder not the total of what is in it
+    bool isDirectory = false; ///< of the entry itself: a link to a folder is none
     Date modified = dates::distantPast;
     Date created = dates::distantPast;
     QString ext; ///< lower-cased, without the dot

@@ -4,18 +4,57 @@
 #include "base/Paths.h"
 
 #include <algorithm>
+#include <limits>
 #include <memory>
 
 namespace {
 
 constexpr size_t mostChildren = 30;
 
-/// What a tree scan remembers of an entry until it is known which ones are kept. A folder's children are measured
-/// on the way; a plain file costs no more than its name.
-struct Candidate {
+/// What a tree scan remembers of an entry until it is known which ones are kept.
+struct Candidate
+{
     QByteArray name;
     qint64 size = 0;
     std::unique_ptr<FileEntry> folder; // null for a file
+};
+
+/// The largest entries of a folder, gathered while it is listed, so that one with very many files costs no more than
+/// its listing. Of equal ones the first to come are kept.
+class LargestCandidates
+{
+public:
+    /// False when an entry of that size, coming now, would not be kept.
+    bool wants(qint64 size) const { return candidates_.size() < mostChildren || size > smallestKept_; }
+
+    void add(Candidate candidate)
+    {
+        candidates_.push_back(std::move(candidate));
+        if (candidates_.size() == 2 * mostChildren) // not at each: sorting is to stay cheap
+            prune();
+    }
+
+    /// Largest first; equal ones as they came.
+    std::vector<Candidate> take()
+    {
+        prune();
+        return std::move(candidates_);
+    }
+
+private:
+    void prune()
+    {
+        std::stable_sort(
+            candidates_.begin(), candidates_.end(),
+            [](const Candidate &left, const Candidate &right) { return left.size > right.size; });
+        if (candidates_.size() < mostChildren)
+            return;
+        candidates_.resize(mostChildren);
+        smallestKept_ = candidates_.back().size;
+    }
+
+    std::vector<Candidate> candidates_;
+    qint64 smallestKept_ = std::numeric_limits<qint64>::min(); // none of the later ones up to this size is kept
 };
 
 FileEntry folderEntry(const QString &path, qint64 size)
@@ -29,13 +68,8 @@ void addChecked(qint64 &total, qint64 size)
         qFatal("scanTree: a total beyond 64 bits");
 }
 
-/// The largest candidates as entries, largest first; equal ones keep their order.
-std::vector<FileEntry> keptChildren(const QString &folder, std::vector<Candidate> &candidates)
+std::vector<FileEntry> entriesOf(const QString &folder, std::vector<Candidate> candidates)
 {
-    const auto larger = [](const Candidate &left, const Candidate &right) { return left.size > right.size; };
-    std::stable_sort(candidates.begin(), candidates.end(), larger);
-    if (candidates.size() > mostChildren)
-        candidates.resize(mostChildren);
     std::vector<FileEntry> children;
     children.reserve(candidates.size());
     for (Candidate &candidate : candidates) {
@@ -83,13 +117,15 @@ std::vector<FileItem> FileSystemService::listDirectory(const QString &path, bool
 {
     std::vector<FileItem> items;
     files::DirectoryReader reader(path);
-    while (reader.isOpen() && reader.next()) {
+    while (reader.next()) {
         const auto attributes = reader.attributes();
         if (!attributes || (attributes->isHidden && !includeHidden))
             continue;
         const QString name = paths::fromBytes(reader.name());
         items.push_back(itemFrom(paths::join(path, name), name, *attributes));
     }
+    if (reader.hasFailed())
+        return {};
     return items;
 }
 
@@ -112,22 +148,26 @@ FileEntry FileSystemService::scanTree(const QString &path, int depth, int maxDep
     if (!reader.isOpen())
         return folderEntry(path, 0);
     qint64 total = 0;
-    std::vector<Candidate> candidates;
+    LargestCandidates largest;
     while (reader.next()) {
         const auto attributes = reader.attributes();
         if (!attributes || attributes->isHidden)
             continue;
-        Candidate candidate{reader.name().toByteArray(), attributes->size, nullptr};
+        qint64 size = attributes->size;
+        std::unique_ptr<FileEntry> folder;
         if (attributes->isDirectory()) {
-            const QString child = paths::join(path, paths::fromBytes(candidate.name));
-            candidate.folder = std::make_unique<FileEntry>(scanTree(child, depth + 1, maxDepth));
-            candidate.size = candidate.folder->size;
+            const QString child = paths::join(path, paths::fromBytes(reader.name()));
+            folder = std::make_unique<FileEntry>(scanTree(child, depth + 1, maxDepth));
+            size = folder->size;
         }
-        addChecked(total, candidate.size);
-        candidates.push_back(std::move(candidate));
+        addChecked(total, size);
+        if (largest.wants(size))
+            largest.add({reader.name().toByteArray(), size, std::move(folder)});
     }
+    if (reader.hasFailed()) // half a folder would be shown as a whole one
+        return folderEntry(path, 0);
     FileEntry entry = folderEntry(path, total);
-    entry.children = keptChildren(path, candidates);
+    entry.children = entriesOf(path, largest.take());
     return entry;
 }
 

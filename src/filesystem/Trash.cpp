@@ -16,7 +16,8 @@ const QString trashDomain = QStringLiteral("Quillmere.Trash");
 const QString adminDomain = QStringLiteral("Quillmere.AdminTrash");
 
 /// What the recycle service has answered; shared with its thread, which may outlive an impatient caller.
-struct Answer {
+struct Answer
+{
     std::binary_semaphore isThere{0};
     Recycler::Result result;
 };
@@ -54,8 +55,9 @@ bool isListedAsMoved(const Recycler::Result &result, const QString &path)
 Error refusal(const QString &path)
 {
     return {trashDomain, stillThere,
-            QStringLiteral("Couldn't move “%1” to the Trash. If it's an app, make sure it's quit first. Some apps in "
-                           "/Applications also need admin permission to remove.")
+            QStringLiteral(
+                "Couldn't move “%1” to the Trash. If it's an app, make sure it's quit first. Some apps in "
+                "/Applications also need admin permission to remove.")
                 .arg(paths::display(paths::lastComponent(path)))};
 }
 

@@ -17,7 +17,7 @@ namespace {
 class AtomicWriteTest : public ::testing::Test
 {
 protected:
-    ~AtomicWriteTest() override { files::injectFaults({}); }
+    void TearDown() override { files::injectFaults({}); }
 
     int failureOfWrite(const QByteArray &bytes = "new") const
     {

@@ -19,7 +19,8 @@ struct DiskAnalyzerTrash : public testing::Test
     void SetUp() override
     {
         test.temp.file(QStringLiteral("home/folder/inside"), "x");
-        view = std::make_unique<DiskAnalyzerView>(test.platform, services.disk, services.fileSystem, test.access);
+        view = std::make_unique<DiskAnalyzerView>(test.platform, services.disk, services.fileSystem,
+                                                  test.access);
         view->appear();
         test.settle();
     }

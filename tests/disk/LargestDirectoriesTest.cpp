@@ -146,9 +146,9 @@ TEST_F(LargestDirectories, aRootInsideAnotherIsMeasuredThroughItsOwnChildrenOnly
         return table;
     });
     const Platform &own = test.platform;
-    const Platform platform{own.home,          locations,     own.defaults,  own.clock,
-                            own.programs,      own.keyStyle,  own.mainQueue, own.workQueue,
-                            own.notifications, own.workspace, own.recycler, own.systemLog, own.systemInfo};
+    const Platform platform{own.home,     locations,     own.defaults,  own.clock,         own.programs,
+                            own.keyStyle, own.mainQueue, own.workQueue, own.notifications, own.workspace,
+                            own.recycler, own.systemLog, own.systemInfo};
     fileOf("home/Documents/Pictures/size", 50'000);
     fileOf("home/Documents/Pictures/photo", 20'000);
     DiskService other(platform, services.fileSystem, services.test.access);

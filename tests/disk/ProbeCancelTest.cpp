@@ -244,9 +244,9 @@ struct ThreadedScan : ProbeCancel
 {
     TestPlatform &test = services.test;
     EventLoopMainQueue mainQueue;
-    Platform platform{test.home,       test.locations, test.defaults, test.clock,         {},
-                      KeyStyle::words, mainQueue,      workQueue,     test.notifications, test.workspace,
-                      test.recycler,  test.systemLog,  test.systemInfo};
+    Platform platform{test.home,       test.locations, test.defaults,  test.clock,         {},
+                      KeyStyle::words, mainQueue,      workQueue,      test.notifications, test.workspace,
+                      test.recycler,   test.systemLog, test.systemInfo};
     FileSystemService fileSystem{
         platform, [this](const QString &path) { return service.probeSize(path, ProbeContext::generic); }};
     DiskService service{platform, fileSystem, test.access};

@@ -280,9 +280,9 @@ qint64 sizeOverPlaces(DiskServices &services, const QStringList &places)
         return table;
     });
     const Platform &own = services.test.platform;
-    const Platform platform{own.home,          locations,     own.defaults,  own.clock,
-                            own.programs,      own.keyStyle,  own.mainQueue, own.workQueue,
-                            own.notifications, own.workspace, own.recycler, own.systemLog, own.systemInfo};
+    const Platform platform{own.home,     locations,     own.defaults,  own.clock,         own.programs,
+                            own.keyStyle, own.mainQueue, own.workQueue, own.notifications, own.workspace,
+                            own.recycler, own.systemLog, own.systemInfo};
     DiskService disk(platform, services.fileSystem, services.test.access);
     const auto categories = disk.computeStorageCategories();
     EXPECT_EQ(categories.size(), 2U);

@@ -99,8 +99,9 @@ TEST_F(TrashTest, aFileThatTheServiceSilentlyRefusesIsNamedInCurlyQuotes)
     EXPECT_EQ(error->domain, QStringLiteral("Quillmere.Trash"));
     EXPECT_EQ(error->code, -2);
     EXPECT_EQ(error->description,
-              QStringLiteral("Couldn't move “old \"plan\".txt” to the Trash. If it's an app, make sure it's quit first. "
-                             "Some apps in /Applications also need admin permission to remove."));
+              QStringLiteral(
+                  "Couldn't move “old \"plan\".txt” to the Trash. If it's an app, make sure it's quit first. "
+                  "Some apps in /Applications also need admin permission to remove."));
 }
 
 TEST_F(TrashTest, aFileStillThereButListedAsMovedIsASuccess)
@@ -142,7 +143,8 @@ TEST_F(TrashTest, onTheMainThreadTimersAndPostedBlocksRunWhileItWaits)
     std::thread service_;
     test.recycler.answers = [&](const Paths &, Recycler::Completion done) { answer = std::move(done); };
     QObject context;
-    QMetaObject::invokeMethod(&context, [&] { ++blocks; }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &context, [&] { ++blocks; }, Qt::QueuedConnection);
     QTimer::singleShot(0, &context, [&] {
         ++timers;
         removeFile(path);
@@ -233,5 +235,6 @@ TEST_F(TrashTest, aScriptThatReportsSuccessWithTheFileInPlaceIsAFailure)
     const auto error = adminError();
     ASSERT_TRUE(error);
     EXPECT_EQ(error->code, -2);
-    EXPECT_EQ(error->description, QStringLiteral("Admin trash reported success but the file is still in place."));
+    EXPECT_EQ(error->description,
+              QStringLiteral("Admin trash reported success but the file is still in place."));
 }

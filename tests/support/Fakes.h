@@ -22,7 +22,8 @@ public:
     void set(Date now) { now_ = now; }
     void advance(double seconds)
     {
-        now_ = now_.load() + std::chrono::duration_cast<Date::duration>(std::chrono::duration<double>(seconds));
+        now_ =
+            now_.load() + std::chrono::duration_cast<Date::duration>(std::chrono::duration<double>(seconds));
     }
 
 private:
@@ -33,24 +34,32 @@ private:
 class FakeWorkspace final : public Workspace
 {
 public:
-    QStringList calls;                  ///< "reveal /a/b", in order
-    QByteArray address;                 ///< the last one opened
+    QStringList calls;       ///< "reveal /a/b", in order
+    QByteArray address;      ///< the last one opened
     QByteArray settingsPage; ///< the last one opened
     QString clipboard;
-    FolderRequest folderRequest;        ///< the last one
-    std::optional<QString> chosenFolder; ///< what the user will choose; none cancels
+    FolderRequest folderRequest;           ///< the last one
+    std::optional<QString> chosenFolder;   ///< what the user will choose; none cancels
+    SaveRequest saveRequest;               ///< the last one
+    std::optional<QString> chosenSavePath; ///< what the user will choose; none cancels
 
     void open(const QString &path) override { calls << QStringLiteral("open ") + path; }
     void openAddress(const QByteArray &text) override { address = text; }
     void openSettingsPage(const QByteArray &text) override { settingsPage = text; }
     void reveal(const QString &path) override { calls << QStringLiteral("reveal ") + path; }
     void showFolder(const QString &path) override { calls << QStringLiteral("show ") + path; }
+    void quickLook(const QString &path) override { calls << QStringLiteral("quick look ") + path; }
     void openTerminal(const QString &folder) override { calls << QStringLiteral("terminal ") + folder; }
     void copyText(const QString &text) override { clipboard = text; }
-    void chooseFolder(const FolderRequest &request, FolderChosen chosen) override
+    void chooseFolder(const FolderRequest &request, PathChosen chosen) override
     {
         folderRequest = request;
         chosen(chosenFolder);
+    }
+    void chooseSavePath(const SaveRequest &request, PathChosen chosen) override
+    {
+        saveRequest = request;
+        chosen(chosenSavePath);
     }
 };
 
@@ -61,9 +70,8 @@ public:
     QStringList recycled; ///< what it was asked to move
     QStringList moved;    ///< what an administrator was asked to move
     /// What a recycle does and answers; moves nothing and lists nothing unless a test says more.
-    std::function<void(const QStringList &, Completion)> answers = [](const QStringList &, const Completion &done) {
-        done({});
-    };
+    std::function<void(const QStringList &, Completion)> answers = [](const QStringList &,
+                                                                      const Completion &done) { done({}); };
     /// What an administrator's move does and answers.
     std::function<std::optional<AdminFailure>(const QString &)> administrator = [](const QString &) {
         return std::optional<AdminFailure>();
@@ -93,7 +101,8 @@ public:
     void write(LogLevel level, const QString &category, const QString &message) override
     {
         const char *names[] = {"debug", "info", "error"};
-        lines << QStringLiteral("%1 %2: %3").arg(QLatin1StringView(names[static_cast<int>(level)]), category, message);
+        lines << QStringLiteral("%1 %2: %3")
+                     .arg(QLatin1StringView(names[static_cast<int>(level)]), category, message);
     }
     QString recentEntries(int hours) override
     {

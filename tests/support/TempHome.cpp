@@ -31,7 +31,8 @@ void require(bool done, const QString &what)
 
 TempHome::TempHome()
 {
-    std::string pattern = std::filesystem::canonical(std::filesystem::temp_directory_path()).string() + "/quillmere-XXXXXX";
+    std::string pattern =
+        std::filesystem::canonical(std::filesystem::temp_directory_path()).string() + "/quillmere-XXXXXX";
     require(mkdtemp(pattern.data()) != nullptr, QStringLiteral("mkdtemp"));
     path_ = paths::fromBytes(pattern);
 }

@@ -8,7 +8,8 @@
 
 /// A platform over a temporary home of the Mac's shape, with fakes, defaults in memory, a clock that the test sets and
 /// queues that it turns. The real `du` unless a test names another.
-struct TestPlatform {
+struct TestPlatform
+{
     TempHome temp; ///< "home" and "Applications" lie in it
 
     QString home = temp.folder(QStringLiteral("home"));
@@ -23,12 +24,13 @@ struct TestPlatform {
     FakeSystemLog systemLog;
     FakeSystemInfo systemInfo;
     Platform platform{home,      locations, defaults,      clock,     ChildPrograms(), KeyStyle::words,
-                      mainQueue, workQueue, notifications, workspace, recycler, systemLog, systemInfo};
+                      mainQueue, workQueue, notifications, workspace, recycler,        systemLog,
+                      systemInfo};
     FDAService access{platform, {}};
 
     /// Turns both queues until nothing is left to do.
     void settle()
     {
-        while (mainQueue.run() + workQueue.run() > 0) { }
+        while (mainQueue.run() + workQueue.run() > 0) {}
     }
 };
