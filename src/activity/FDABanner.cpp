@@ -16,9 +16,10 @@ QString FDABanner::title() const
 
 QString FDABanner::text() const
 {
-    return isGranted() ? QStringLiteral("Restart Quillmere to start using protected folders.")
-                       : QStringLiteral("Quillmere needs Full Disk Access to read protected folders. Find Quillmere "
-                                        "in the list and toggle the switch on.");
+    return isGranted()
+               ? QStringLiteral("Restart Quillmere to start using protected folders.")
+               : QStringLiteral("Quillmere needs Full Disk Access to read protected folders. Find Quillmere "
+                                "in the list and toggle the switch on.");
 }
 
 QString FDABanner::symbol() const
@@ -38,7 +39,8 @@ QString FDABanner::buttonSymbol() const
 
 QString FDABanner::buttonTip() const
 {
-    return isGranted() ? QStringLiteral("Quit and reopen Quillmere so the new permission takes effect") : QString();
+    return isGranted() ? QStringLiteral("Quit and reopen Quillmere so the new permission takes effect")
+                       : QString();
 }
 
 void FDABanner::appear()

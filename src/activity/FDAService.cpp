@@ -19,7 +19,8 @@ FDAService::FDAService(const Platform &platform, Program program)
     , program_(std::move(program))
     , grantPollTimer_(platform.mainQueue)
 {
-    platform_.notifications.observe(notifications::becameActive, this, [this](const QVariant &) { recheck(); });
+    platform_.notifications.observe(notifications::becameActive, this,
+                                    [this](const QVariant &) { recheck(); });
 }
 
 FDAService &FDAService::shared(const Platform &platform, const Program &program)
@@ -123,6 +124,7 @@ void FDAService::relaunch()
 {
     program_.letGo();
     // A start that fails shows no message; the program just quits.
-    ChildProcess::launchDetached(platform_.programs.sh, {QStringLiteral("-c"), relaunchLine(program_.executable)});
+    ChildProcess::launchDetached(platform_.programs.sh,
+                                 {QStringLiteral("-c"), relaunchLine(program_.executable)});
     platform_.mainQueue.post(program_.requestQuit);
 }

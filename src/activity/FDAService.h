@@ -18,7 +18,8 @@ class FDAService final : public QObject
 
 public:
     /// What the program does about itself.
-    struct Program {
+    struct Program
+    {
         QString executable;                ///< absolute path of the running program
         std::function<void()> letGo;       ///< gives up what a second process would take for a running one
         std::function<void()> requestQuit; ///< the way out that any request to quit takes

@@ -3,7 +3,8 @@
 #include "base/Log.h"
 
 /// The program's loggers, one a category. Cheap to copy; the sink outlives them.
-struct Loggers {
+struct Loggers
+{
     explicit Loggers(LogSink &sink)
         : general(QStringLiteral("General"), sink)
         , appManager(QStringLiteral("AppManager"), sink)

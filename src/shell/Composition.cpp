@@ -1,9 +1,9 @@
 #include "shell/Composition.h"
 
 #include "disk/DiskAnalyzerView.h"
-#include "shell/UpcomingView.h"
 #include "shell/common/NotificationNames.h"
 #include "shell/common/SettingsKeys.h"
+#include "shell/UpcomingView.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -43,7 +43,9 @@ Composition::~Composition() = default;
 FileSystemService &Composition::fileSystem()
 {
     // The file system service need not know the disk service, which itself builds on it.
-    const auto probeSize = [this](const QString &path) { return disk().probeSize(path, ProbeContext::generic); };
+    const auto probeSize = [this](const QString &path) {
+        return disk().probeSize(path, ProbeContext::generic);
+    };
     return FileSystemService::shared(platform_, probeSize);
 }
 
@@ -69,7 +71,9 @@ HistoryService &Composition::history()
 
 MainContentView::Screen Composition::upcoming(SidebarItem item)
 {
-    return {QStringLiteral("shell/UpcomingScreen.qml"), [item] { return std::make_unique<UpcomingView>(item); }, {}};
+    return {QStringLiteral("shell/UpcomingScreen.qml"),
+            [item] { return std::make_unique<UpcomingView>(item); },
+            {}};
 }
 
 MainContentView::Screens Composition::screens()

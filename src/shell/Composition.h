@@ -21,8 +21,9 @@
 class QQuickWindow;
 
 /// What a start of the program anew needs.
-struct Relaunch {
-    QString executable;           ///< absolute path of the running program
+struct Relaunch
+{
+    QString executable;          ///< absolute path of the running program
     std::function<void()> letGo; ///< gives up what a second process would take for a running one
 };
 

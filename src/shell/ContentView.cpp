@@ -19,11 +19,16 @@ ContentView::ContentView(const Platform &platform, feedback::Program program)
 void ContentView::observeNotifications()
 {
     NotificationCenter &center = platform_.notifications;
-    center.observe(notifications::openSettings, this, [this](const QVariant &) { setSheet(Sheet::settings, true); });
-    center.observe(notifications::openShortcuts, this, [this](const QVariant &) { setSheet(Sheet::shortcuts, true); });
-    center.observe(notifications::openHistory, this, [this](const QVariant &) { setSheet(Sheet::history, true); });
-    center.observe(notifications::openOnboarding, this, [this](const QVariant &) { setSheet(Sheet::onboarding, true); });
-    center.observe(notifications::reportBug, this, [this](const QVariant &) { openMail(feedback::Kind::bug); });
+    center.observe(notifications::openSettings, this,
+                   [this](const QVariant &) { setSheet(Sheet::settings, true); });
+    center.observe(notifications::openShortcuts, this,
+                   [this](const QVariant &) { setSheet(Sheet::shortcuts, true); });
+    center.observe(notifications::openHistory, this,
+                   [this](const QVariant &) { setSheet(Sheet::history, true); });
+    center.observe(notifications::openOnboarding, this,
+                   [this](const QVariant &) { setSheet(Sheet::onboarding, true); });
+    center.observe(notifications::reportBug, this,
+                   [this](const QVariant &) { openMail(feedback::Kind::bug); });
     center.observe(notifications::requestFeature, this,
                    [this](const QVariant &) { openMail(feedback::Kind::feature); });
     center.observe(notifications::navigate, this, [this](const QVariant &object) {

@@ -2,7 +2,8 @@
 
 namespace {
 
-struct Draft {
+struct Draft
+{
     QString subject;
     QString body;
 };
@@ -10,9 +11,8 @@ struct Draft {
 Draft draft(feedback::Kind kind)
 {
     if (kind == feedback::Kind::bug) {
-        return {QStringLiteral("[Bug] "),
-                QStringLiteral("Please describe the bug below this line:\n\n\n\n"
-                               "Steps to reproduce (if you can):\n\n\n\n")};
+        return {QStringLiteral("[Bug] "), QStringLiteral("Please describe the bug below this line:\n\n\n\n"
+                                                         "Steps to reproduce (if you can):\n\n\n\n")};
     }
     return {QStringLiteral("[Feature Request] "),
             QStringLiteral("Please describe the feature you'd like below this line:\n\n\n\n"
@@ -39,9 +39,8 @@ QByteArray mailAddress(Kind kind, const Program &program, const SystemInfo &syst
 {
     const Draft mail = draft(kind);
     const QString body = mail.body + systemInfoBlock(program, system);
-    return "mailto:" + program.supportAddress.toUtf8().toPercentEncoding("@")
-        + "?subject=" + mail.subject.toUtf8().toPercentEncoding()
-        + "&body=" + body.toUtf8().toPercentEncoding();
+    return "mailto:" + program.supportAddress.toUtf8().toPercentEncoding("@") + "?subject="
+           + mail.subject.toUtf8().toPercentEncoding() + "&body=" + body.toUtf8().toPercentEncoding();
 }
 
 } // namespace feedback

@@ -14,7 +14,8 @@ enum class Kind {
 };
 
 /// The program as the draft names it.
-struct Program {
+struct Program
+{
     QString supportAddress;
     QString version; ///< "?" when it is not known
     QString build;   ///< "?" when it is not known

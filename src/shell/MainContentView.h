@@ -23,10 +23,11 @@ class MainContentView final : public QObject
 
 public:
     /// How a screen comes into being.
-    struct Screen {
-        QString source;                                ///< its QML file, relative to the look's folder
+    struct Screen
+    {
+        QString source;                                 ///< its QML file, relative to the look's folder
         std::function<std::unique_ptr<QObject>()> make; ///< its model
-        QStringList keys;                              ///< the key equivalents that are its own while it is on view
+        QStringList keys; ///< the key equivalents that are its own while it is on view
     };
     using Screens = std::map<SidebarItem, Screen>;
 

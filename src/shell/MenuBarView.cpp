@@ -1,8 +1,8 @@
 #include "shell/MenuBarView.h"
 
-#include "shell/Sheet.h"
 #include "shell/common/KeySigns.h"
 #include "shell/common/NotificationNames.h"
+#include "shell/Sheet.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ Command navigateTo(const char *menu, const char *title, const char16_t *keys, Si
 
 Command textCommand(const char *title, const char16_t *keys, const char *name)
 {
-    return {QStringLiteral("Edit"), QString::fromLatin1(title), QString::fromUtf16(keys), {}, {}, true,
+    return {QStringLiteral("Edit"),   QString::fromLatin1(title), QString::fromUtf16(keys), {}, {}, true,
             QString::fromLatin1(name)};
 }
 
@@ -33,11 +33,19 @@ std::vector<Command> allCommands()
     return {
         {program, QStringLiteral("About Quillmere"), {}, {}, {}, false},
         divider("Quillmere"),
-        {program, QStringLiteral("Settings…"), QStringLiteral("⌘,"), notifications::openSettings, {},
+        {program,
+         QStringLiteral("Settings…"),
+         QStringLiteral("⌘,"),
+         notifications::openSettings,
+         {},
          isBuilt(Sheet::settings)},
         divider("Quillmere"),
         {program, QStringLiteral("Quit Quillmere"), QStringLiteral("⌘Q"), {}, {}, true},
-        {QStringLiteral("File"), QStringLiteral("New Folder…"), QStringLiteral("⌘N"), notifications::newFolder, {},
+        {QStringLiteral("File"),
+         QStringLiteral("New Folder…"),
+         QStringLiteral("⌘N"),
+         notifications::newFolder,
+         {},
          false},
         textCommand("Undo", u"⌘Z", "undo"),
         textCommand("Redo", u"⇧⌘Z", "redo"),
@@ -57,19 +65,39 @@ std::vector<Command> allCommands()
         navigateTo("View", "Cleanup", u"", SidebarItem::cleanup),
         navigateTo("View", "Organizer", u"", SidebarItem::organizer),
         navigateTo("View", "App Manager", u"", SidebarItem::appManager),
-        {QStringLiteral("Tools"), QStringLiteral("Refresh Current View"), QStringLiteral("⌘R"),
-         notifications::rescan, {}},
+        {QStringLiteral("Tools"),
+         QStringLiteral("Refresh Current View"),
+         QStringLiteral("⌘R"),
+         notifications::rescan,
+         {}},
         divider("Tools"),
         navigateTo("Tools", "Scan for Duplicates", u"", SidebarItem::duplicates),
         navigateTo("Tools", "Quick Cleanup", u"", SidebarItem::cleanup),
         navigateTo("Tools", "Find Ghost Files", u"", SidebarItem::appManager),
-        {help, QStringLiteral("Quillmere Help"), QStringLiteral("⌘?"), notifications::openShortcuts, {},
+        {help,
+         QStringLiteral("Quillmere Help"),
+         QStringLiteral("⌘?"),
+         notifications::openShortcuts,
+         {},
          isBuilt(Sheet::shortcuts)},
-        {help, QStringLiteral("Keyboard Shortcuts"), QStringLiteral("⌘/"), notifications::openShortcuts, {},
+        {help,
+         QStringLiteral("Keyboard Shortcuts"),
+         QStringLiteral("⌘/"),
+         notifications::openShortcuts,
+         {},
          isBuilt(Sheet::shortcuts)},
         divider("Help"),
-        {help, QStringLiteral("Replay Welcome Tour"), {}, notifications::openOnboarding, {}, isBuilt(Sheet::onboarding)},
-        {help, QStringLiteral("Activity History…"), QStringLiteral("⇧⌘Y"), notifications::openHistory, {},
+        {help,
+         QStringLiteral("Replay Welcome Tour"),
+         {},
+         notifications::openOnboarding,
+         {},
+         isBuilt(Sheet::onboarding)},
+        {help,
+         QStringLiteral("Activity History…"),
+         QStringLiteral("⇧⌘Y"),
+         notifications::openHistory,
+         {},
          isBuilt(Sheet::history)},
         divider("Help"),
         {help, QStringLiteral("Report a Bug…"), {}, notifications::reportBug, {}},

@@ -20,7 +20,8 @@ class MenuBarView final : public QObject
 
 public:
     /// One line of a menu. A line without a title is a divider.
-    struct Command {
+    struct Command
+    {
         QString menu;
         QString title;
         QString keys;         ///< key signs, "⇧⌘Y"; empty for none

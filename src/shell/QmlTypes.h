@@ -2,9 +2,9 @@
 
 // What QML may know of the program's own types. The core itself knows nothing of QML.
 
+#include "activity/FDABanner.h"
 #include "activity/HistoryTexts.h"
 #include "activity/HistoryView.h"
-#include "activity/FDABanner.h"
 #include "disk/AnalyzerTexts.h"
 #include "disk/DiskAnalyzerView.h"
 #include "disk/TreemapView.h"

@@ -11,7 +11,7 @@ constexpr double exitDelay = 0.5; // seconds
 bool isQuitKey(const QKeyEvent &key)
 {
     return key.modifiers().testFlag(Qt::ControlModifier)
-        && (key.key() == Qt::Key_Q || key.text().toLower() == QStringLiteral("q"));
+           && (key.key() == Qt::Key_Q || key.text().toLower() == QStringLiteral("q"));
 }
 
 } // namespace

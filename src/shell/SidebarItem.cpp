@@ -4,7 +4,8 @@
 
 namespace {
 
-struct ItemRow {
+struct ItemRow
+{
     SidebarItem item;
     SidebarSection section;
     const char *title;
@@ -16,12 +17,15 @@ constexpr std::array rows = {
     ItemRow{SidebarItem::dashboard, SidebarSection::navigation, "Dashboard", "square.grid.2x2", "dashboard"},
     ItemRow{SidebarItem::fileBrowser, SidebarSection::navigation, "File Browser", "folder", "fileBrowser"},
     ItemRow{SidebarItem::search, SidebarSection::navigation, "Search", "magnifyingglass", "search"},
-    ItemRow{SidebarItem::diskAnalyzer, SidebarSection::tools, "Disk Analyzer", "internaldrive", "diskAnalyzer"},
+    ItemRow{SidebarItem::diskAnalyzer, SidebarSection::tools, "Disk Analyzer", "internaldrive",
+            "diskAnalyzer"},
     ItemRow{SidebarItem::duplicates, SidebarSection::tools, "Duplicates", "doc.on.doc", "duplicates"},
     ItemRow{SidebarItem::bulkRename, SidebarSection::tools, "Bulk Rename", "textformat.abc", "bulkRename"},
     ItemRow{SidebarItem::cleanup, SidebarSection::tools, "Cleanup", "trash", "cleanup"},
-    ItemRow{SidebarItem::organizer, SidebarSection::tools, "Organizer", "folder.badge.gearshape", "organizer"},
-    ItemRow{SidebarItem::appManager, SidebarSection::apps, "App Manager", "app.badge.checkmark", "appManager"},
+    ItemRow{SidebarItem::organizer, SidebarSection::tools, "Organizer", "folder.badge.gearshape",
+            "organizer"},
+    ItemRow{SidebarItem::appManager, SidebarSection::apps, "App Manager", "app.badge.checkmark",
+            "appManager"},
 };
 
 const ItemRow &rowOf(SidebarItem item)
@@ -31,9 +35,8 @@ const ItemRow &rowOf(SidebarItem item)
 
 const ItemRow &rowForKey(const QString &key)
 {
-    const auto found = std::find_if(rows.begin(), rows.end(), [&key](const ItemRow &row) {
-        return key == QLatin1StringView(row.key);
-    });
+    const auto found = std::find_if(rows.begin(), rows.end(),
+                                    [&key](const ItemRow &row) { return key == QLatin1StringView(row.key); });
     return found == rows.end() ? rows.front() : *found;
 }
 

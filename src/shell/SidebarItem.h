@@ -27,7 +27,8 @@ enum class SidebarSection {
 
 namespace sidebar {
 
-inline constexpr std::array sections = {SidebarSection::navigation, SidebarSection::tools, SidebarSection::apps};
+inline constexpr std::array sections = {SidebarSection::navigation, SidebarSection::tools,
+                                        SidebarSection::apps};
 
 /// "Navigation", "Tools", "Apps".
 QString title(SidebarSection section);

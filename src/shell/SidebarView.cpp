@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr double refreshPeriod = 30;   // seconds
-constexpr double shortestSpin = 0.35;  // seconds for which a refresh is seen to be at work
+constexpr double refreshPeriod = 30;  // seconds
+constexpr double shortestSpin = 0.35; // seconds for which a refresh is seen to be at work
 constexpr double nearlyFullShare = 0.85;
 
 std::vector<SidebarItem> allItems()
@@ -64,7 +64,8 @@ SidebarView::SidebarView(const Platform &platform, DiskService &diskService, Con
 {
     rows_.reset(allItems());
     footerRows_.reset({
-        {Sheet::settings, QStringLiteral("gearshape"), QStringLiteral("Settings"), QStringLiteral("Settings (⌘,)")},
+        {Sheet::settings, QStringLiteral("gearshape"), QStringLiteral("Settings"),
+         QStringLiteral("Settings (⌘,)")},
         {Sheet::history, QStringLiteral("clock.arrow.circlepath"), QStringLiteral("Activity History"),
          QStringLiteral("Activity History (⇧⌘Y)")},
         {Sheet::shortcuts, QStringLiteral("questionmark.circle"), QStringLiteral("Keyboard Shortcuts"),
@@ -122,16 +123,15 @@ void SidebarView::refreshDiskUsage()
     isRefreshingDisk_ = true;
     emit isRefreshingDiskChanged();
     const Date start = platform_.clock.now();
-    platform_.workQueue.post(
-        WorkPriority::utility,
-        [self = QPointer(this), start, &disk = diskService_, &clock = platform_.clock, &main = platform_.mainQueue] {
-            const DiskUsage usage = disk.getDiskUsage();
-            const double elapsed = dates::secondsBetween(start, clock.now());
-            main.postAfter(std::max(0.0, shortestSpin - elapsed), [self, usage] {
-                if (self)
-                    self->finishRefresh(usage);
-            });
+    platform_.workQueue.post(WorkPriority::utility, [self = QPointer(this), start, &disk = diskService_,
+                                                     &clock = platform_.clock, &main = platform_.mainQueue] {
+        const DiskUsage usage = disk.getDiskUsage();
+        const double elapsed = dates::secondsBetween(start, clock.now());
+        main.postAfter(std::max(0.0, shortestSpin - elapsed), [self, usage] {
+            if (self)
+                self->finishRefresh(usage);
         });
+    });
 }
 
 void SidebarView::finishRefresh(const DiskUsage &usage)

@@ -54,7 +54,8 @@ signals:
     void isRefreshingDiskChanged();
 
 private:
-    struct FooterButton {
+    struct FooterButton
+    {
         Sheet sheet;
         QString symbol;
         QString label; ///< its name for assistive technology

@@ -4,14 +4,15 @@
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QuitSignals.h"
 #include "shell/Composition.h"
-#include "shell/FolderPanel.h"
+#include "shell/FallbackPanel.h"
 #include "shell/ProgramInfo.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QQuickWindow>
 
 #include <cstdio>
-#include <optional>
+#include <functional>
 
 #include <unistd.h>
 
@@ -24,7 +25,8 @@ constexpr int exitWithoutLook = 70;    // EX_SOFTWARE
 void tellMissingDisplay(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type == QtFatalMsg) {
-        fputs("Quillmere needs a display. Start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY.\n",
+        fputs("Quillmere needs a display. Start it from a desktop session, or set DISPLAY or "
+              "WAYLAND_DISPLAY.\n",
               stderr);
         fflush(stderr);
         _exit(exitWithoutDisplay);
@@ -55,33 +57,31 @@ int main(int argc, char *argv[])
     program::describe(application);
 
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    LinuxSingleInstance instance(bus, LinuxPlatform::runtimeFolder() + QStringLiteral("/com.quillmere.app.lock"));
+    LinuxSingleInstance instance(bus,
+                                 LinuxPlatform::runtimeFolder() + QStringLiteral("/com.quillmere.app.lock"));
     if (!instance.acquire()) {
         instance.activateRunning(activationToken());
         return EXIT_SUCCESS;
     }
 
-    std::optional<FolderPanel> panel; // made with the window; nobody asks for a folder before
+    FallbackPanel panel; // gets its window further down; nobody asks for a panel before
     LinuxPlatform linuxPlatform({bus, QString::fromLocal8Bit(qgetenv("PATH")).split(u':', Qt::SkipEmptyParts),
-                                 [&panel](const Workspace::FolderRequest &request, Workspace::FolderChosen chosen) {
-                                     if (panel)
-                                         panel->choose(request, std::move(chosen));
-                                 }});
+                                 std::bind_front(&FallbackPanel::chooseFolder, &panel),
+                                 std::bind_front(&FallbackPanel::chooseSavePath, &panel)});
     Appearance appearance;
     const PortalAppearance portal(bus, appearance);
-    Composition composition(
-        linuxPlatform.platform(), appearance, program::feedbackProgram(),
-        [&composition] {
-            composition.disk().cancelProbes(); // or they would measure on for nobody
-            exitNow();
-        },
-        {QGuiApplication::applicationFilePath(), [&instance] { instance.release(); }});
+    Composition composition(linuxPlatform.platform(), appearance, program::feedbackProgram(),
+                            [&composition] {
+                                composition.disk().cancelProbes(); // or they would measure on for nobody
+                                exitNow();
+                            },
+                            {QGuiApplication::applicationFilePath(), [&instance] { instance.release(); }});
     const QuitSignals quitSignals([&composition] { composition.quit().handleQuitEvent(); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      [&composition] { composition.quit().handleQuitEvent(); }); // the session's end
     instance.onActivate = [&composition](const QByteArray &token) { composition.activate(token); };
     if (!composition.show())
         return exitWithoutLook;
-    panel.emplace(composition.engine());
+    panel.attach(composition.engine(), *composition.window(), linuxPlatform.platform().home);
     return QGuiApplication::exec();
 }

@@ -1,5 +1,6 @@
-#include "activity/FDABanner.h"
 #include "activity/FDAService.h"
+
+#include "activity/FDABanner.h"
 #include "base/Files.h"
 #include "shell/common/NotificationNames.h"
 #include "support/TestPlatform.h"
@@ -17,8 +18,9 @@ struct FDAServiceTest : public testing::Test
     TestPlatform test;
     int quitRequests = 0;
     int lettings = 0;
-    FDAService service{test.platform,
-                       {test.temp.at(QStringLiteral("program")), [this] { ++lettings; }, [this] { ++quitRequests; }}};
+    FDAService service{
+        test.platform,
+        {test.temp.at(QStringLiteral("program")), [this] { ++lettings; }, [this] { ++quitRequests; }}};
 
     QString safari() const { return QStringLiteral("home/Library/Safari"); }
     QString mail() const { return QStringLiteral("home/Library/Mail"); }
@@ -143,8 +145,9 @@ TEST_F(FDAServiceTest, theDeniedFaceLeadsToTheSettings)
     service.markDenied(analyzer);
     test.settle();
     EXPECT_EQ(banner.title(), QStringLiteral("Some folders couldn't be scanned"));
-    EXPECT_EQ(banner.text(), QStringLiteral("Quillmere needs Full Disk Access to read protected folders. Find "
-                                            "Quillmere in the list and toggle the switch on."));
+    EXPECT_EQ(banner.text(),
+              QStringLiteral("Quillmere needs Full Disk Access to read protected folders. Find "
+                             "Quillmere in the list and toggle the switch on."));
     EXPECT_EQ(banner.symbol(), QStringLiteral("lock.shield.fill"));
     EXPECT_EQ(banner.buttonText(), QStringLiteral("Open System Settings"));
     EXPECT_EQ(banner.hideTip(), QStringLiteral("Hide for this session"));
@@ -221,15 +224,16 @@ TEST_F(FDAServiceTest, relaunchLetsGoStartsTheShellAndAsksToQuit)
 {
     TestPlatform &own = test;
     const QString record = own.temp.at(QStringLiteral("arguments"));
-    own.platform.programs.sh = own.temp.script(QStringLiteral("sh"), "printf '%s\\n' \"$@\" > '" + record.toUtf8()
-                                                   + ".new' && mv '" + record.toUtf8() + ".new' '" + record.toUtf8()
-                                                   + "'\n");
+    own.platform.programs.sh =
+        own.temp.script(QStringLiteral("sh"), "printf '%s\\n' \"$@\" > '" + record.toUtf8() + ".new' && mv '"
+                                                  + record.toUtf8() + ".new' '" + record.toUtf8() + "'\n");
     service.relaunch();
     EXPECT_EQ(lettings, 1);
     EXPECT_EQ(quitRequests, 0); // asked for in a later turn
     own.settle();
     EXPECT_EQ(quitRequests, 1);
-    while (!files::exists(record)) { } // the stand-in shell runs beside us; CTest ends a test that never comes back
+    while (!files::exists(record)) {
+    } // the stand-in shell runs beside us; CTest ends a test that never comes back
     EXPECT_EQ(files::readPrefix(record, 4096),
               "-c\n" + FDAService::relaunchLine(own.temp.at(QStringLiteral("program"))).toUtf8() + "\n");
 }

@@ -15,8 +15,8 @@ constexpr qint64 mostBytes = (qint64(1) << 50) - 1; // 1024 TB less one
 QString fixedText(double value, int decimals)
 {
     std::array<char, 32> digits{};
-    const auto result =
-        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals);
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                      std::chars_format::fixed, decimals);
     return QString::fromLatin1(digits.data(), result.ptr - digits.data());
 }
 

@@ -7,7 +7,8 @@
 #include <optional>
 
 /// A colour in the sRGB space, components from 0 to 1.
-struct Color {
+struct Color
+{
     double red = 0;
     double green = 0;
     double blue = 0;

@@ -5,7 +5,8 @@
 
 namespace {
 
-struct Modifier {
+struct Modifier
+{
     QChar sign;
     const char *word;
 };

@@ -28,10 +28,8 @@ inline const QString bookmarks = QStringLiteral("fileBrowser.bookmarks");
 inline QVariantMap registeredDefaults()
 {
     return {
-        {confirmBeforeDelete, true},
-        {showHiddenFilesDefault, false},
-        {cleanupRequireReview, true},
-        {duplicateMinSize, qint64(102400)},
+        {confirmBeforeDelete, true},           {showHiddenFilesDefault, false},
+        {cleanupRequireReview, true},          {duplicateMinSize, qint64(102400)},
         {diskCacheLifetimeMinutes, qint64(5)},
     };
 }

@@ -2,7 +2,6 @@
 
 #include "shell/controls/symbols/SymbolTable.h"
 
-
 #include <QDebug>
 
 #include <algorithm>

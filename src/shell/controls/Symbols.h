@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QString>
-
 #include <QtQml/qqmlregistration.h>
 
 /// The glyphs of the symbol font by the names that the program's data uses.

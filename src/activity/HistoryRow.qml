@@ -1,0 +1,127 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// One entry of the log, with what it hides until it is expanded.
+T.ItemDelegate {
+    id: row
+
+    required property int index
+    required property string symbol
+    required property string tint
+    required property string headline
+    required property string entryTitle
+    required property bool isFailed
+    required property bool isExpandable
+    required property bool isExpanded
+    required property string detail
+    required property string filesHeading
+    required property list<string> shownPaths
+    required property string moreText
+    required property string spokenText
+    required property HistoryView view
+    property bool isCurrent: false
+
+    signal toggled
+
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    padding: Theme.unit * 2
+    hoverEnabled: true
+    focusPolicy: Qt.NoFocus
+    text: entryTitle
+    Accessible.description: spokenText
+    onClicked: toggled()
+
+    contentItem: Column {
+        spacing: Theme.unit * 2
+
+        Item {
+            id: head
+            width: parent.width
+            height: 36
+
+            Rectangle {
+                id: badge
+                anchors.verticalCenter: parent.verticalCenter
+                width: 32
+                height: 32
+                radius: Theme.controlRadius
+                color: Theme.free
+                Symbol {
+                    anchors.centerIn: parent
+                    name: row.symbol
+                    size: 15
+                    color: row.tint
+                }
+            }
+            BodyText {
+                id: headline
+                anchors.left: badge.right
+                anchors.leftMargin: Theme.unit * 3
+                anchors.right: failed.left
+                anchors.top: parent.top
+                text: row.headline
+                color: Theme.secondText
+                font.pixelSize: Theme.smallSize
+            }
+            BodyText {
+                anchors.left: headline.left
+                anchors.right: headline.right
+                anchors.bottom: parent.bottom
+                text: row.entryTitle
+                maximumLineCount: 1
+            }
+            Rectangle {
+                id: failed
+                anchors.right: toggle.left
+                anchors.verticalCenter: parent.verticalCenter
+                visible: row.isFailed
+                width: visible ? failedText.implicitWidth + Theme.unit * 3 : 0
+                height: 18
+                radius: 9
+                color: "transparent"
+                border.color: Theme.red
+                CaptionText {
+                    id: failedText
+                    anchors.centerIn: parent
+                    text: row.view.texts.failed
+                    color: Theme.red
+                    font.pixelSize: 10
+                }
+            }
+            IconButton {
+                id: toggle
+                objectName: "historyToggle"
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                visible: row.isExpandable
+                symbol: row.isExpanded ? "chevron.up" : "chevron.down"
+                symbolSize: 12
+                label: row.isExpanded ? row.view.texts.hideDetails : row.view.texts.showDetails
+                tip: ""
+                focusPolicy: Qt.NoFocus
+                onClicked: row.toggled()
+            }
+        }
+        Loader {
+            width: parent.width
+            active: row.isExpanded
+            visible: active
+            sourceComponent: HistoryDetails {
+                detail: row.detail
+                filesHeading: row.filesHeading
+                shownPaths: row.shownPaths
+                moreText: row.moreText
+            }
+        }
+    }
+    background: Item {
+        Rectangle {
+            width: parent.width
+            height: head.height + row.topPadding + row.bottomPadding
+            radius: Theme.controlRadius
+            color: row.isCurrent ? Theme.selected : row.down ? Theme.pressed
+                 : row.hovered ? Theme.hover : "transparent"
+        }
+    }
+}

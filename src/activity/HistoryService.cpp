@@ -1,0 +1,113 @@
+#include "activity/HistoryService.h"
+
+#include "activity/HistoryFile.h"
+#include "activity/Loggers.h"
+#include "base/Error.h"
+#include "base/Files.h"
+#include "base/Paths.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QThread>
+
+#include <cerrno>
+
+namespace {
+
+/// Makes the program's own folder, where it can. Gives the file in it.
+QString fileIn(const QString &applicationSupport)
+{
+    const QString folder = paths::join(applicationSupport, QStringLiteral("Quillmere"));
+    try {
+        files::makeDirectories(folder);
+    } catch (const Error &) {
+        // The next save fails then, and says so.
+    }
+    return paths::join(folder, QStringLiteral("history.json"));
+}
+
+bool isMainThread()
+{
+    const QCoreApplication *application = QCoreApplication::instance();
+    return !application || application->thread() == QThread::currentThread();
+}
+
+} // namespace
+
+HistoryService::HistoryService(const Platform &platform)
+    : platform_(platform)
+    , fileURL_(fileIn(platform.locations->applicationSupport))
+{
+    if (!isMainThread())
+        moveToThread(QCoreApplication::instance()->thread());
+    load();
+}
+
+HistoryService &HistoryService::shared(const Platform &platform)
+{
+    static HistoryService &instance = *new HistoryService(platform);
+    return instance;
+}
+
+void HistoryService::load()
+{
+    std::vector<HistoryEntry> entries;
+    try {
+        entries = historyfile::decode(files::readAll(fileURL_, historyfile::mostBytes));
+    } catch (const Error &error) {
+        // A file that can't be read, above all one that is not there yet, is no news; one that is no log is.
+        if (error.domain == historyfile::errorDomain || error.code == EFBIG) {
+            Loggers(platform_.systemLog)
+                .general.error(QStringLiteral("Failed to load history.json: %1").arg(error.description));
+        }
+        return;
+    }
+    if (isMainThread())
+        return setEntries(std::move(entries));
+    postToMain([entries = std::move(entries)](HistoryService &self) { self.setEntries(entries); });
+}
+
+void HistoryService::record(const HistoryEntry &entry)
+{
+    postToMain([entry](HistoryService &self) {
+        std::vector<HistoryEntry> &entries = self.entries_;
+        entries.insert(entries.begin(), entry);
+        if (entries.size() > maxEntries)
+            entries.resize(maxEntries);
+        self.save();
+        emit self.entriesChanged();
+    });
+}
+
+void HistoryService::clear()
+{
+    postToMain([](HistoryService &self) {
+        self.entries_.clear();
+        self.save();
+        emit self.entriesChanged();
+    });
+}
+
+void HistoryService::setEntries(std::vector<HistoryEntry> entries)
+{
+    entries_ = std::move(entries);
+    emit entriesChanged();
+}
+
+void HistoryService::save() const
+{
+    try {
+        files::writeAtomically(fileURL_, historyfile::encode(entries_));
+    } catch (const Error &error) {
+        Loggers(platform_.systemLog)
+            .general.error(QStringLiteral("Failed to save history: %1").arg(error.description));
+    }
+}
+
+void HistoryService::postToMain(std::function<void(HistoryService &)> block)
+{
+    platform_.mainQueue.post([self = QPointer(this), block = std::move(block)] {
+        if (self)
+            block(*self);
+    });
+}

@@ -1,0 +1,118 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// The activity log: filters, entries, and what can be done with the log as a whole.
+SheetFrame {
+    id: sheet
+
+    required property HistoryView view
+
+    title: view.title
+    symbol: view.symbol
+    summary: view.countText
+    closeLabel: view.texts.close
+
+    tools: [
+        Item {
+            width: revealButton.width
+            height: revealButton.height
+            ActionButton {
+                id: revealButton
+                objectName: "revealHistory"
+                enabled: sheet.view.canReveal
+                text: sheet.view.texts.reveal
+                symbol: "arrow.up.right.square"
+                Accessible.description: sheet.view.revealTip
+                onClicked: sheet.view.reveal()
+            }
+            // The button itself knows of no pointer while it is disabled, and then its tip matters most.
+            HoverHandler {
+                id: revealPointer
+            }
+            Tip {
+                control: revealButton
+                isDue: revealPointer.hovered && !revealButton.down
+                text: sheet.view.revealTip
+            }
+        },
+        ActionButton {
+            objectName: "clearHistory"
+            visible: sheet.view.canClear
+            text: sheet.view.texts.clear
+            symbol: "trash"
+            tip: sheet.view.showClearConfirm ? "" : sheet.view.texts.clearTip
+            onClicked: sheet.view.askToClear()
+        }
+    ]
+
+    Flow {
+        id: chips
+        x: Theme.unit * 5
+        y: Theme.unit * 3
+        width: parent.width - Theme.unit * 10
+        spacing: Theme.unit * 1.5
+
+        Repeater {
+            model: sheet.view.filters
+            FilterChip {
+                required property int index
+                onClicked: sheet.view.chooseFilter(index)
+            }
+        }
+    }
+    ListView {
+        id: list
+        objectName: "historyList"
+        anchors.top: chips.bottom
+        anchors.topMargin: Theme.unit * 3
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.unit
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: Theme.unit * 3
+        anchors.rightMargin: Theme.unit * 3
+        clip: true
+        focus: true
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        spacing: Theme.unit
+        model: sheet.view.rows
+        currentIndex: -1
+        keyNavigationEnabled: true
+
+        // A new entry comes in above the first row; a reader who has not scrolled sees it.
+        property bool isAtTop: true
+        onMovementEnded: isAtTop = atYBeginning
+        onCountChanged: if (isAtTop) positionViewAtBeginning()
+
+        T.ScrollBar.vertical: ScrollHandle { }
+        Keys.onReturnPressed: sheet.view.toggleRow(currentIndex)
+        Keys.onEnterPressed: sheet.view.toggleRow(currentIndex)
+        Keys.onSpacePressed: sheet.view.toggleRow(currentIndex)
+        delegate: HistoryRow {
+            width: ListView.view.width
+            view: sheet.view
+            isCurrent: ListView.isCurrentItem && list.activeFocus
+            onToggled: sheet.view.toggleRow(index)
+        }
+    }
+    EmptyState {
+        anchors.centerIn: list
+        width: list.width
+        visible: text.length > 0
+        symbol: sheet.view.symbol
+        text: sheet.view.emptyText
+    }
+    Loader {
+        active: sheet.view.showClearConfirm
+        sourceComponent: ConfirmDialog {
+            title: sheet.view.texts.confirmTitle
+            text: sheet.view.texts.confirmText
+            cancelLabel: sheet.view.texts.cancel
+            actionLabel: sheet.view.texts.clear
+            onAccepted: sheet.view.confirmClear()
+            onRejected: sheet.view.cancelClear()
+        }
+    }
+}
