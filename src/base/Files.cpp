@@ -278,6 +278,13 @@ std::optional<Attributes> DirectoryReader::attributes() const
     return systemcalls::entryAttributes(dirfd(directory_), entry_->d_name);
 }
 
+std::optional<Extent> DirectoryReader::extent() const
+{
+    if (faults() && fails(Operation::attributes, paths::join(folder_, paths::fromBytes(name()))))
+        return std::nullopt;
+    return systemcalls::entryExtent(dirfd(directory_), entry_->d_name);
+}
+
 void injectFaults(std::function<int(Operation, const QString &)> injected)
 {
     faults() = std::move(injected);

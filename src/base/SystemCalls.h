@@ -10,6 +10,9 @@ namespace systemcalls {
 /// errno set, when they can't be read.
 std::optional<files::Attributes> entryAttributes(int directory, const char *path);
 
+/// The part of these attributes that a measure needs, by the cheapest call that tells it.
+std::optional<files::Extent> entryExtent(int directory, const char *path);
+
 /// Renames and never replaces. 0, or the error number: EEXIST when the target's name is taken.
 int renameWithoutReplacing(const char *from, const char *to);
 

@@ -16,7 +16,8 @@
 
 /// All that the program knows of the system it runs on, handed to everything by reference. Nothing else asks the
 /// environment, the home folder or the time; tests build their own over a temporary home and fakes.
-struct Platform {
+struct Platform
+{
     QString home;                     ///< the user's home folder, without a slash at its end
     const Lazy<Locations> &locations; ///< made at first use: reading the user's folders needs the disk
     Defaults &defaults;

@@ -9,13 +9,15 @@ class SystemInfo
 {
 public:
     /// The volume that holds "/".
-    struct Volume {
+    struct Volume
+    {
         qint64 total = 0;            ///< bytes
         qint64 available = 0;        ///< bytes that the user may still fill
         std::optional<QString> name; ///< none when the volume has no name
     };
 
-    struct Version {
+    struct Version
+    {
         int major = 0;
         int minor = 0;
         int patch = 0;

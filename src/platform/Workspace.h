@@ -12,11 +12,22 @@ class Workspace
 {
 public:
     /// What the folder panel shows. Folders only, a single one, hidden ones shown, packages as folders.
-    struct FolderRequest {
+    struct FolderRequest
+    {
         QString message; ///< what the folder is for
         QString start;   ///< the folder to begin with; empty for the desktop's own choice
     };
-    using FolderChosen = std::function<void(const std::optional<QString> &folder)>;
+
+    /// What the panel for saving shows.
+    struct SaveRequest
+    {
+        QString message;       ///< what is saved
+        QString suggestedName; ///< the file's name to begin with, without a folder
+        QString start;         ///< the folder to begin with; empty for the desktop's own choice
+    };
+
+    /// Takes what the user chose in a panel, or none where the user cancelled.
+    using PathChosen = std::function<void(const std::optional<QString> &path)>;
 
     Workspace() = default;
     Workspace(const Workspace &) = delete;
@@ -39,12 +50,19 @@ public:
     /// Shows the content of a folder.
     virtual void showFolder(const QString &path) = 0;
 
+    /// Shows a preview of an entry in a small window of the desktop's; where it has none, opens the entry.
+    virtual void quickLook(const QString &path) = 0;
+
     /// Opens a terminal in a folder.
     virtual void openTerminal(const QString &folder) = 0;
 
     /// Asks for a folder. `chosen` gets it in a later turn of the main loop, or none when the user cancels; it
     /// may never run when another panel takes this one's place.
-    virtual void chooseFolder(const FolderRequest &request, FolderChosen chosen) = 0;
+    virtual void chooseFolder(const FolderRequest &request, PathChosen chosen) = 0;
+
+    /// Asks where to save a file, which may exist already: the user has then agreed to its being replaced. Answers like
+    /// `chooseFolder`.
+    virtual void chooseSavePath(const SaveRequest &request, PathChosen chosen) = 0;
 
     /// Puts a text on the clipboard in place of what was there. Bytes that are not UTF-8 become U+FFFD.
     virtual void copyText(const QString &text) = 0;

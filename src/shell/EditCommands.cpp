@@ -1,6 +1,7 @@
 #include "shell/EditCommands.h"
 
 #include <QGuiApplication>
+#include <QQuickItem>
 
 namespace {
 
@@ -10,14 +11,21 @@ bool isTextField(const QObject *object)
     return object && (object->inherits("QQuickTextInput") || object->inherits("QQuickTextEdit"));
 }
 
-/// A menu takes the focus while it is open and gives it back; the field stays the one that is meant.
-bool isPartOfMenu(const QObject *object)
+bool isMenu(const QObject *object)
 {
     for (const char *type : {"QQuickMenuBarItem", "QQuickMenuBar", "QQuickMenuItem", "QQuickPopupItem"}) {
         if (object && object->inherits(type))
             return true;
     }
     return false;
+}
+
+/// A menu takes the focus while it is open and gives it back; the field stays the one that is meant. The focus may be
+/// the list's inside it, once a line has had it.
+bool isPartOfMenu(const QObject *object)
+{
+    const auto *item = qobject_cast<const QQuickItem *>(object);
+    return isMenu(object) || (item && isMenu(item->parentItem()));
 }
 
 } // namespace

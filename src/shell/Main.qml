@@ -1,3 +1,5 @@
+// A Loader of Qt 6.4 makes no bound component, and qmllint knows the ids of an unbound one only as unqualified.
+// qmllint disable unqualified
 import QtQuick
 import QtQuick.Controls.Basic
 import Quillmere
@@ -30,6 +32,11 @@ ApplicationWindow {
     }
 
     menuBar: MainMenuBar {
+        id: menus
+        commands: window.commands
+    }
+    MenuBarCommands {
+        bar: menus
         commands: window.commands
     }
 

@@ -19,44 +19,10 @@ MenuBar {
             color: Theme.line
         }
     }
-    delegate: MenuBarItem {
-        id: title
-        implicitHeight: 28
-        padding: Theme.unit * 2
-        contentItem: BodyText {
-            text: title.text
-        }
-        background: Rectangle {
-            anchors.fill: parent
-            anchors.margins: 3
-            radius: Theme.tileRadius
-            color: title.highlighted ? Theme.pressed : "transparent"
-        }
-    }
+    delegate: MenuTitle { }
 
     Shortcut {
         sequence: "F10" // the usual key for the menu bar
-        onActivated: bar.itemAt(0).triggered()
-    }
-    Instantiator {
-        model: bar.commands.menus
-        onObjectAdded: (index, menu) => bar.insertMenu(index, menu)
-        CommandMenu {
-            required property var modelData
-            commands: bar.commands
-            title: modelData.title
-            items: modelData.items
-        }
-    }
-    // Over the list that never changes: the objects of a list that is replaced live on, and a key that two of them
-    // have does nothing.
-    Instantiator {
-        model: bar.commands.keys
-        Shortcut {
-            required property var modelData
-            sequence: modelData.sequence
-            enabled: bar.commands.shortcuts.some(shortcut => shortcut.command === modelData.command)
-            onActivated: bar.commands.perform(modelData.command)
-        }
+        onActivated: (bar.itemAt(0) as MenuBarItem).triggered()
     }
 }

@@ -25,28 +25,33 @@ Command textCommand(const char *title, const char16_t *keys, const char *name)
             QString::fromLatin1(name)};
 }
 
-/// The window's commands in the order of the menus. The Quit command has no notification: it ends the program.
-std::vector<Command> allCommands()
+Command posting(const char *menu, const char16_t *title, const char16_t *keys, const QString &notification,
+                bool isEnabled = true)
 {
-    const auto program = QStringLiteral("Quillmere");
-    const auto help = QStringLiteral("Help");
+    return {QString::fromLatin1(menu),
+            QString::fromUtf16(title),
+            QString::fromUtf16(keys),
+            notification,
+            {},
+            isEnabled};
+}
+
+/// Posts nothing: it ends the program.
+Command quitCommand()
+{
+    return posting("Quillmere", u"Quit Quillmere", u"⌘Q", {});
+}
+
+/// The menus of the program, of files, and of the text field with the focus.
+std::vector<Command> firstMenus()
+{
     return {
-        {program, QStringLiteral("About Quillmere"), {}, {}, {}, false},
+        posting("Quillmere", u"About Quillmere", u"", {}, false),
         divider("Quillmere"),
-        {program,
-         QStringLiteral("Settings…"),
-         QStringLiteral("⌘,"),
-         notifications::openSettings,
-         {},
-         isBuilt(Sheet::settings)},
+        posting("Quillmere", u"Settings…", u"⌘,", notifications::openSettings, isBuilt(Sheet::settings)),
         divider("Quillmere"),
-        {program, QStringLiteral("Quit Quillmere"), QStringLiteral("⌘Q"), {}, {}, true},
-        {QStringLiteral("File"),
-         QStringLiteral("New Folder…"),
-         QStringLiteral("⌘N"),
-         notifications::newFolder,
-         {},
-         false},
+        quitCommand(),
+        posting("File", u"New Folder…", u"⌘N", notifications::newFolder, false),
         textCommand("Undo", u"⌘Z", "undo"),
         textCommand("Redo", u"⇧⌘Z", "redo"),
         divider("Edit"),
@@ -55,6 +60,13 @@ std::vector<Command> allCommands()
         textCommand("Paste", u"⌘V", "paste"),
         divider("Edit"),
         textCommand("Select All", u"⌘A", "selectAll"),
+    };
+}
+
+/// The menus that lead to screens, tools and help.
+std::vector<Command> lastMenus()
+{
+    return {
         navigateTo("View", "Dashboard", u"⌘1", SidebarItem::dashboard),
         navigateTo("View", "File Browser", u"⌘2", SidebarItem::fileBrowser),
         navigateTo("View", "Search", u"⌘3", SidebarItem::search),
@@ -65,44 +77,31 @@ std::vector<Command> allCommands()
         navigateTo("View", "Cleanup", u"", SidebarItem::cleanup),
         navigateTo("View", "Organizer", u"", SidebarItem::organizer),
         navigateTo("View", "App Manager", u"", SidebarItem::appManager),
-        {QStringLiteral("Tools"),
-         QStringLiteral("Refresh Current View"),
-         QStringLiteral("⌘R"),
-         notifications::rescan,
-         {}},
+        posting("Tools", u"Refresh Current View", u"⌘R", notifications::rescan),
         divider("Tools"),
         navigateTo("Tools", "Scan for Duplicates", u"", SidebarItem::duplicates),
         navigateTo("Tools", "Quick Cleanup", u"", SidebarItem::cleanup),
         navigateTo("Tools", "Find Ghost Files", u"", SidebarItem::appManager),
-        {help,
-         QStringLiteral("Quillmere Help"),
-         QStringLiteral("⌘?"),
-         notifications::openShortcuts,
-         {},
-         isBuilt(Sheet::shortcuts)},
-        {help,
-         QStringLiteral("Keyboard Shortcuts"),
-         QStringLiteral("⌘/"),
-         notifications::openShortcuts,
-         {},
-         isBuilt(Sheet::shortcuts)},
+        posting("Help", u"Quillmere Help", u"⌘?", notifications::openShortcuts, isBuilt(Sheet::shortcuts)),
+        posting("Help", u"Keyboard Shortcuts", u"⌘/", notifications::openShortcuts,
+                isBuilt(Sheet::shortcuts)),
         divider("Help"),
-        {help,
-         QStringLiteral("Replay Welcome Tour"),
-         {},
-         notifications::openOnboarding,
-         {},
-         isBuilt(Sheet::onboarding)},
-        {help,
-         QStringLiteral("Activity History…"),
-         QStringLiteral("⇧⌘Y"),
-         notifications::openHistory,
-         {},
-         isBuilt(Sheet::history)},
+        posting("Help", u"Replay Welcome Tour", u"", notifications::openOnboarding,
+                isBuilt(Sheet::onboarding)),
+        posting("Help", u"Activity History…", u"⇧⌘Y", notifications::openHistory, isBuilt(Sheet::history)),
         divider("Help"),
-        {help, QStringLiteral("Report a Bug…"), {}, notifications::reportBug, {}},
-        {help, QStringLiteral("Request a Feature…"), {}, notifications::requestFeature, {}},
+        posting("Help", u"Report a Bug…", u"", notifications::reportBug),
+        posting("Help", u"Request a Feature…", u"", notifications::requestFeature),
     };
+}
+
+/// The window's commands in the order of the menus.
+std::vector<Command> allCommands()
+{
+    std::vector<Command> commands = firstMenus();
+    for (const Command &command : lastMenus())
+        commands.push_back(command);
+    return commands;
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 
 namespace program {
 
-void describe(QGuiApplication &application)
+void describe()
 {
     QGuiApplication::setApplicationName(QStringLiteral("quillmere"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillmere"));
@@ -14,7 +14,7 @@ void describe(QGuiApplication &application)
     QGuiApplication::setQuitOnLastWindowClosed(false); // closing the window is a request of its own
     QFont font = QGuiApplication::font();
     font.setFamilies({QStringLiteral("Inter"), font.family()});
-    application.setFont(font);
+    QGuiApplication::setFont(font);
 }
 
 feedback::Program feedbackProgram()

@@ -2,13 +2,11 @@
 
 #include "shell/FeedbackMail.h"
 
-class QGuiApplication;
-
 /// What the build says of the program.
 namespace program {
 
-/// Name, version, icon and type face of the application.
-void describe(QGuiApplication &application);
+/// Tells the application object, which must exist, its name, version and type face.
+void describe();
 
 /// What a feedback mail says of the program and where it goes.
 feedback::Program feedbackProgram();

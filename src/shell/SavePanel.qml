@@ -6,5 +6,6 @@ import QtQuick.Dialogs
 FileDialog {
     modality: Qt.ApplicationModal
     fileMode: FileDialog.SaveFile
-    options: FileDialog.DontConfirmOverwrite
+    // The type's description, which the linter reads, leaves this property out.
+    options: FileDialog.DontConfirmOverwrite // qmllint disable
 }

@@ -26,9 +26,7 @@ Rectangle {
         font.pixelSize: 16
         font.weight: Font.DemiBold
     }
-    ListView {
-        id: list
-
+    SidebarList {
         objectName: "sidebarList"
         anchors.top: mark.bottom
         anchors.topMargin: Theme.unit * 3
@@ -36,23 +34,7 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.margins: Theme.unit * 2
-        model: bar.sidebar.items
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
-        section.property: "sectionTitle"
-        section.delegate: CaptionText {
-            required property string section
-            width: ListView.view.width
-            height: 34
-            leftPadding: Theme.unit * 2
-            bottomPadding: Theme.unit
-            verticalAlignment: Text.AlignBottom
-            text: section
-        }
-        delegate: SidebarButton {
-            width: ListView.view.width
-            onClicked: bar.sidebar.select(index)
-        }
+        sidebar: bar.sidebar
     }
     Column {
         id: footer

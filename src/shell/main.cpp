@@ -54,7 +54,7 @@ int main(int argc, char *argv[])
     const QtMessageHandler usual = qInstallMessageHandler(tellMissingDisplay);
     QGuiApplication application(argc, argv);
     qInstallMessageHandler(usual);
-    program::describe(application);
+    program::describe();
 
     const QDBusConnection bus = QDBusConnection::sessionBus();
     LinuxSingleInstance instance(bus,

@@ -20,11 +20,12 @@ constexpr qint64 kilobyte = 1024;
 constexpr qint64 megabyte = 1024 * kilobyte;
 constexpr time_t day = 24 * 60 * 60;
 
-struct DemoFile {
+struct DemoFile
+{
     const char *path; // below the root
     qint64 size;
-    int age;              // days since its last change
-    const char *content;  // repeated to fill the file; files of equal content and size are duplicates
+    int age;             // days since its last change
+    const char *content; // repeated to fill the file; files of equal content and size are duplicates
 };
 
 constexpr std::array demoFiles = {
@@ -42,8 +43,10 @@ constexpr std::array demoFiles = {
     DemoFile{"Users/robin/Downloads/editor-setup.dmg", 22 * megabyte, 33, "editor"},
     DemoFile{"Users/robin/Downloads/menu.pdf", 180 * kilobyte, 3, "menu"},
     DemoFile{"Users/robin/Downloads/Screenshot 2026-10-02.png", 1 * megabyte, 29, "screenshot"},
-    DemoFile{"Users/robin/Pictures/Photos Library.photoslibrary/originals/0/IMG_0142.heic", 38 * megabyte, 300, "p1"},
-    DemoFile{"Users/robin/Pictures/Photos Library.photoslibrary/originals/1/IMG_0177.heic", 41 * megabyte, 280, "p2"},
+    DemoFile{"Users/robin/Pictures/Photos Library.photoslibrary/originals/0/IMG_0142.heic", 38 * megabyte,
+             300, "p1"},
+    DemoFile{"Users/robin/Pictures/Photos Library.photoslibrary/originals/1/IMG_0177.heic", 41 * megabyte,
+             280, "p2"},
     DemoFile{"Users/robin/Pictures/2025 Iceland/DSC_0311.jpg", 9 * megabyte, 410, "iceland one"},
     DemoFile{"Users/robin/Pictures/2025 Iceland/DSC_0312.jpg", 9 * megabyte, 410, "iceland two"},
     DemoFile{"Users/robin/Pictures/2025 Iceland/DSC_0312 copy.jpg", 9 * megabyte, 390, "iceland two"},
@@ -87,8 +90,10 @@ void makeFile(const std::filesystem::path &path, const DemoFile &file)
     const int descriptor = open(path.c_str(), O_CREAT | O_WRONLY | O_TRUNC | O_CLOEXEC, 0644);
     require(descriptor != -1, path);
     const std::string content = file.content;
-    const bool isWritten = write(descriptor, content.data(), content.size()) == static_cast<ssize_t>(content.size());
-    const bool isSized = posix_fallocate(descriptor, 0, file.size) == 0 || ftruncate(descriptor, file.size) == 0;
+    const bool isWritten =
+        write(descriptor, content.data(), content.size()) == static_cast<ssize_t>(content.size());
+    const bool isSized =
+        posix_fallocate(descriptor, 0, file.size) == 0 || ftruncate(descriptor, file.size) == 0;
     const time_t changed = time(nullptr) - file.age * day;
     const timespec times[2] = {{changed, 0}, {changed, 0}};
     const bool isDated = futimens(descriptor, times) == 0;
@@ -100,8 +105,8 @@ void makeFile(const std::filesystem::path &path, const DemoFile &file)
 
 DemoHome::DemoHome()
 {
-    std::string pattern =
-        std::filesystem::canonical(std::filesystem::temp_directory_path()).string() + "/quillmere-demo-XXXXXX";
+    std::string pattern = std::filesystem::canonical(std::filesystem::temp_directory_path()).string()
+                          + "/quillmere-demo-XXXXXX";
     require(mkdtemp(pattern.data()) != nullptr, pattern);
     root_ = paths::fromBytes(pattern);
     for (const DemoFile &file : demoFiles)

@@ -1,8 +1,7 @@
-#include "DemoHome.h"
-
 #include "base/EventLoopMainQueue.h"
 #include "base/Paths.h"
 #include "base/ThreadWorkQueue.h"
+#include "DemoHome.h"
 #include "platform/Appearance.h"
 #include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
@@ -11,7 +10,7 @@
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QuitSignals.h"
 #include "shell/Composition.h"
-#include "shell/FolderPanel.h"
+#include "shell/FallbackPanel.h"
 #include "shell/ProgramInfo.h"
 
 #include <QDBusConnection>
@@ -21,7 +20,7 @@
 
 #include <cstdio>
 #include <exception>
-#include <optional>
+#include <functional>
 
 #include <unistd.h>
 
@@ -33,7 +32,8 @@
 
 namespace {
 
-struct Options {
+struct Options
+{
     bool isLight = false;
     QString screen;
     QString picture;
@@ -82,18 +82,17 @@ int runDemo(DemoHome &demo)
     Defaults defaults;
     const Lazy<Locations> locations([&demo] { return macLocations(demo.home(), demo.applicationsFolder()); });
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    std::optional<FolderPanel> panel;
+    FallbackPanel panel;
     LinuxWorkspace workspace({bus, QString::fromLocal8Bit(qgetenv("PATH")).split(u':', Qt::SkipEmptyParts),
-                              [&panel](const Workspace::FolderRequest &request, Workspace::FolderChosen chosen) {
-                                  if (panel)
-                                      panel->choose(request, std::move(chosen));
-                              }},
+                              std::bind_front(&FallbackPanel::chooseFolder, &panel),
+                              std::bind_front(&FallbackPanel::chooseSavePath, &panel)},
                              workQueue);
     LinuxRecycler recycler(ChildPrograms().pkexec, ChildPrograms().mv);
     LinuxSystemLog systemLog(clock);
     const LinuxSystemInfo systemInfo;
-    const Platform platform{demo.home(), locations,     defaults,  clock,     ChildPrograms(), KeyStyle::words, mainQueue,
-                            workQueue,   notifications, workspace, recycler, systemLog, systemInfo};
+    const Platform platform{demo.home(),     locations, defaults,  clock,         ChildPrograms(),
+                            KeyStyle::words, mainQueue, workQueue, notifications, workspace,
+                            recycler,        systemLog, systemInfo};
     Appearance appearance;
     appearance.setDark(!options.isLight);
     const auto exitNow = [&demo] {
@@ -107,7 +106,7 @@ int runDemo(DemoHome &demo)
         composition.content().setSelectedItem(sidebar::itemForKey(options.screen));
     if (!composition.show())
         return EXIT_FAILURE;
-    panel.emplace(composition.engine());
+    panel.attach(composition.engine(), *composition.window(), demo.home());
     if (!options.picture.isEmpty())
         savePictureWhenReady(composition, options.picture, exitNow);
     return QGuiApplication::exec();
@@ -122,7 +121,7 @@ int main(int argc, char *argv[])
         // What goes to the Trash stays inside the demo as well; set before the desktop's library first looks.
         qputenv("XDG_DATA_HOME", paths::toBytes(demo.home() + QStringLiteral("/.local/share")));
         QGuiApplication application(argc, argv);
-        program::describe(application);
+        program::describe();
         return runDemo(demo);
     } catch (const std::exception &error) {
         fprintf(stderr, "The demo's home could not be made: %s\n", error.what());

@@ -30,7 +30,8 @@ void treemap(const Arguments &arguments)
     const double width = arguments.number(0);
     const double height = arguments.number(1);
     std::vector<StorageCategory> categories;
-    for (const QJsonValue &value : json::readObjects())
+    const QJsonArray objects = json::readObjects();
+    for (const auto &value : objects)
         categories.push_back(readCategory(value.toObject()));
     QJsonArray array;
     for (const TreemapItem &item : layoutTreemap(categories, width, height)) {

@@ -15,11 +15,13 @@ class NoWorkspace final : public Workspace
 public:
     void open(const QString &) override {}
     void openAddress(const QByteArray &) override {}
-    void openSettingsPage(const QByteArray &) override { }
+    void openSettingsPage(const QByteArray &) override {}
     void reveal(const QString &) override {}
     void showFolder(const QString &) override {}
+    void quickLook(const QString &) override {}
     void openTerminal(const QString &) override {}
-    void chooseFolder(const FolderRequest &, FolderChosen) override {}
+    void chooseFolder(const FolderRequest &, PathChosen) override {}
+    void chooseSavePath(const SaveRequest &, PathChosen) override {}
     void copyText(const QString &) override {}
 };
 
@@ -28,7 +30,10 @@ class NoRecycler final : public Recycler
 {
 public:
     void recycle(const QStringList &, Completion completion) override { completion({}); }
-    std::optional<AdminFailure> moveToTrashAsAdministrator(const QString &) override { return AdminFailure{false}; }
+    std::optional<AdminFailure> moveToTrashAsAdministrator(const QString &) override
+    {
+        return AdminFailure{false};
+    }
 };
 
 /// A log that keeps nothing.

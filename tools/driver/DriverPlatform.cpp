@@ -66,8 +66,9 @@ DriverPlatform::DriverPlatform(const Arguments &arguments)
 DriverPlatform::DriverPlatform(const QString &home, std::function<Locations()> locations)
     : home_(home)
     , locations_(std::move(locations))
-    , platform_{home_,      locations_, defaults_,      clock_,     ChildPrograms(), KeyStyle::words,
-                mainQueue_, workQueue_, notifications_, workspace_, recycler_, systemLog_,      systemInfo_}
+    , platform_{home_,           locations_, defaults_,  clock_,         ChildPrograms(),
+                KeyStyle::words, mainQueue_, workQueue_, notifications_, workspace_,
+                recycler_,       systemLog_, systemInfo_}
     , fileSystem_(platform_,
                   [this](const QString &path) { return disk_.probeSize(path, ProbeContext::generic); })
     , access_(platform_, {})

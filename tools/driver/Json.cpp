@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -67,8 +68,8 @@ QJsonArray readObjects()
             QStringLiteral("bad JSON at byte %1: %2").arg(failure.offset).arg(failure.errorString())};
     if (!document.isArray())
         throw UsageError{QStringLiteral("bad JSON: an array is expected")};
-    const QJsonArray array = document.array();
-    for (const QJsonValue &value : array) {
+    QJsonArray array = document.array();
+    for (const auto &value : std::as_const(array)) {
         if (!value.isObject())
             throw UsageError{QStringLiteral("bad JSON: an array of objects is expected")};
     }

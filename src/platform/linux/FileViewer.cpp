@@ -50,6 +50,18 @@ bool asksPortal(const QDBusConnection &bus, const QString &path)
     return succeeds(bus, call);
 }
 
+/// The previewer that file managers call at a press of the space bar. Its name lacks the number of its interface.
+bool asksPreviewer(const QDBusConnection &bus, const QString &path)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.gnome.NautilusPreviewer"), QStringLiteral("/org/gnome/NautilusPreviewer"),
+        QStringLiteral("org.gnome.NautilusPreviewer2"), QStringLiteral("ShowFile"));
+    const QString noParentWindow = QStringLiteral("");
+    const bool closesWhenShown = false; // asking twice is asking to see it, not to be rid of it
+    call.setArguments({QString::fromLatin1(paths::fileUrl(path)), noParentWindow, closesWhenShown});
+    return succeeds(bus, call);
+}
+
 } // namespace
 
 namespace fileviewer {
@@ -64,6 +76,12 @@ void reveal(const QString &path, const QDBusConnection &bus, const QStringList &
 void showFolder(const QString &path, const QDBusConnection &bus, const QStringList &searchPath)
 {
     if (!asksFileManager(bus, QStringLiteral("ShowFolders"), path))
+        open(paths::fileUrl(path), searchPath);
+}
+
+void quickLook(const QString &path, const QDBusConnection &bus, const QStringList &searchPath)
+{
+    if (!asksPreviewer(bus, path))
         open(paths::fileUrl(path), searchPath);
 }
 

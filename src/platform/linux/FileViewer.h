@@ -15,6 +15,9 @@ void reveal(const QString &path, const QDBusConnection &bus, const QStringList &
 /// Shows the content of a folder: by the file manager, else by opening it.
 void showFolder(const QString &path, const QDBusConnection &bus, const QStringList &searchPath);
 
+/// Shows a preview of an entry: by the file manager's previewer, else by opening it.
+void quickLook(const QString &path, const QDBusConnection &bus, const QStringList &searchPath);
+
 /// Opens a file, a folder or an address by the user's choice of application for its kind.
 void open(const QByteArray &address, const QStringList &searchPath);
 

@@ -51,7 +51,8 @@ LinuxEnvironment environment(const QString &home)
 
 QString defaultsFile(const QString &home)
 {
-    return paths::join(baseFolder("XDG_CONFIG_HOME", home, ".config"), QStringLiteral("quillmere/settings.json"));
+    return paths::join(baseFolder("XDG_CONFIG_HOME", home, ".config"),
+                       QStringLiteral("quillmere/settings.json"));
 }
 
 } // namespace
@@ -63,8 +64,9 @@ LinuxPlatform::LinuxPlatform(LinuxDesktop desktop)
     , workspace_(std::move(desktop), workQueue_)
     , recycler_(ChildPrograms().pkexec, ChildPrograms().mv)
     , systemLog_(clock_)
-    , platform_{home_,       locations_,     defaults_,  clock_,     ChildPrograms(), KeyStyle::words, mainQueue_,
-                workQueue_, notifications_, workspace_, recycler_, systemLog_, systemInfo_}
+    , platform_{home_,           locations_, defaults_,  clock_,         ChildPrograms(),
+                KeyStyle::words, mainQueue_, workQueue_, notifications_, workspace_,
+                recycler_,       systemLog_, systemInfo_}
 {
 }
 

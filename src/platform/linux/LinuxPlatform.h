@@ -2,20 +2,20 @@
 
 #include "base/EventLoopMainQueue.h"
 #include "base/ThreadWorkQueue.h"
-#include "platform/LinuxEnvironment.h"
-#include "platform/Platform.h"
 #include "platform/linux/JsonDefaults.h"
 #include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
 #include "platform/linux/LinuxSystemLog.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "platform/LinuxEnvironment.h"
+#include "platform/Platform.h"
 
 /// The platform of a program on this system: its adapters, its queues and its places. Construct it on the main thread,
 /// with the application's event loop at hand; touches no disk by itself.
 class LinuxPlatform
 {
 public:
-    /// `fallbackPanel` asks for a folder where the desktop has no panel of its own.
+    /// The panels of `desktop` ask where the system has none of its own.
     explicit LinuxPlatform(LinuxDesktop desktop);
 
     const Platform &platform() const { return platform_; }

@@ -245,7 +245,7 @@ std::optional<AdminFailure> LinuxRecycler::moveToTrashAsAdministrator(const QStr
         // -n and -T: neither over something that has come to lie there meanwhile, nor into it.
         const QStringList arguments{
             mv_, QStringLiteral("-n"), QStringLiteral("-T"), QStringLiteral("--"), item.path, entry.file};
-        const auto failure = runAsAdministrator(pkexec_, arguments);
+        auto failure = runAsAdministrator(pkexec_, arguments);
         settle(entry, item.path, !failure);
         return failure;
     } catch (const Error &error) {

@@ -63,6 +63,14 @@ std::optional<files::Attributes> entryAttributes(int directory, const char *path
     return attributes;
 }
 
+std::optional<files::Extent> entryExtent(int directory, const char *path)
+{
+    struct stat status = {};
+    if (fstatat(directory, path, &status, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) == -1)
+        return std::nullopt;
+    return files::Extent{kindOf(status.st_mode), status.st_size, hasHiddenName(path)};
+}
+
 int renameWithoutReplacing(const char *from, const char *to)
 {
     if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0)

@@ -2,7 +2,6 @@
 
 #include "base/Paths.h"
 #include "platform/linux/FileViewer.h"
-#include "platform/linux/FolderPortal.h"
 #include "platform/linux/ProgramSearch.h"
 
 #include <QClipboard>
@@ -34,9 +33,11 @@ void LinuxWorkspace::openSettingsPage(const QByteArray &)
 {
     // The one page that the program ever asks for is about privacy; a desktop without such a page shows its settings.
     workQueue_.post(WorkPriority::userInitiated, [searchPath = desktop_.searchPath] {
-        if (!programs::launchFirst({QStringLiteral("gnome-control-center")}, searchPath, {QStringLiteral("privacy")}, {}))
-            programs::launchFirst({QStringLiteral("systemsettings"), QStringLiteral("xfce4-settings-manager")}, searchPath,
-                                  {}, {});
+        if (!programs::launchFirst({QStringLiteral("gnome-control-center")}, searchPath,
+                                   {QStringLiteral("privacy")}, {}))
+            programs::launchFirst(
+                {QStringLiteral("systemsettings"), QStringLiteral("xfce4-settings-manager")}, searchPath, {},
+                {});
     });
 }
 
@@ -56,6 +57,14 @@ void LinuxWorkspace::showFolder(const QString &path)
                     });
 }
 
+void LinuxWorkspace::quickLook(const QString &path)
+{
+    workQueue_.post(WorkPriority::userInitiated,
+                    [path, bus = desktop_.bus, searchPath = desktop_.searchPath] {
+                        fileviewer::quickLook(path, bus, searchPath);
+                    });
+}
+
 void LinuxWorkspace::openTerminal(const QString &folder)
 {
     workQueue_.post(WorkPriority::userInitiated, [folder, searchPath = desktop_.searchPath] {
@@ -64,21 +73,16 @@ void LinuxWorkspace::openTerminal(const QString &folder)
     });
 }
 
-void LinuxWorkspace::chooseFolder(const FolderRequest &request, FolderChosen chosen)
+void LinuxWorkspace::chooseFolder(const FolderRequest &request, PathChosen chosen)
 {
-    if (portal_) {
-        portal_->dismiss(); // two panels at a time would leave the user guessing what each is for
-        portal_->deleteLater();
-        portal_ = nullptr;
-    }
-    const auto fallBack = [this, request, chosen] { showFallbackPanel(request, chosen); };
-    if (!desktop_.bus.isConnected()) {
-        QMetaObject::invokeMethod(&context_, fallBack, Qt::QueuedConnection);
-        return;
-    }
-    portal_ = new FolderPortal(desktop_.bus, {std::move(chosen), fallBack});
-    portal_->setParent(&context_);
-    portal_->open(request);
+    const auto fallBack = [this, request, chosen] { desktop_.fallbackFolderPanel(request, chosen); };
+    showPanel(PanelPortal::requestFor(request), {std::move(chosen), fallBack});
+}
+
+void LinuxWorkspace::chooseSavePath(const SaveRequest &request, PathChosen chosen)
+{
+    const auto fallBack = [this, request, chosen] { desktop_.fallbackSavePanel(request, chosen); };
+    showPanel(PanelPortal::requestFor(request), {std::move(chosen), fallBack});
 }
 
 void LinuxWorkspace::copyText(const QString &text)
@@ -86,10 +90,18 @@ void LinuxWorkspace::copyText(const QString &text)
     QGuiApplication::clipboard()->setText(paths::display(text));
 }
 
-void LinuxWorkspace::showFallbackPanel(const FolderRequest &request, const FolderChosen &chosen)
+void LinuxWorkspace::showPanel(const PanelPortal::Request &request, PanelPortal::Answers answers)
 {
-    if (desktop_.fallbackPanel)
-        desktop_.fallbackPanel(request, chosen);
-    else
-        chosen(std::nullopt);
+    if (portal_) {
+        portal_->dismiss(); // two panels at a time would leave the user guessing what each is for
+        portal_->deleteLater();
+        portal_ = nullptr;
+    }
+    if (!desktop_.bus.isConnected()) {
+        QMetaObject::invokeMethod(&context_, answers.failed, Qt::QueuedConnection);
+        return;
+    }
+    portal_ = new PanelPortal(desktop_.bus, std::move(answers));
+    portal_->setParent(&context_);
+    portal_->open(request);
 }

@@ -8,7 +8,7 @@ namespace {
 struct Modifier
 {
     QChar sign;
-    const char *word;
+    const char *word = nullptr;
 };
 
 // In the order in which a chord names them: Ctrl first, Shift last.

@@ -7,5 +7,6 @@ Text {
     font.pixelSize: Theme.bodySize
     textFormat: Text.PlainText
     elide: Text.ElideRight
+    maximumLineCount: wrapMode === Text.NoWrap ? 1 : 100 // a name may hold line breaks, its row has one line
     verticalAlignment: Text.AlignVCenter
 }

@@ -19,6 +19,8 @@ namespace {
 
 const QString fileManager = u"org.freedesktop.FileManager1"_s;
 const QString fileManagerPath = u"/org/freedesktop/FileManager1"_s;
+const QString previewer = u"org.gnome.NautilusPreviewer"_s;
+const QString previewerPath = u"/org/gnome/NautilusPreviewer"_s;
 const QString portal = u"org.freedesktop.portal.Desktop"_s;
 const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 
@@ -90,6 +92,7 @@ TEST_F(LinuxWorkspaceOnDesktop, survivesADesktopWithoutAnyProgram)
     workspace().openAddress("https://example.org/");
     workspace().reveal(home("x"));
     workspace().showFolder(home());
+    workspace().quickLook(home("x"));
     workspace().openTerminal(home());
     ASSERT_TRUE(workQueue_.waitUntilIdle());
     addProgram(u"xdg-open"_s);
@@ -185,6 +188,49 @@ TEST_F(LinuxWorkspaceOnDesktop, showsFoldersByOpeningThemWithoutAFileManager)
     addProgram(u"xdg-open"_s);
     workspace().showFolder(home("a folder"));
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{addressOf("a folder")});
+}
+
+TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByThePreviewer)
+{
+    addProgram(u"xdg-open"_s);
+    StandInService service(bus_.connect(), previewer, previewerPath);
+    workspace().quickLook(home("line\nbreak \xFF %"));
+    EXPECT_TRUE(service.calls.empty())
+        << "It answers on this thread, so to wait for it here would never end.";
+    ASSERT_TRUE(waitUntil([&] { return !service.calls.empty(); }));
+    const QDBusMessage call = service.calls.first();
+    EXPECT_EQ(call.path(), previewerPath);
+    EXPECT_EQ(call.interface(), u"org.gnome.NautilusPreviewer2"_s);
+    EXPECT_EQ(call.member(), u"ShowFile"_s);
+    EXPECT_EQ(call.signature(), u"ssb"_s);
+    EXPECT_EQ(call.arguments().value(0).toString().toLatin1(), addressOf("line\nbreak \xFF %"));
+    EXPECT_EQ(call.arguments().value(1).toString(), QString());
+    EXPECT_EQ(call.arguments().value(2), QVariant(false)) << "It would close what is on view.";
+    EXPECT_TRUE(opensNothing());
+}
+
+TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByOpeningWithoutAPreviewer)
+{
+    addProgram(u"xdg-open"_s);
+    workspace().quickLook(home("a file"));
+    EXPECT_EQ(onlyStart().mid(2), QByteArrayList{addressOf("a file")});
+}
+
+TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByOpeningWhenThePreviewerRefuses)
+{
+    addProgram(u"xdg-open"_s);
+    StandInService service(bus_.connect(), previewer, previewerPath, refuse);
+    workspace().quickLook(home("a file"));
+    EXPECT_EQ(onlyStart().mid(2), QByteArrayList{addressOf("a file")});
+    EXPECT_EQ(service.calls.size(), 1);
+}
+
+TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByOpeningWithoutABus)
+{
+    hasBus_ = false;
+    addProgram(u"xdg-open"_s);
+    workspace().quickLook(home("a file"));
+    EXPECT_EQ(onlyStart().mid(2), QByteArrayList{addressOf("a file")});
 }
 
 TEST_F(LinuxWorkspaceOnDesktop, opensTheUsersTerminalInTheFolder)

@@ -20,10 +20,16 @@ LinuxWorkspace &WorkspaceFixture::workspace()
         LinuxDesktop desktop{
             .bus = hasBus_ ? bus_.connect() : PrivateBus::none(),
             .searchPath = {u"bin"_s, {}, scratch_.path(u"missing"_s), scratch_.path(u"bin"_s)},
-            .fallbackPanel = [this](const auto &request, const auto &chosen) {
-                panelRequests_.push_back(request);
-                chosen(u"/from the fallback"_s);
-            }};
+            .fallbackFolderPanel =
+                [this](const auto &request, const auto &chosen) {
+                    panelRequests_.push_back(request);
+                    chosen(u"/from the fallback"_s);
+                },
+            .fallbackSavePanel =
+                [this](const auto &request, const auto &chosen) {
+                    saveRequests_.push_back(request);
+                    chosen(u"/saved by the fallback"_s);
+                }};
         workspace_ = std::make_unique<LinuxWorkspace>(std::move(desktop), workQueue_);
     }
     return *workspace_;

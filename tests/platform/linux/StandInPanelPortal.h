@@ -9,11 +9,11 @@
 
 #include <optional>
 
-/// The desktop portal's folder panel. Each test decides when and how it answers.
-class FolderPanelPortal
+/// The desktop portal's panels. Each test decides when and how it answers.
+class StandInPanelPortal
 {
 public:
-    explicit FolderPanelPortal(const QDBusConnection &bus);
+    explicit StandInPanelPortal(const QDBusConnection &bus);
 
     /// The answer to the latest request, as the portal's own signal.
     void respond(uint code, const QStringList &addresses);

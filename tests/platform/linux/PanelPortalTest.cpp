@@ -1,6 +1,7 @@
-#include "platform/linux/FolderPortal.h"
+#include "platform/linux/PanelPortal.h"
 
-#include "FolderPanelPortal.h"
+#include "PanelAnswer.h"
+#include "StandInPanelPortal.h"
 #include "WaitUntil.h"
 #include "WorkspaceFixture.h"
 
@@ -14,31 +15,12 @@ class FolderPanel : public WorkspaceFixture
 {
 };
 
-/// What a folder panel answered.
-struct Answer
-{
-    int count = 0;
-    std::optional<QString> folder;
-
-    Workspace::FolderChosen taker()
-    {
-        return [this](const std::optional<QString> &chosen) {
-            ++count;
-            folder = chosen;
-        };
-    }
-    bool waitFor() const
-    {
-        return waitUntil([this] { return count > 0; });
-    }
-};
-
 } // namespace
 
 TEST_F(FolderPanel, asksThePortalForAFolder)
 {
-    FolderPanelPortal service(bus_.connect());
-    Answer answer;
+    StandInPanelPortal service(bus_.connect());
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose a folder"_s, home("start \xFF")}, answer.taker());
     ASSERT_TRUE(service.waitForRequest());
     const QDBusMessage call = service.calls().first();
@@ -55,14 +37,14 @@ TEST_F(FolderPanel, asksThePortalForAFolder)
     EXPECT_EQ(answer.count, 0);
     service.respond(0, {QString::fromLatin1(addressOf("line\nbreak \xFF 🗂"))});
     ASSERT_TRUE(answer.waitFor());
-    EXPECT_EQ(answer.folder, home("line\nbreak \xFF 🗂"));
+    EXPECT_EQ(answer.path, home("line\nbreak \xFF 🗂"));
     EXPECT_TRUE(panelRequests_.empty());
 }
 
 TEST_F(FolderPanel, leavesTheStartToTheDesktopWhenThereIsNone)
 {
-    FolderPanelPortal service(bus_.connect());
-    Answer answer;
+    StandInPanelPortal service(bus_.connect());
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
     ASSERT_TRUE(service.waitForRequest());
     EXPECT_FALSE(service.options.contains(u"current_folder"_s));
@@ -70,13 +52,13 @@ TEST_F(FolderPanel, leavesTheStartToTheDesktopWhenThereIsNone)
 
 TEST_F(FolderPanel, givesNoFolderWhenThePanelIsCancelled)
 {
-    FolderPanelPortal service(bus_.connect());
-    Answer answer;
+    StandInPanelPortal service(bus_.connect());
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
     ASSERT_TRUE(service.waitForRequest());
     service.respond(1, {});
     ASSERT_TRUE(answer.waitFor());
-    EXPECT_EQ(answer.folder, std::nullopt);
+    EXPECT_EQ(answer.path, std::nullopt);
     EXPECT_TRUE(panelRequests_.empty());
 }
 
@@ -84,32 +66,32 @@ TEST_F(FolderPanel, givesNoFolderForAnAnswerThatNamesNone)
 {
     for (const QStringList &addresses :
          {QStringList(), QStringList{u"https://example.org/x"_s}, QStringList{u""_s}}) {
-        FolderPanelPortal service(bus_.connect());
-        Answer answer;
+        StandInPanelPortal service(bus_.connect());
+        PanelAnswer answer;
         workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
         ASSERT_TRUE(service.waitForRequest());
         service.respond(0, addresses);
         ASSERT_TRUE(answer.waitFor());
-        EXPECT_EQ(answer.folder, std::nullopt);
+        EXPECT_EQ(answer.path, std::nullopt);
     }
 }
 
 TEST_F(FolderPanel, takesAnAnswerThatComesBeforeTheCallReturns)
 {
-    FolderPanelPortal service(bus_.connect());
+    StandInPanelPortal service(bus_.connect());
     service.immediateCode = 0;
-    Answer answer;
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
     EXPECT_EQ(answer.count, 0);
     ASSERT_TRUE(answer.waitFor());
-    EXPECT_EQ(answer.folder, u"/at once"_s);
+    EXPECT_EQ(answer.path, u"/at once"_s);
 }
 
 TEST_F(FolderPanel, followsAPortalThatNamesItsRequestItself)
 {
-    FolderPanelPortal service(bus_.connect());
+    StandInPanelPortal service(bus_.connect());
     service.namesItsOwnPath = true;
-    Answer answer;
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
     ASSERT_TRUE(service.waitForRequest());
     const bool isAnswered = waitUntil([&] { // until we listen there
@@ -117,17 +99,17 @@ TEST_F(FolderPanel, followsAPortalThatNamesItsRequestItself)
         return answer.count > 0;
     });
     ASSERT_TRUE(isAnswered);
-    EXPECT_EQ(answer.folder, u"/chosen"_s);
+    EXPECT_EQ(answer.path, u"/chosen"_s);
     EXPECT_EQ(answer.count, 1);
 }
 
 TEST_F(FolderPanel, showsTheFallbackPanelWithoutAPortal)
 {
-    Answer answer;
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, u"/start"_s}, answer.taker());
     EXPECT_EQ(answer.count, 0);
     ASSERT_TRUE(answer.waitFor());
-    EXPECT_EQ(answer.folder, u"/from the fallback"_s);
+    EXPECT_EQ(answer.path, u"/from the fallback"_s);
     ASSERT_EQ(panelRequests_.size(), 1U);
     EXPECT_EQ(panelRequests_[0].message, u"Choose"_s);
     EXPECT_EQ(panelRequests_[0].start, u"/start"_s);
@@ -136,40 +118,40 @@ TEST_F(FolderPanel, showsTheFallbackPanelWithoutAPortal)
 TEST_F(FolderPanel, showsTheFallbackPanelWithoutABus)
 {
     hasBus_ = false;
-    Answer answer;
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
     EXPECT_EQ(answer.count, 0) << "The answer comes in a later turn.";
     ASSERT_TRUE(answer.waitFor());
-    EXPECT_EQ(answer.folder, u"/from the fallback"_s);
+    EXPECT_EQ(answer.path, u"/from the fallback"_s);
 }
 
 TEST_F(FolderPanel, showsTheFallbackPanelWhenThePortalCantShowItsOwn)
 {
-    FolderPanelPortal service(bus_.connect());
+    StandInPanelPortal service(bus_.connect());
     service.immediateCode = 2;
-    Answer answer;
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
     ASSERT_TRUE(answer.waitFor());
-    EXPECT_EQ(answer.folder, u"/from the fallback"_s);
+    EXPECT_EQ(answer.path, u"/from the fallback"_s);
     EXPECT_EQ(panelRequests_.size(), 1U);
 }
 
 TEST_F(FolderPanel, givesNoFolderWhenThePortalEndsWithItsPanelOpen)
 {
-    auto service = std::make_unique<FolderPanelPortal>(bus_.connect());
-    Answer answer;
+    auto service = std::make_unique<StandInPanelPortal>(bus_.connect());
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
     ASSERT_TRUE(service->waitForRequest());
     service.reset();
     ASSERT_TRUE(answer.waitFor());
-    EXPECT_EQ(answer.folder, std::nullopt);
+    EXPECT_EQ(answer.path, std::nullopt);
 }
 
 TEST_F(FolderPanel, closesAnEarlierPanelForANewOne)
 {
-    FolderPanelPortal service(bus_.connect());
-    Answer first;
-    Answer second;
+    StandInPanelPortal service(bus_.connect());
+    PanelAnswer first;
+    PanelAnswer second;
     workspace().chooseFolder({u"First"_s, {}}, first.taker());
     ASSERT_TRUE(service.waitForRequest());
     const QString firstRequest = service.requestPath;
@@ -179,19 +161,19 @@ TEST_F(FolderPanel, closesAnEarlierPanelForANewOne)
     EXPECT_NE(service.requestPath, firstRequest);
     service.respond(0, {u"file:///second"_s});
     ASSERT_TRUE(second.waitFor());
-    EXPECT_EQ(second.folder, u"/second"_s);
+    EXPECT_EQ(second.path, u"/second"_s);
     EXPECT_EQ(first.count, 0);
 }
 
 TEST_F(FolderPanel, answersNobodyAfterItsEnd)
 {
-    FolderPanelPortal service(bus_.connect());
-    Answer answer;
+    StandInPanelPortal service(bus_.connect());
+    PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
     ASSERT_TRUE(service.waitForRequest());
     workspace_.reset();
     service.respond(0, {u"file:///late"_s});
-    Answer next; // travels behind the late answer
+    PanelAnswer next; // travels behind the late answer
     workspace().chooseFolder({u"Next"_s, {}}, next.taker());
     ASSERT_TRUE(waitUntil([&] { return service.title == u"Next"_s; }));
     EXPECT_EQ(answer.count, 0);

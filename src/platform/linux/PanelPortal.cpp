@@ -1,4 +1,4 @@
-#include "platform/linux/FolderPortal.h"
+#include "platform/linux/PanelPortal.h"
 
 #include "base/Paths.h"
 
@@ -16,7 +16,8 @@ const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request"
 
 // What a portal's Response carries.
 constexpr uint succeeded = 0;
-constexpr uint cancelled = 1; // by the user; 2 is every other end, such as a panel that couldn't be shown
+constexpr uint cancelled = 1; // by the user; 2 is every other end, such as a
+                              // panel that couldn't be shown
 
 /// A name for one request that no other program on the bus can guess.
 QString randomToken()
@@ -27,30 +28,28 @@ QString randomToken()
         .arg(random->generate64(), 16, 16, QChar(u'0'));
 }
 
-/// Where the portal puts the object of a request of ours, by its documentation: ":1.42" is "1_42" there.
+/// Where the portal puts the object of a request of ours, by its documentation:
+/// ":1.42" is "1_42" there.
 QString expectedPath(const QDBusConnection &bus, const QString &token)
 {
     const QString sender = bus.baseService().mid(1).replace(u'.', u'_');
     return objectPath + QStringLiteral("/request/") + sender + u'/' + token;
 }
 
-QVariantMap options(const Workspace::FolderRequest &request, const QString &token)
+/// The options of every panel that begins in the folder `start`; without it
+/// where the text is empty.
+QVariantMap commonOptions(const QString &start)
 {
-    QVariantMap options{
-        {QStringLiteral("handle_token"), token},
-        {QStringLiteral("directory"), true},
-        {QStringLiteral("multiple"), false},
-        {QStringLiteral("modal"), true},
-    };
-    if (!request.start.isEmpty())
+    QVariantMap options{{QStringLiteral("modal"), true}};
+    if (!start.isEmpty())
         options.insert(QStringLiteral("current_folder"),
-                       paths::toBytes(request.start) + '\0'); // the NUL is asked for
+                       paths::toBytes(start) + '\0'); // the NUL is asked for
     return options;
 }
 
 } // namespace
 
-FolderPortal::FolderPortal(QDBusConnection bus, Answers answers)
+PanelPortal::PanelPortal(QDBusConnection bus, Answers answers)
     : bus_(std::move(bus))
     , answers_(std::move(answers))
     , portal_(service, bus_, QDBusServiceWatcher::WatchForUnregistration)
@@ -59,16 +58,33 @@ FolderPortal::FolderPortal(QDBusConnection bus, Answers answers)
     connect(&portal_, &QDBusServiceWatcher::serviceUnregistered, this, [this] { finish(std::nullopt); });
 }
 
-void FolderPortal::open(const Workspace::FolderRequest &request)
+PanelPortal::Request PanelPortal::requestFor(const Workspace::FolderRequest &request)
+{
+    QVariantMap options = commonOptions(request.start);
+    options.insert(QStringLiteral("directory"), true);
+    options.insert(QStringLiteral("multiple"), false);
+    return {QStringLiteral("OpenFile"), paths::display(request.message), options};
+}
+
+PanelPortal::Request PanelPortal::requestFor(const Workspace::SaveRequest &request)
+{
+    QVariantMap options = commonOptions(request.start);
+    if (!request.suggestedName.isEmpty())
+        options.insert(QStringLiteral("current_name"), paths::display(request.suggestedName));
+    return {QStringLiteral("SaveFile"), paths::display(request.message), options};
+}
+
+void PanelPortal::open(const Request &request)
 {
     isOpen_ = true;
     const QString token = randomToken();
     listenAt(expectedPath(bus_, token)); // before the call, whose answer could come at once
-    QDBusMessage call = QDBusMessage::createMethodCall(service, objectPath,
-                                                       QStringLiteral("org.freedesktop.portal.FileChooser"),
-                                                       QStringLiteral("OpenFile"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        service, objectPath, QStringLiteral("org.freedesktop.portal.FileChooser"), request.method);
+    QVariantMap options = request.options;
+    options.insert(QStringLiteral("handle_token"), token);
     const QString noParentWindow = QStringLiteral("");
-    call.setArguments({noParentWindow, paths::display(request.message), options(request, token)});
+    call.setArguments({noParentWindow, request.title, options});
     const auto *watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *finished) {
         finished->deleteLater();
@@ -76,7 +92,7 @@ void FolderPortal::open(const Workspace::FolderRequest &request)
     });
 }
 
-void FolderPortal::dismiss()
+void PanelPortal::dismiss()
 {
     if (!std::exchange(isOpen_, false))
         return;
@@ -85,29 +101,30 @@ void FolderPortal::dismiss()
     bus_.send(close); // nobody waits for its answer
 }
 
-void FolderPortal::respond(uint code, const QVariantMap &results)
+void PanelPortal::respond(uint code, const QVariantMap &results)
 {
     if (code == cancelled) {
         finish(std::nullopt);
         return;
     }
     const QStringList addresses = results.value(QStringLiteral("uris")).toStringList();
-    const QString folder = addresses.isEmpty() ? QString() : paths::fromFileUrl(addresses.first().toUtf8());
+    const QString path = addresses.isEmpty() ? QString() : paths::fromFileUrl(addresses.first().toUtf8());
     if (code != succeeded)
         fail();
     else
-        finish(folder.isEmpty() ? std::nullopt : std::optional(folder));
+        finish(path.isEmpty() ? std::nullopt : std::optional(path));
 }
 
-void FolderPortal::listenAt(const QString &requestPath)
+void PanelPortal::listenAt(const QString &requestPath)
 {
     requestPath_ = requestPath;
-    // From any sender: naming the portal here would make Qt ask who that is and wait. The path can't be guessed.
+    // From any sender: naming the portal here would make Qt ask who that is and
+    // wait. The path can't be guessed.
     bus_.connect(QString(), requestPath, requestInterface, QStringLiteral("Response"), this,
                  SLOT(respond(uint, QVariantMap)));
 }
 
-void FolderPortal::takeReply(const QDBusMessage &reply)
+void PanelPortal::takeReply(const QDBusMessage &reply)
 {
     if (reply.type() != QDBusMessage::ReplyMessage) {
         fail();
@@ -119,13 +136,13 @@ void FolderPortal::takeReply(const QDBusMessage &reply)
         listenAt(path);
 }
 
-void FolderPortal::finish(const std::optional<QString> &folder)
+void PanelPortal::finish(const std::optional<QString> &path)
 {
     if (std::exchange(isOpen_, false))
-        answers_.chosen(folder);
+        answers_.chosen(path);
 }
 
-void FolderPortal::fail()
+void PanelPortal::fail()
 {
     if (std::exchange(isOpen_, false))
         answers_.failed();

@@ -1,4 +1,4 @@
-#include "FolderPanelPortal.h"
+#include "StandInPanelPortal.h"
 
 #include "WaitUntil.h"
 
@@ -13,14 +13,14 @@ const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 
 } // namespace
 
-FolderPanelPortal::FolderPanelPortal(const QDBusConnection &bus)
+StandInPanelPortal::StandInPanelPortal(const QDBusConnection &bus)
     : bus_(bus)
     , service_(bus, u"org.freedesktop.portal.Desktop"_s, portalPath,
                [this](const QDBusMessage &call) { return take(call); })
 {
 }
 
-void FolderPanelPortal::respond(uint code, const QStringList &addresses)
+void StandInPanelPortal::respond(uint code, const QStringList &addresses)
 {
     QDBusMessage signal =
         QDBusMessage::createSignal(requestPath, u"org.freedesktop.portal.Request"_s, u"Response"_s);
@@ -28,12 +28,12 @@ void FolderPanelPortal::respond(uint code, const QStringList &addresses)
     bus_.send(signal);
 }
 
-bool FolderPanelPortal::waitForRequest() const
+bool StandInPanelPortal::waitForRequest() const
 {
     return waitUntil([this] { return !requestPath.isEmpty(); });
 }
 
-QDBusMessage FolderPanelPortal::take(const QDBusMessage &call)
+QDBusMessage StandInPanelPortal::take(const QDBusMessage &call)
 {
     if (call.member() == u"Close") {
         closed.append(call.path());

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Benchmark.h"
+
+#include <vector>
+
+/// The groups of benchmarks, a source file each.
+namespace benchmarks {
+
+std::vector<Benchmark> ofScans();   ///< tree scans and size probes against the bare runs of `du`
+std::vector<Benchmark> ofTreemap(); ///< the map's layout against one sort
+std::vector<Benchmark> ofWindow();  ///< start, main loop and memory of the running program
+
+} // namespace benchmarks

@@ -1,0 +1,145 @@
+#include "Benchmarks.h"
+#include "Measurement.h"
+#include "TemporaryFolder.h"
+#include "TreeGenerator.h"
+#include "WindowProcess.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <map>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+constexpr double mostStart = 2.5;     // times the empty window
+constexpr double longestTurn = 4;     // milliseconds
+constexpr double longestCancel = 100; // milliseconds
+constexpr double mostMemory = 50;     // MiB above the empty window
+constexpr int manyFiles = 200000;
+constexpr size_t runs = 5;
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+/// The cost of a start that ends at the first frame.
+WindowProcess::Cost start(const std::string &program, WindowProcess::Environment environment)
+{
+    environment["QT_QPA_GENERIC_PLUGINS"] = "firstframe:exit";
+    WindowProcess process({program}, environment);
+    process.awaitReady();
+    return process.finish();
+}
+
+void startToFirstFrame()
+{
+    const TemporaryFolder folder;
+    const auto environment = WindowProcess::environment(folder.folder("home"), folder.folder("runtime"));
+    std::array<std::vector<double>, 4> figures; // CPU and wall time of ours, then of the empty window
+    for (size_t i = 0; i <= runs; ++i) {
+        const auto ours = start(QUILLMERE_PROGRAM, environment);
+        const auto peers = start(EMPTY_WINDOW_PROGRAM, environment);
+        if (i == 0) // the first ones warm the caches
+            continue;
+        figures[0].push_back(ours.cpu);
+        figures[1].push_back(ours.wall);
+        figures[2].push_back(peers.cpu);
+        figures[3].push_back(peers.wall);
+    }
+    measurement::printRatio("start-cpu", {median(figures[0]), median(figures[2])}, mostStart, "ms",
+                            "empty window");
+    measurement::printRatio("start-wall", {median(figures[1]), median(figures[3])}, mostStart, "ms",
+                            "empty window");
+}
+
+/// The home folder with many files, made at its first use and kept for all benchmarks of a run.
+const std::string &largeHome()
+{
+    static const TemporaryFolder folder;
+    static const std::string home = [] {
+        std::string path = folder.folder("home");
+        generateTree(path, {.files = manyFiles});
+        return path;
+    }();
+    return home;
+}
+
+/// The values behind the names in the lines "name value".
+std::map<std::string, double> values(const std::vector<std::string> &lines)
+{
+    std::map<std::string, double> result;
+    for (const std::string &line : lines) {
+        const size_t space = line.find(' ');
+        if (space != std::string::npos)
+            result[line.substr(0, space)] = std::stod(line.substr(space));
+    }
+    return result;
+}
+
+void mainLoop()
+{
+    const TemporaryFolder runtime;
+    const auto environment = WindowProcess::environment(largeHome(), runtime.path());
+    std::map<std::string, std::vector<double>> figures;
+    for (size_t i = 0; i <= runs; ++i) {
+        WindowProcess process({SCAN_WINDOW_PROGRAM}, environment);
+        for (const auto &[name, value] : values(process.awaitReady())) {
+            if (i > 0)
+                figures[name].push_back(value * 1000);
+        }
+    }
+    measurement::printFigure("scan-turn", median(figures.at("turn")), longestTurn, "ms",
+                             "CPU time of our blocks in the longest turn, 200,000 files");
+    measurement::printFigure("scan-cancel", median(figures.at("cancel")), longestCancel, "ms",
+                             "from a cancel to the frame that shows it");
+    measurement::printFigure("scan-children", median(figures.at("childless")), longestCancel, "ms",
+                             "from a cancel to the last child process's end");
+}
+
+/// Waits until the window is at rest, then asks.
+WindowProcess::Memory restingMemory(WindowProcess &process)
+{
+    process.awaitReady();
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    return process.memory();
+}
+
+void memory()
+{
+    const TemporaryFolder runtime;
+    const auto environment = WindowProcess::environment(largeHome(), runtime.path());
+    auto emptyEnvironment = environment;
+    emptyEnvironment["QT_QPA_GENERIC_PLUGINS"] = "firstframe";
+    std::vector<double> resident;
+    std::vector<double> own;
+    double lastEmpty = 0;
+    for (size_t i = 0; i < runs; ++i) {
+        WindowProcess ours({SCAN_WINDOW_PROGRAM, "--scan-only"}, environment);
+        WindowProcess empty({EMPTY_WINDOW_PROGRAM}, emptyEnvironment);
+        const auto ourMemory = restingMemory(ours);
+        const auto emptyMemory = restingMemory(empty);
+        resident.push_back(ourMemory.resident - emptyMemory.resident);
+        own.push_back(ourMemory.own - emptyMemory.own);
+        lastEmpty = emptyMemory.resident;
+    }
+    const std::string note = "resident, above the empty window's "
+                             + std::to_string(static_cast<int>(lastEmpty))
+                             + " MiB; of it shared with no other process "
+                             + std::to_string(static_cast<int>(median(own))) + " MiB";
+    measurement::printFigure("memory", median(resident), mostMemory, "MiB", note);
+}
+
+} // namespace
+
+std::vector<Benchmark> benchmarks::ofWindow()
+{
+    return {
+        {"start", "start to the first painted frame against an empty window", startToFirstFrame},
+        {"main-loop", "our handlers during a scan of 200,000 files, and its cancel", mainLoop},
+        {"memory", "memory on the Disk Analyzer with 200,000 files against an empty window", memory},
+    };
+}

@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// What a Tip shows.
+Item {
+    id: holder
+
+    readonly property Tip tip: parent as Tip
+
+    T.ToolTip {
+        id: popup
+
+        parent: holder.tip.control
+        visible: true
+        delay: 600
+        text: holder.tip.text
+        x: Math.round((parent.width - width) / 2)
+        y: parent.height + Theme.unit
+        margins: Theme.unit * 2
+        padding: Theme.unit * 2
+        implicitWidth: Math.min(implicitContentWidth, 360) + leftPadding + rightPadding
+        implicitHeight: implicitContentHeight + topPadding + bottomPadding
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+
+        contentItem: BodyText {
+            text: popup.text
+            font.pixelSize: Theme.smallSize
+            wrapMode: Text.Wrap
+            elide: Text.ElideNone
+        }
+        background: Rectangle {
+            color: Theme.raised
+            radius: Theme.controlRadius
+            border.color: Theme.line
+        }
+    }
+}

@@ -1,0 +1,79 @@
+import QtQuick
+import QtTest
+import Quillmere.Screens
+
+// What the tests of the Disk Analyzer share. Each begins at the top of the finished tree of the home folder.
+ScreenCase {
+    id: base
+
+    readonly property string home: Program.at("home")
+
+    function init() {
+        clearAway();
+        Program.userWillCancel();
+        open("Dashboard");
+        open("Disk Analyzer");
+        waitForScan();
+        if (location() !== home)
+            analyze(home);
+        restPointer();
+        Program.forget();
+    }
+
+    // The path of the entry on view, as the tooltip of the Home button tells it.
+    function location() {
+        return Program.named("homeButton").tip;
+    }
+
+    function waitForScan() {
+        tryVerify(() => !Program.isScanning() && location() !== "", patience, "the scan has ended");
+        Program.settle();
+    }
+
+    // Changes to another folder, by the button and the panel.
+    function analyze(folder) {
+        verify(location() !== folder);
+        Program.userWillChoose(folder);
+        click("Change Folder");
+        Program.userWillCancel();
+        tryVerify(() => !Program.isScanning() && location() === folder, patience, `${folder} is on view`);
+        Program.settle();
+    }
+
+    // Starts a scan of the home folder whose first probe waits until `releaseProbes`.
+    function holdScan() {
+        Program.holdProbes();
+        click("Rescan");
+        tryVerify(() => Program.probeCount() === 1, patience, "a probe is at work");
+    }
+
+    function table() {
+        return Program.named("contentsList");
+    }
+
+    function row(name) {
+        return Program.itemWith("entryName", table(), name);
+    }
+
+    function map() {
+        return Program.named("treemap");
+    }
+
+    function tile(name) {
+        const found = Program.itemWith("tileName", map(), name);
+        verify(found, `there is a tile ${name}`);
+        return found;
+    }
+
+    // Goes into a folder by its row of the table.
+    function drill(name, items) {
+        click(name, table());
+        tryVerify(() => Program.texts(Program.named("breadcrumbList")).endsWith(name), patience, `${name} is on view`);
+        find(`CONTENTS (${items} items)`);
+    }
+
+    function breadcrumbs() {
+        Program.settle();
+        return Program.texts(Program.named("breadcrumbList")).split("\n").filter(name => name !== "");
+    }
+}

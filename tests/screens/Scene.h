@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QQuickItem;
+
+/// What a person sees of a Qt Quick scene: items that are visible, not faded out and not clipped away.
+namespace scene {
+
+using Condition = std::function<bool(QQuickItem *item)>;
+
+/// The items on view at and below `root` that fulfil the condition, parents first.
+std::vector<QQuickItem *> items(QQuickItem *root, const Condition &condition);
+
+/// The first of them; null for none.
+QQuickItem *item(QQuickItem *root, const Condition &condition);
+
+/// True for a text that is words, not a symbol.
+bool isText(const QQuickItem *item);
+
+/// The texts on view, in reading order.
+std::vector<QQuickItem *> texts(QQuickItem *root);
+
+} // namespace scene

@@ -1,0 +1,171 @@
+import QtQuick
+import QtTest
+import Quillmere.Screens
+
+// The Disk Analyzer's scan: its start, its progress, its cancel, its age, and another folder.
+AnalyzerCase {
+    name: "DiskAnalyzer"
+
+    function test_scansHomeOnAppearing() {
+        compare(location(), home);
+        find("CONTENTS (6 items)");
+        find("VISUAL MAP");
+        verify(Program.texts(screen()).includes("6 items · 14 MB"));
+        compare(Program.texts(screen()).split("\n").slice(0, 4).join("|"),
+                "Disk Analyzer|Cached · just now|Change Folder|Rescan");
+        Program.picture("analyzer");
+    }
+
+    function test_keepsFreshTreeWhenScreenComesBack() {
+        Program.pass(120);
+        open("Cleanup");
+        Program.holdProbes();
+        open("Disk Analyzer");
+        find("Cached · 2 min ago");
+        find("CONTENTS (6 items)");
+        compare(Program.probeCount(), 0);
+        Program.releaseProbes();
+        click("Rescan");
+        find("Cached · just now");
+    }
+
+    function test_scansAgainWhenTreeIsStale() {
+        Program.pass(301);
+        open("Cleanup");
+        Program.holdProbes();
+        open("Disk Analyzer");
+        tryVerify(() => Program.probeCount() === 1, patience, "a scan has begun");
+        Program.releaseProbes();
+        find("Cached · just now");
+    }
+
+    function test_pillTellsItsAge() {
+        click("Rescan");
+        mouseMove(find("Cached · just now"));
+        find("Last scanned just now. Auto-refresh in 5 min 0 sec, or click Refresh to update now.");
+        Program.picture("pill-tip");
+        restPointer();
+        tryGone("Last scanned just now. Auto-refresh in 5 min 0 sec, or click Refresh to update now.");
+    }
+
+    function test_showsProgressInPlaceOfTheOldTree() {
+        holdScan();
+        find("Analyzing disk usage...");
+        find(`Scanning ${home}`);
+        find("Scanning...");
+        verify(!Program.textItem("VISUAL MAP"));
+        verify(!Program.textItem("Cached · just now"));
+        verify(!Program.named("homeButton").enabled);
+        Program.picture("analyzer-scanning");
+        Program.releaseProbes();
+        find("CONTENTS (6 items)");
+        tryGone("Scanning...");
+        tryGone("Analyzing disk usage...");
+    }
+
+    function test_rescanDoesNothingDuringScan() {
+        holdScan();
+        click("Rescan");
+        press(Qt.Key_R, Qt.ControlModifier);
+        compare(Program.probeCount(), 1);
+        Program.releaseProbes();
+        find("CONTENTS (6 items)");
+        verify(!Program.isScanning());
+    }
+
+    function test_cancelShowsWhatWasMeasured() {
+        holdScan();
+        mouseMove(Program.named("cancelButton"));
+        find("Stop scanning");
+        click("Cancel");
+        tryGone("Scanning...");
+        find("CONTENTS (6 items)");
+        find("Cached · just now");
+        compare(Program.probeCount(), 0);
+        verify(row("notes.txt"));
+        drill("Documents", 2);
+        compare(row("Invoices").sizeText, "0 B");
+        compare(row("thesis.pdf").sizeText, "3.0 MB");
+        Program.releaseProbes();
+        // What is there counts as the result until somebody asks for another.
+        open("Cleanup");
+        open("Disk Analyzer");
+        find("CONTENTS (6 items)");
+        click("Rescan");
+        waitForScan();
+        drill("Documents", 2);
+        verify(row("Invoices").sizeText !== "0 B");
+    }
+
+    function test_cancelsByKeyboard() {
+        holdScan();
+        tabTo("the Cancel button", item => item === Program.named("cancelButton"));
+        press(Qt.Key_Return);
+        find("CONTENTS (6 items)");
+        compare(Program.probeCount(), 0);
+        tabTo("the Rescan button", item => item === Program.named("rescanButton"));
+    }
+
+    function test_refreshKeyIsTheScreensOwn() {
+        drill("Movies", 2);
+        Program.holdProbes();
+        press(Qt.Key_R, Qt.ControlModifier);
+        tryVerify(() => Program.probeCount() === 1, patience, "a scan has begun");
+        compare(Program.posted(), "");
+        Program.releaseProbes();
+        find("CONTENTS (6 items)");
+        compare(breadcrumbs(), []);
+    }
+
+    function test_refreshLineOfTheMenuRefreshesTheWidgetOnly() {
+        choose("Tools", "Refresh Current View");
+        compare(Program.posted(), "Quillmere.rescan");
+        verify(!Program.isScanning());
+    }
+
+    function test_rescanGoesBackToTheTop() {
+        drill("Movies", 2);
+        click("Rescan");
+        find("CONTENTS (6 items)");
+        compare(breadcrumbs(), []);
+    }
+
+    function test_changesToChosenFolder() {
+        drill("Movies", 2);
+        Program.userWillChoose(Program.at("home/Documents"));
+        click("Change Folder");
+        compare(Program.folderMessage(), "Choose a folder to analyze");
+        compare(Program.folderStart(), home);
+        tryVerify(() => location() === Program.at("home/Documents"), patience, "the folder is on view");
+        find("CONTENTS (2 items)");
+        compare(breadcrumbs(), []);
+        // The choice outlives the screen.
+        open("Cleanup");
+        open("Disk Analyzer");
+        compare(location(), Program.at("home/Documents"));
+    }
+
+    function test_staysWherePanelIsCancelled() {
+        drill("Movies", 2);
+        Program.userWillCancel();
+        click("Change Folder");
+        compare(Program.folderMessage(), "Choose a folder to analyze");
+        compare(location(), Program.at("home/Movies"));
+        compare(breadcrumbs(), ["Movies"]);
+        verify(!Program.isScanning());
+    }
+
+    function test_showsEmptyFolder() {
+        analyze(Program.at("hollow"));
+        find("CONTENTS (0 items)");
+        find("0 items · 0 B");
+        compare(Program.texts(screen()).split("\n").filter(text => text === "Empty directory").length, 2);
+        Program.picture("analyzer-empty");
+    }
+
+    function test_lightDesktopReachesTheScreen() {
+        Program.setDark(false);
+        compare(String(find("VISUAL MAP").color), "#59636e");
+        Program.picture("analyzer-light");
+    }
+}

@@ -1,0 +1,102 @@
+import QtQuick
+import QtTest
+import Quillmere.Screens
+
+// The Disk Analyzer over names that other programs stumble on: shown as they are, or as near as letters come, and
+// handed on with the right bytes.
+AnalyzerCase {
+    name: "HostileNames"
+
+    readonly property string odd: Program.at("odd")
+
+    function names() {
+        return [
+            { tag: "newline", shown: "line\nbreak", bytes: "line%0Abreak", size: "9.0 MB", items: 1 },
+            { tag: "markup", shown: "\"quoted\" & <b>bold", bytes: "%22quoted%22%20%26%20%3Cb%3Ebold",
+              size: "8.0 MB", items: 1 },
+            { tag: "emoji", shown: "emoji \u{1F980}", bytes: "emoji%20%F0%9F%A6%80", size: "7.0 MB", items: 1 },
+            { tag: "255 bytes", shown: "w".repeat(255), bytes: "w".repeat(255), size: "6.0 MB", items: 1 },
+            { tag: "invalid UTF-8", shown: "bytes \uFFFD\uFFFD", bytes: "bytes%20%FF%FE", size: "6.0 MB", items: 2 },
+        ];
+    }
+
+    function showOdd() {
+        analyze(odd);
+        find("CONTENTS (7 items)");
+    }
+
+    // The menu of the row, and the line chosen from it.
+    function chooseForRow(name, line) {
+        mouseClick(row(name), row(name).width / 3, row(name).height / 2, Qt.RightButton);
+        tryVerify(() => Program.menuLines() !== "", patience, "the menu of the row opens");
+        click(line, Program.itemWith("isDivider").parent);
+        tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
+    }
+
+    function test_showsName_data() {
+        return names();
+    }
+
+    function test_showsName(data) {
+        showOdd();
+        verify(row(data.shown));
+        compare(row(data.shown).height, row("loop").height);
+        compare(row(data.shown).sizeText, data.size);
+        const label = Program.textItem(data.shown, table());
+        verify(label.mapToItem(table(), label.width, 0).x < table().width);
+        compare(label.lineCount, 1);
+        compare(Program.textItem(data.shown, map()).lineCount, 1);
+        Program.picture("hostile");
+    }
+
+    function test_goesInAndHandsOnTheBytes_data() {
+        return names();
+    }
+
+    function test_goesInAndHandsOnTheBytes(data) {
+        showOdd();
+        chooseForRow(data.shown, "Reveal in Finder");
+        compare(Program.encoded(Program.calls().replace(/^reveal /, "")), `${odd}/${data.bytes}`);
+        chooseForRow(data.shown, "Copy Path");
+        compare(Program.encoded(Program.clipboard()), `${odd}/${data.bytes}`);
+        drill(data.shown, data.items);
+        compare(Program.texts(Program.named("breadcrumbList")), data.shown);
+        verify(row("inside"));
+        Program.forget();
+        chooseForRow("inside", "Open");
+        compare(Program.encoded(Program.calls().replace(/^open /, "")), `${odd}/${data.bytes}/inside`);
+    }
+
+    function test_tileGoesIn_data() {
+        return names();
+    }
+
+    function test_tileGoesIn(data) {
+        showOdd();
+        clickOn(tile(data.shown));
+        find(`CONTENTS (${data.items} items)`);
+        click("Open in Finder");
+        compare(Program.encoded(Program.calls().replace(/^show /, "")), `${odd}/${data.bytes}`);
+    }
+
+    function test_fetchesDeeperLevel_data() {
+        return names();
+    }
+
+    // From one folder higher up the odd ones lie at the depth where `du` measures, and are listed when gone into.
+    function test_fetchesDeeperLevel(data) {
+        analyze(Program.at(""));
+        click("odd", table());
+        find("CONTENTS (7 items)");
+        drill(data.shown, data.items);
+        verify(row("inside"));
+    }
+
+    function test_brokenAndCircularLinksAreRowsOfTheirOwn() {
+        showOdd();
+        verify(!row("loop").isFolder);
+        verify(!row("nowhere").isFolder);
+        click("loop", table());
+        compare(Program.texts(Program.named("breadcrumbList")), "");
+    }
+}

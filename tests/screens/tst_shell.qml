@@ -1,0 +1,124 @@
+import QtQuick
+import QtTest
+import Quillmere.Screens
+
+// The window around the screens: sidebar, title bar, disk widget, and the screens that are still to come.
+ScreenCase {
+    name: "Shell"
+
+    function test_startsOnTheDashboard() {
+        compare(Program.firstScreen(), "Dashboard");
+    }
+
+    function test_windowHasItsSizes() {
+        compare(Program.window.title, "Quillmere");
+        compare(Program.window.width, 1280);
+        compare(Program.window.height, 800);
+        compare(Program.window.minimumWidth, 1100);
+        compare(Program.window.minimumHeight, 700);
+    }
+
+    function test_sidebarShowsNineScreensInThreeSections() {
+        compare(Program.texts(sidebar()),
+                "NAVIGATION\nDashboard\nFile Browser\nSearch\n"
+                + "TOOLS\nDisk Analyzer\nDuplicates\n1,247\nBulk Rename\nCleanup\nOrganizer\n"
+                + "APPS\nApp Manager");
+    }
+
+    function screens() {
+        return ["Dashboard", "File Browser", "Search", "Disk Analyzer", "Duplicates", "Bulk Rename", "Cleanup",
+                "Organizer", "App Manager"].map(title => ({ tag: title }));
+    }
+
+    function test_clickSelects_data() {
+        return screens();
+    }
+
+    function test_clickSelects(row) {
+        open(row.tag === "Search" ? "Dashboard" : "Search");
+        open(row.tag);
+        find(row.tag, screen());
+        verify(sidebarRow(row.tag).isSelected);
+        compare(["Dashboard", "Search", "Cleanup"].filter(title => sidebarRow(title).isSelected),
+                ["Dashboard", "Search", "Cleanup"].filter(title => title === row.tag));
+    }
+
+    function sidebarRow(title) {
+        return Program.itemWith("itemTitle", sidebar(), title);
+    }
+
+    function test_keyboardSelects_data() {
+        return screens();
+    }
+
+    function test_keyboardSelects(row) {
+        open(row.tag === "Search" ? "Dashboard" : "Search");
+        tabTo(row.tag, item => item.itemTitle === row.tag);
+        verify(focusItem().visualFocus);
+        press(Qt.Key_Return);
+        compare(Program.selectedScreen(), row.tag);
+    }
+
+    function test_keysSelect_data() {
+        return [
+            { tag: "Dashboard", key: Qt.Key_1 },
+            { tag: "File Browser", key: Qt.Key_2 },
+            { tag: "Search", key: Qt.Key_3 },
+            { tag: "Disk Analyzer", key: Qt.Key_4 },
+            { tag: "Duplicates", key: Qt.Key_5 },
+        ];
+    }
+
+    function test_keysSelect(row) {
+        open("Organizer");
+        press(row.key, Qt.ControlModifier);
+        compare(Program.selectedScreen(), row.tag);
+        find(row.tag, screen());
+    }
+
+    function test_searchOpensByKeyAndByPill() {
+        open("Cleanup");
+        press(Qt.Key_K, Qt.ControlModifier);
+        compare(Program.selectedScreen(), "Search");
+        open("Cleanup");
+        const pill = Program.named("searchPill");
+        compare(Program.texts(pill), "Search files...\nCtrl+K");
+        clickOn(pill);
+        compare(Program.selectedScreen(), "Search");
+        open("Cleanup");
+        tabTo("the search pill", item => item === pill);
+        press(Qt.Key_Return);
+        compare(Program.selectedScreen(), "Search");
+    }
+
+    function test_searchPillTellsItsKey() {
+        mouseMove(Program.named("searchPill"));
+        find("Open Search (Ctrl+K)");
+        restPointer();
+        tryGone("Open Search (Ctrl+K)");
+    }
+
+    function test_upcomingScreenPretendsNothing_data() {
+        return screens().filter(row => row.tag !== "Disk Analyzer");
+    }
+
+    function test_upcomingScreenPretendsNothing(row) {
+        open(row.tag);
+        find(row.tag, screen());
+        const lines = Program.texts(screen()).split("\n");
+        compare(lines.length, 2);
+        compare(lines[0], row.tag);
+        verify(lines[1].includes(" will "), lines[1]);
+        compare(Program.controlCount(screen()), 0);
+    }
+
+    function test_lightDesktopGivesLightWindow() {
+        compare(String(Program.window.color), "#0d1117");
+        compare(String(find("Dashboard", sidebar()).color), "#e6edf3");
+        Program.setDark(false);
+        compare(String(Program.window.color), "#ffffff");
+        compare(String(find("Dashboard", sidebar()).color), "#1f2328");
+        Program.setDark(true);
+        compare(String(Program.window.color), "#0d1117");
+    }
+}
