@@ -61,6 +61,10 @@ FocusScope {
                 currentIndex = 0;
         }
 
+        function goToTop() {
+            currentIndex = -1;
+            contentY = 0;
+        }
         function take(index) {
             currentIndex = index;
             forceActiveFocus();
@@ -80,6 +84,12 @@ FocusScope {
             onRevealed: card.view.revealRow(index)
             onMenuRequested: menu.openAt(index, null)
             onPressed: list.take(index)
+        }
+    }
+    Connections {
+        target: card.view
+        function onEntryWillChange() {
+            list.goToTop();
         }
     }
     ContentsMenu {

@@ -339,7 +339,10 @@ void DiskAnalyzerView::showCurrentEntry()
         const Entry childEntry = childOf(entry, i);
         rows.push_back({childEntry, analyzer::share(childEntry->size, entry->size)});
     }
-    contentRows_.reset(std::move(rows));
+    emit entryWillChange();
+    // Rows that go and come let the view make the new ones while it prepares its next picture; a reset makes it do so
+    // here, inside our own turn of the main loop.
+    contentRows_.update(std::move(rows), [](const Row &, const Row &) { return false; });
     breadcrumbRows_.update(breadcrumb_, [](const Entry &left, const Entry &right) { return left == right; });
     treemap_.setCategories(entry && entry->children ? analyzer::mapCategories(*entry)
                                                     : std::vector<StorageCategory>());

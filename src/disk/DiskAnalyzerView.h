@@ -113,6 +113,7 @@ signals:
     void scanChanged();
     void contentChanged();
     void pillChanged();
+    void entryWillChange(); ///< the table is about to show another entry, from its top
 
 private:
     struct Row
