@@ -7,6 +7,8 @@
 
 #include <QScopeGuard>
 
+#include <gtest/gtest.h>
+
 namespace {
 
 const QString duplicates = QStringLiteral("Duplicate Finder");

@@ -308,13 +308,13 @@ TEST(ChildProcess, inheritsNoDescriptorOfOurs)
 {
     const std::set<int> inherited = inheritedDescriptors();
     const TempHome temp;
-    const int open_ = open(paths::toBytes(temp.path()).constData(), O_RDONLY | O_CLOEXEC);
+    const int openNumbers = open(paths::toBytes(temp.path()).constData(), O_RDONLY | O_CLOEXEC);
     ChildProcess other(endless, endlessArguments);
     other.launch(); // its pipe is open on our side
     ChildProcess process(u"/bin/ls"_s, {u"-l"_s, u"/proc/self/fd"_s});
     process.launch();
     process.waitUntilExit();
-    close(open_);
+    close(openNumbers);
     std::set<int> seen;
     const QList<QByteArray> lines = process.readToEnd().split('\n');
     for (const QByteArray &line : lines) {

@@ -6,6 +6,8 @@
 
 #include <filesystem>
 
+#include <gtest/gtest.h>
+
 namespace {
 
 /// The Disk Analyzer's Move to Trash, over a scanned home with a folder and a file.

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 // How a failure shows a rectangle.
+// NOLINTNEXTLINE(readability-identifier-naming): the test library calls it by this name
 void PrintTo(const QRectF &rect, std::ostream *stream)
 {
     *stream << '(' << rect.x() << ", " << rect.y() << ", " << rect.width() << ", " << rect.height() << ')';

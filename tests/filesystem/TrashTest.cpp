@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <thread>
 
+#include <gtest/gtest.h>
+
 namespace {
 
 using Paths = QStringList;
@@ -140,7 +142,7 @@ TEST_F(TrashTest, onTheMainThreadTimersAndPostedBlocksRunWhileItWaits)
     int timers = 0;
     int blocks = 0;
     Recycler::Completion answer;
-    std::thread service_;
+    std::thread serviceThread;
     test.recycler.answers = [&](const Paths &, Recycler::Completion done) { answer = std::move(done); };
     QObject context;
     QMetaObject::invokeMethod(
@@ -148,10 +150,10 @@ TEST_F(TrashTest, onTheMainThreadTimersAndPostedBlocksRunWhileItWaits)
     QTimer::singleShot(0, &context, [&] {
         ++timers;
         removeFile(path);
-        service_ = std::thread([answer] { answer({}); }); // the answer comes on a thread of its own
+        serviceThread = std::thread([answer] { answer({}); }); // the answer comes on a thread of its own
     });
     EXPECT_FALSE(trashError());
-    service_.join();
+    serviceThread.join();
     EXPECT_EQ(timers, 1);
     EXPECT_EQ(blocks, 1);
 }
@@ -162,9 +164,9 @@ TEST_F(TrashTest, mayBeEnteredAgainWhileItWaits)
     std::vector<std::pair<QString, Recycler::Completion>> asked;
     std::vector<std::thread> answers;
     const auto answerLast = [&] {
-        const auto [asked_, done] = asked.back();
+        const auto [askedFor, done] = asked.back();
         asked.pop_back();
-        removeFile(asked_);
+        removeFile(askedFor);
         answers.emplace_back([done = done] { done({}); });
     };
     test.recycler.answers = [&](const Paths &paths, Recycler::Completion done) {

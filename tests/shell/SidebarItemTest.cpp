@@ -1,5 +1,7 @@
 #include "shell/SidebarItem.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -108,7 +108,7 @@ public:
     {
         askedHours = hours;
         if (failure)
-            throw *failure;
+            throw Error(*failure);
         return recent;
     }
 };

@@ -11,6 +11,7 @@ struct NamedBytes
     QByteArray bytes;
 };
 
+// NOLINTNEXTLINE(readability-identifier-naming): the test library calls it by this name
 inline void PrintTo(const NamedBytes &name, std::ostream *stream)
 {
     *stream << name.word;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
 
@@ -9,7 +10,7 @@
 /// stacks, which GLib's functions are built without the means to give quickly. The names are in
 /// support/lsan.supp.
 extern "C" const char *
-__asan_default_options() // NOLINT(bugprone-reserved-identifier): the sanitizer's own name
+__asan_default_options() // NOLINT(bugprone-reserved-identifier,readability-identifier-naming): the sanitizer's own name
 {
     return "fast_unwind_on_malloc=0";
 }

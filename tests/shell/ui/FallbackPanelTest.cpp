@@ -32,6 +32,13 @@ QQuickItem *findVisible(QQuickItem *item, const std::function<bool(QQuickItem *)
 /// The toolkit's own dialogs, in a window that nobody sees.
 class FallbackPanelTest : public ::testing::Test
 {
+public:
+    ~FallbackPanelTest() override
+    {
+        panel_.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // dialogs before their engine
+    }
+
 protected:
     static void SetUpTestSuite() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
 
@@ -44,12 +51,6 @@ protected:
         panel_ = std::make_unique<FallbackPanel>();
         panel_->attach(engine_, *window_, home_.path());
     }
-    ~FallbackPanelTest() override
-    {
-        panel_.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // dialogs before their engine
-    }
-
     Workspace::PathChosen taker()
     {
         return [this](const std::optional<QString> &path) {
