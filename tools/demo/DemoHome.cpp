@@ -18,7 +18,7 @@ namespace {
 
 constexpr qint64 kilobyte = 1024;
 constexpr qint64 megabyte = 1024 * kilobyte;
-constexpr time_t day = 24 * 60 * 60;
+constexpr time_t day = time_t(24) * 60 * 60;
 
 struct DemoFile
 {
