@@ -81,6 +81,6 @@ void recordOnFullLog()
 
 std::vector<Benchmark> benchmarks::ofHistory()
 {
-    return {
-        {"history", "one record on a full activity log against the library's encoding and writing", recordOnFullLog}};
+    return {{"history", "one record on a full activity log against the library's encoding and writing",
+             recordOnFullLog}};
 }
