@@ -45,7 +45,7 @@ private:
 
 } // namespace
 
-QObject *FirstFramePlugin::create(const QString &, const QString &specification)
+QObject *FirstFramePlugin::create(const QString &, const QString &mode)
 {
-    return new FirstFrameWatcher(specification == u"exit");
+    return new FirstFrameWatcher(mode == u"exit");
 }

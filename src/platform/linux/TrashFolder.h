@@ -9,7 +9,7 @@
 
 #include <sys/types.h>
 
-/// One Trash on the disk, as freedesktop.org's trash specification lays it out: the items in "files", and
+/// One Trash on the disk, as freedesktop.org's rules for a trash can lays it out: the items in "files", and
 /// beside them in "info" a note for each, which says where it came from. A note that exists reserves its
 /// name.
 ///

@@ -5,7 +5,7 @@
 #include <ctime>
 
 /// The note that stands beside each item in the Trash and says where it came from, in the format of
-/// freedesktop.org's trash specification.
+/// freedesktop.org's rules for a trash can.
 namespace trashinfo {
 
 /// The note's content. `path` is where the item was: absolute, or relative to the root of the volume that the
