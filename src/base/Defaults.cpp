@@ -42,9 +42,14 @@ bool Defaults::boolean(const QString &key) const
 
 qint64 Defaults::integer(const QString &key) const
 {
+    return integerIfAny(key).value_or(0);
+}
+
+std::optional<qint64> Defaults::integerIfAny(const QString &key) const
+{
     const QVariant found = value(key);
     if (!isInteger(found))
-        return 0;
+        return std::nullopt;
     // Not by toLongLong, which rounds doubles by adding a half and so misses odd ones from 2^52 on.
     return found.typeId() == QMetaType::Double ? static_cast<qint64>(found.toDouble()) : found.toLongLong();
 }

@@ -4,6 +4,8 @@
 #include <QVariant>
 #include <QVariantMap>
 
+#include <optional>
+
 /// The user's settings: values by key, with registered values in the place of what was never set. Read at the
 /// point of use, so that a change takes effect at its next read. This class keeps them in memory; a system's
 /// own store derives from it. Main thread only.
@@ -26,6 +28,9 @@ public:
 
     /// 0 for a missing key and for a value that is no whole number of 64 bits.
     qint64 integer(const QString &key) const;
+
+    /// The same, with none in those cases, for who has a value of its own to fall back on.
+    std::optional<qint64> integerIfAny(const QString &key) const;
 
     /// Stores a boolean, a number, a text, or a list or map of these. Written through before the call returns.
     void set(const QString &key, const QVariant &value);

@@ -2,13 +2,20 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QScopeGuard>
 #include <QThread>
 #include <QTimer>
 
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace eventloop {
+namespace {
+
+QEventLoop *innermost = nullptr; // the turn under way; main thread only
+
+} // namespace
 
 bool isMainThread()
 {
@@ -19,9 +26,20 @@ bool isMainThread()
 void turn(double seconds)
 {
     QEventLoop loop;
+    const QScopeGuard restore([outer = std::exchange(innermost, &loop)] { innermost = outer; });
     QTimer::singleShot(std::chrono::milliseconds(std::llround(seconds * 1000)), Qt::PreciseTimer, &loop,
                        &QEventLoop::quit);
     loop.exec();
+}
+
+void endTurn()
+{
+    const auto quitInnermost = [] {
+        if (innermost)
+            innermost->quit();
+    };
+    if (QCoreApplication *application = QCoreApplication::instance())
+        QMetaObject::invokeMethod(application, quitInnermost, Qt::QueuedConnection);
 }
 
 } // namespace eventloop

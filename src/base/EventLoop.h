@@ -6,8 +6,11 @@ namespace eventloop {
 /// True on the thread that runs the program's event loop.
 bool isMainThread();
 
-/// Lets the event loop run for `seconds`, so that timers and posted blocks go on meanwhile. Whoever calls it must
-/// expect to be entered again from there. Main thread only.
+/// Lets the event loop run for `seconds`, or until `endTurn`, so that timers and posted blocks go on meanwhile. Whoever
+/// calls it must expect to be entered again from there. Main thread only.
 void turn(double seconds);
+
+/// Ends the turn that is under way, the innermost of several, early; nothing happens while there is none. Any thread.
+void endTurn();
 
 } // namespace eventloop

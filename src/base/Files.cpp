@@ -18,6 +18,9 @@
 namespace files {
 namespace {
 
+/// Without waiting, since a pipe would wait for a writer; without becoming the terminal of the process.
+constexpr int readingFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
 std::function<int(Operation, const QString &)> &faults()
 {
     static std::function<int(Operation, const QString &)> injected;
@@ -72,8 +75,7 @@ private:
 /// A regular file. A pipe or device is refused, since opening or reading it could wait for ever.
 Descriptor openToRead(const QString &path)
 {
-    constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
-    Descriptor file(fails(Operation::open, path) ? -1 : open(native(path).constData(), flags));
+    Descriptor file(fails(Operation::open, path) ? -1 : open(native(path).constData(), readingFlags));
     struct stat status = {};
     if (fstat(file.number(), &status) == -1)
         throw errors::fromErrno(errno);
@@ -260,7 +262,10 @@ bool DirectoryReader::next()
         return false;
     do {
         errno = 0;
-        entry_ = readdir(directory_); // NOLINT(concurrency-mt-unsafe): safe on a stream of one's own
+        if (faults() && fails(Operation::next, folder_))
+            entry_ = nullptr;
+        else
+            entry_ = readdir(directory_); // NOLINT(concurrency-mt-unsafe): safe on a stream of one's own
     } while (entry_ && (strcmp(entry_->d_name, ".") == 0 || strcmp(entry_->d_name, "..") == 0));
     hasFailed_ = !entry_ && errno != 0;
     return entry_ != nullptr;
@@ -283,6 +288,69 @@ std::optional<Extent> DirectoryReader::extent() const
     if (faults() && fails(Operation::attributes, paths::join(folder_, paths::fromBytes(name()))))
         return std::nullopt;
     return systemcalls::entryExtent(dirfd(directory_), entry_->d_name);
+}
+
+std::optional<Extent> DirectoryReader::followedExtent() const
+{
+    if (faults() && fails(Operation::attributes, paths::join(folder_, paths::fromBytes(name()))))
+        return std::nullopt;
+    return systemcalls::followedExtent(dirfd(directory_), entry_->d_name);
+}
+
+std::optional<Kind> DirectoryReader::listedKind() const
+{
+    switch (entry_->d_type) {
+    case DT_UNKNOWN:
+        return std::nullopt;
+    case DT_REG:
+        return Kind::file;
+    case DT_DIR:
+        return Kind::directory;
+    case DT_LNK:
+        return Kind::link;
+    default:
+        return Kind::other;
+    }
+}
+
+FileReader::FileReader(const QByteArray &path)
+{
+    if (faults() && fails(Operation::open, paths::fromBytes(path)))
+        return;
+    const int descriptor = open(path.constData(), readingFlags);
+    if (descriptor == -1)
+        return;
+    struct stat status = {};
+    if (fstat(descriptor, &status) == -1 || !S_ISREG(status.st_mode)) {
+        close(descriptor);
+        return;
+    }
+    descriptor_ = descriptor;
+    modified_ = systemcalls::modificationDate(status);
+}
+
+FileReader::~FileReader()
+{
+    if (isOpen())
+        close(descriptor_);
+}
+
+bool FileReader::read(qint64 offset, qint64 count, QByteArray &content) const
+{
+    const qsizetype start = content.size();
+    content.resize(start + count);
+    qint64 done = 0;
+    ssize_t got = 0;
+    do {
+        got = faults() && fails(Operation::read, {})
+                  ? -1
+                  : pread(descriptor_, content.data() + start + done, static_cast<size_t>(count - done),
+                          offset + done);
+        if (got > 0)
+            done += got;
+    } while ((got > 0 && done < count) || (got == -1 && errno == EINTR));
+    content.resize(start + done);
+    return got != -1;
 }
 
 void injectFaults(std::function<int(Operation, const QString &)> injected)

@@ -108,6 +108,13 @@ public:
     /// The part of `attributes` that a measure needs, at less cost.
     std::optional<Extent> extent() const;
 
+    /// The same of what a link leads to; of any other entry its own. None for a link that leads nowhere.
+    std::optional<Extent> followedExtent() const;
+
+    /// What the current entry is as far as the listing itself tells, which costs no question to the disk. None on
+    /// file systems that don't tell.
+    std::optional<Kind> listedKind() const;
+
 private:
     QString folder_;
     DIR *directory_ = nullptr;
@@ -115,11 +122,39 @@ private:
     bool hasFailed_ = false;
 };
 
+/// A regular file, open to be read at any place. Opening never waits: a pipe, a socket or a device is refused, links
+/// followed. Not to be shared between threads.
+class FileReader
+{
+public:
+    /// `path` as the file system's own bytes (see paths::toBytes).
+    explicit FileReader(const QByteArray &path);
+    ~FileReader();
+    FileReader(const FileReader &) = delete;
+    FileReader &operator=(const FileReader &) = delete;
+
+    /// False when the file can't be opened, or is no regular file.
+    bool isOpen() const { return descriptor_ != -1; }
+
+    /// When the content was last changed, as it was at the opening.
+    Date modified() const { return modified_; }
+
+    /// Appends to `content` up to `count` bytes from `offset` on; fewer where the file ends. False when the
+    /// disk fails to give them; what was read so far has been appended then.
+    bool read(qint64 offset, qint64 count, QByteArray &content) const;
+
+private:
+    int descriptor_ = -1;
+    Date modified_ = dates::distantPast;
+};
+
 /// The calls that a test can make fail.
 enum class Operation {
     list,
+    next, ///< of `DirectoryReader`: the step to the next entry, with the folder's path
     attributes,
     open,
+    read,  ///< of `FileReader`, with no path
     write, ///< of `writeAtomically`, whose path this and the next two get
     sync,
     rename,

@@ -2,6 +2,8 @@
 
 #include "base/Files.h"
 
+#include <sys/stat.h>
+
 /// The few system calls that differ between systems. Each system has its own source file for them, which the
 /// build picks; base/Files and base/ChildProcess are their only callers.
 namespace systemcalls {
@@ -12,6 +14,12 @@ std::optional<files::Attributes> entryAttributes(int directory, const char *path
 
 /// The part of these attributes that a measure needs, by the cheapest call that tells it.
 std::optional<files::Extent> entryExtent(int directory, const char *path);
+
+/// The same with a link followed. None for one that leads nowhere.
+std::optional<files::Extent> followedExtent(int directory, const char *path);
+
+/// When the content was last changed; the field's name differs between systems.
+Date modificationDate(const struct stat &status);
 
 /// Renames and never replaces. 0, or the error number: EEXIST when the target's name is taken.
 int renameWithoutReplacing(const char *from, const char *to);

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr double turnLength = 0.05; // seconds for which the event loop runs between two looks
+constexpr double turnLength = 0.05; // seconds for which the event loop runs at most between two looks
 constexpr int stillThere = -2;
 const QString trashDomain = QStringLiteral("Quillmere.Trash");
 const QString adminDomain = QStringLiteral("Quillmere.AdminTrash");
@@ -29,6 +29,7 @@ Recycler::Result recycled(Recycler &recycler, const QString &path)
     recycler.recycle({path}, [answer](Recycler::Result result) {
         answer->result = std::move(result);
         answer->isThere.release();
+        eventloop::endTurn();
     });
     if (!eventloop::isMainThread()) {
         answer->isThere.acquire();

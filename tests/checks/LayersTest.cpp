@@ -13,6 +13,7 @@ namespace {
 /// The features that a feature builds on. Whoever adds a line here says that one tool needs the other's service.
 const layers::BuildsOn featuresBuildOn = {
     {u"disk"_s, {u"activity"_s}}, // a scan tells the access monitor whether protected folders could be read
+    {u"duplicates"_s, {u"activity"_s}}, // likewise; and a delete run goes into the activity log
 };
 
 std::string joined(const QStringList &lines)

@@ -17,6 +17,14 @@ const Option *find(const std::vector<Option> &options, const QString &name)
     return found == options.end() ? nullptr : &*found;
 }
 
+qint64 parsedInteger(const QString &word)
+{
+    const auto value = text::parseInteger(paths::toBytes(word));
+    if (!value)
+        throw UsageError{QStringLiteral("\"%1\" is no whole number of 64 bits").arg(word)};
+    return *value;
+}
+
 } // namespace
 
 Arguments::Arguments(const std::vector<QByteArray> &words, const std::vector<Option> &known)
@@ -80,11 +88,12 @@ void Arguments::requireOptions(const std::vector<Option> &allowed) const
 
 qint64 Arguments::integer(qsizetype index) const
 {
-    const QString &operand = operands_.at(index);
-    const auto value = text::parseInteger(paths::toBytes(operand));
-    if (!value)
-        throw UsageError{QStringLiteral("\"%1\" is no whole number of 64 bits").arg(operand)};
-    return *value;
+    return parsedInteger(operands_.at(index));
+}
+
+qint64 Arguments::integer(const QString &option) const
+{
+    return parsedInteger(value(option));
 }
 
 double Arguments::number(qsizetype index) const

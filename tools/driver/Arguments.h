@@ -33,7 +33,8 @@ public:
     QString value(const QString &option) const { return options_.value(option); }
 
     qint64 integer(qsizetype index) const;
-    double number(qsizetype index) const; ///< finite
+    qint64 integer(const QString &option) const; ///< of an option that is given
+    double number(qsizetype index) const;        ///< finite
 
     /// The operand as an absolute path: a relative one begins in the current folder.
     QString path(qsizetype index) const;

@@ -53,17 +53,21 @@ std::function<Locations()> chosenPlaces(const Arguments &arguments, const QStrin
 } // namespace
 
 DriverPlatform::DriverPlatform()
-    : DriverPlatform(QStringLiteral("/"), [] { return macLocations(QStringLiteral("/")); })
+    : DriverPlatform([] { return macLocations(QStringLiteral("/")); }, QStringLiteral("/"))
 {
 }
 
 DriverPlatform::DriverPlatform(const Arguments &arguments)
-    : DriverPlatform(folderPath(arguments.operands().constFirst()),
-                     chosenPlaces(arguments, folderPath(arguments.operands().constFirst())))
+    : DriverPlatform(arguments, arguments.operands().constFirst())
 {
 }
 
-DriverPlatform::DriverPlatform(const QString &home, std::function<Locations()> locations)
+DriverPlatform::DriverPlatform(const Arguments &arguments, const QString &home)
+    : DriverPlatform(chosenPlaces(arguments, folderPath(home)), folderPath(home))
+{
+}
+
+DriverPlatform::DriverPlatform(std::function<Locations()> locations, const QString &home)
     : home_(home)
     , locations_(std::move(locations))
     , platform_{home_,           locations_, defaults_,  clock_,         ChildPrograms(),

@@ -27,15 +27,19 @@ public:
     /// A platform over the home folder that is the first operand, with the places that the options name.
     explicit DriverPlatform(const Arguments &arguments);
 
-    /// The options that the second constructor reads, for the verbs that take a home folder.
+    /// The same over any other home folder.
+    DriverPlatform(const Arguments &arguments, const QString &home);
+
+    /// The options that the last two constructors read, for the verbs that take a home folder.
     static std::vector<Option> homeOptions();
 
     const Platform &platform() const { return platform_; }
     DiskService &disk() { return disk_; }
     FileSystemService &fileSystem() { return fileSystem_; }
+    FDAService &access() { return access_; }
 
 private:
-    DriverPlatform(const QString &home, std::function<Locations()> locations);
+    DriverPlatform(std::function<Locations()> locations, const QString &home);
 
     QString home_;
     SystemClock clock_;

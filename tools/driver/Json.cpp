@@ -59,6 +59,24 @@ void print(const QJsonObject &object)
     printDocument(QJsonDocument(object));
 }
 
+ArrayPrinter::ArrayPrinter()
+{
+    fputc('[', stdout);
+}
+
+ArrayPrinter::~ArrayPrinter()
+{
+    fputs("]\n", stdout);
+}
+
+void ArrayPrinter::add(const QJsonObject &object)
+{
+    if (!std::exchange(isFirst_, false))
+        fputc(',', stdout);
+    const QByteArray text = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    fwrite(text.constData(), 1, static_cast<size_t>(text.size()), stdout);
+}
+
 QJsonArray readObjects()
 {
     QJsonParseError failure;

@@ -20,6 +20,21 @@ QJsonValue date(Date date);
 void print(const QJsonArray &array);
 void print(const QJsonObject &object);
 
+/// Prints an array of any length on one line, an object at a time, so that it never stands in memory whole.
+class ArrayPrinter
+{
+public:
+    ArrayPrinter();
+    ~ArrayPrinter(); ///< ends the line
+    ArrayPrinter(const ArrayPrinter &) = delete;
+    ArrayPrinter &operator=(const ArrayPrinter &) = delete;
+
+    void add(const QJsonObject &object);
+
+private:
+    bool isFirst_ = true;
+};
+
 /// All of standard input as an array of objects. Throws UsageError when it is anything else.
 QJsonArray readObjects();
 

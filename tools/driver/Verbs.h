@@ -10,8 +10,9 @@ namespace verbs {
 
 inline constexpr qsizetype anyNumber = std::numeric_limits<qsizetype>::max();
 
-std::vector<Verb> ofFiles(); ///< folders and trees
-std::vector<Verb> ofDisk();  ///< sizes of the user's main folders, and the map
-std::vector<Verb> ofTexts(); ///< formatters and settings
+std::vector<Verb> ofFiles();      ///< folders and trees
+std::vector<Verb> ofDisk();       ///< sizes of the user's main folders, and the map
+std::vector<Verb> ofDuplicates(); ///< files of equal content
+std::vector<Verb> ofTexts();      ///< formatters and settings
 
 } // namespace verbs

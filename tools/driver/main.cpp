@@ -18,7 +18,8 @@ const QString helpOption = QStringLiteral("help");
 std::vector<Verb> allVerbs()
 {
     std::vector<Verb> all;
-    for (const std::vector<Verb> &group : {verbs::ofFiles(), verbs::ofDisk(), verbs::ofTexts()})
+    for (const std::vector<Verb> &group :
+         {verbs::ofFiles(), verbs::ofDisk(), verbs::ofDuplicates(), verbs::ofTexts()})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }

@@ -26,6 +26,14 @@ bool hasHiddenName(const char *path)
     return (slash ? slash[1] : path[0]) == '.';
 }
 
+std::optional<files::Extent> extent(int directory, const char *path, int flags)
+{
+    struct stat status = {};
+    if (fstatat(directory, path, &status, flags | AT_NO_AUTOMOUNT) == -1)
+        return std::nullopt;
+    return files::Extent{kindOf(status.st_mode), status.st_size, hasHiddenName(path)};
+}
+
 /// For file systems that know no exclusive rename (EINVAL on some FUSE and network mounts). A hard link is
 /// exclusive too; where that is refused as well (folders, no links) a look right before the rename is all there
 /// is, which leaves a moment in which another program's new file would be replaced.
@@ -65,10 +73,17 @@ std::optional<files::Attributes> entryAttributes(int directory, const char *path
 
 std::optional<files::Extent> entryExtent(int directory, const char *path)
 {
-    struct stat status = {};
-    if (fstatat(directory, path, &status, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) == -1)
-        return std::nullopt;
-    return files::Extent{kindOf(status.st_mode), status.st_size, hasHiddenName(path)};
+    return extent(directory, path, AT_SYMLINK_NOFOLLOW);
+}
+
+std::optional<files::Extent> followedExtent(int directory, const char *path)
+{
+    return extent(directory, path, 0);
+}
+
+Date modificationDate(const struct stat &status)
+{
+    return dates::fromUnix(status.st_mtim.tv_sec, status.st_mtim.tv_nsec);
 }
 
 int renameWithoutReplacing(const char *from, const char *to)

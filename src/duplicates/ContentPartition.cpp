@@ -1,0 +1,152 @@
+#include "duplicates/ContentPartition.h"
+
+#include "base/Files.h"
+
+#include <QRandomGenerator>
+#include <QtEndian>
+
+#include <algorithm>
+#include <utility>
+
+#include <xxhash.h>
+
+namespace {
+
+/// Beyond this, contents are read a second time where one of them turns up again.
+constexpr qsizetype mostKept = 4 << 20; // bytes, of all contents of one size
+
+/// Only to find candidates: what decides is the content. Seeded, so that nobody can prepare files that all collide.
+size_t hashOf(const QByteArray &content)
+{
+    static const quint64 seed = QRandomGenerator::system()->generate64();
+    return XXH3_64bits_withSeed(content.constData(), static_cast<size_t>(content.size()), seed);
+}
+
+} // namespace
+
+ContentPartition::ContentPartition(const FileTable &table, qint64 size, Sha256 &sha256)
+    : table_(table)
+    , size_(size)
+    , sha256_(sha256)
+{
+}
+
+qint64 ContentPartition::headLength() const
+{
+    return size_ > largestReadWhole ? sampleSize : std::min(size_, headSize);
+}
+
+bool ContentPartition::readHead(const files::FileReader &reader, QByteArray &content) const
+{
+    return reader.read(0, headLength(), content);
+}
+
+/// From the head to the end of what is compared. A file that has shrunk gives less, which is its content then.
+bool ContentPartition::readOn(const files::FileReader &reader, QByteArray &content) const
+{
+    if (size_ <= largestReadWhole)
+        return reader.read(headLength(), size_ - headLength(), content);
+    if (!reader.read(size_ - sampleSize, sampleSize, content))
+        return false;
+    const qint64 littleEndianSize = qToLittleEndian(size_);
+    content.append(reinterpret_cast<const char *>(&littleEndianSize), sizeof littleEndianSize);
+    return true;
+}
+
+bool ContentPartition::add(quint32 file)
+{
+    const FileTable::File &entry = table_.files()[file];
+    const files::FileReader reader(table_.nativePath(entry));
+    QByteArray content;
+    if (!reader.isOpen() || !readHead(reader, content))
+        return false;
+    const Member member{file, reader.modified()};
+    if (isWholeInHead()) {
+        addContent(member, content);
+        return true;
+    }
+    const auto [found, isNew] = heads_.try_emplace(hashOf(content), Head{member});
+    if (isNew)
+        return true;
+    addFirst(found->second);
+    if (!readOn(reader, content))
+        return false;
+    addContent(member, content);
+    return true;
+}
+
+/// Reads the rest of the first file of a head, now that a second one begins like it.
+void ContentPartition::addFirst(Head &head)
+{
+    if (std::exchange(head.isFirstAdded, true))
+        return;
+    const files::FileReader reader(table_.nativePath(table_.files()[head.first.file]));
+    QByteArray content;
+    if (reader.isOpen() && readHead(reader, content) && readOn(reader, content))
+        addContent({head.first.file, reader.modified()}, content);
+    else
+        ++lostFiles_;
+}
+
+void ContentPartition::addContent(const Member &member, const QByteArray &content)
+{
+    const size_t hash = hashOf(content);
+    if (Content *known = equalContent(hash, content)) {
+        if (known->equal.members.size() == 1)
+            known->equal.digest = sha256_.hex(content);
+        known->equal.members.push_back(member);
+        return;
+    }
+    Content made{{{}, {member}}, content.size(), std::nullopt, -1};
+    keep(made, content);
+    const auto index = static_cast<qsizetype>(contents_.size());
+    const auto [first, isNew] = firstOfHash_.try_emplace(hash, index);
+    if (!isNew)
+        made.next = std::exchange(first->second, index);
+    contents_.push_back(std::move(made));
+}
+
+ContentPartition::Content *ContentPartition::equalContent(size_t hash, const QByteArray &content)
+{
+    const auto first = firstOfHash_.find(hash);
+    for (qsizetype i = first == firstOfHash_.end() ? -1 : first->second; i != -1;) {
+        Content &known = contents_[static_cast<size_t>(i)];
+        if (holds(known, content))
+            return &known;
+        i = known.next;
+    }
+    return nullptr;
+}
+
+/// Whether these bytes are the content of that class. One that was not kept is read again from its first member; should
+/// that have changed since, the bytes count as another content.
+bool ContentPartition::holds(const Content &known, const QByteArray &content)
+{
+    if (known.length != content.size())
+        return false;
+    if (known.kept)
+        return *known.kept == content;
+    const quint32 file = known.equal.members.front().file;
+    const files::FileReader reader(table_.nativePath(table_.files()[file]));
+    QByteArray again;
+    return reader.isOpen() && readHead(reader, again) && (isWholeInHead() || readOn(reader, again))
+           && again == content;
+}
+
+void ContentPartition::keep(Content &known, const QByteArray &content)
+{
+    if (keptBytes_ + content.size() > mostKept)
+        return;
+    keptBytes_ += content.size();
+    known.kept = content;
+}
+
+std::vector<ContentPartition::Class> ContentPartition::takeShared()
+{
+    std::vector<Class> shared;
+    for (Content &content : contents_) {
+        if (content.equal.members.size() > 1)
+            shared.push_back(std::move(content.equal));
+    }
+    return shared;
+}

@@ -1,0 +1,134 @@
+#include "duplicates/DuplicateScan.h"
+
+#include "base/Files.h"
+#include "base/Paths.h"
+#include "duplicates/ContentPartition.h"
+#include "duplicates/DuplicateWalk.h"
+
+#include <algorithm>
+#include <span>
+
+namespace duplicatescan {
+namespace {
+
+/// Files of one size, by their place in the table.
+using Bucket = std::pair<size_t, size_t>; // the first and the one behind the last
+
+/// The sizes that more than one file has, the largest first, so that a run that is stopped has seen what is worth most.
+std::vector<Bucket> bucketsOf(const FileTable &table)
+{
+    const std::vector<FileTable::File> &files = table.files();
+    std::vector<Bucket> buckets;
+    for (size_t first = 0, end = 0; first < files.size(); first = end) {
+        while (end < files.size() && files[end].size == files[first].size)
+            ++end;
+        if (end - first > 1)
+            buckets.emplace_back(first, end);
+    }
+    return buckets;
+}
+
+/// The date of the entry itself, which an open file does not tell of a link.
+Date modificationDate(const FileTable::File &file, const ContentPartition::Member &member,
+                      const QString &path)
+{
+    if (!file.isLink)
+        return member.modified;
+    const auto own = files::attributes(path);
+    return own ? own->modified : dates::distantPast;
+}
+
+DuplicateFileGroup makeGroup(const FileTable &table, const ContentPartition::Class &equal,
+                             const QSet<QString> &marked)
+{
+    DuplicateFileGroup group;
+    group.id = QUuid::createUuid();
+    group.hash = equal.digest;
+    group.files.reserve(equal.members.size());
+    bool hasMarked = false;
+    for (const ContentPartition::Member &member : equal.members) {
+        const FileTable::File &file = table.files()[member.file];
+        const QString path = paths::fromBytes(table.nativePath(file));
+        group.size = file.size;
+        group.files.push_back({QUuid::createUuid(), paths::lastComponent(path), path,
+                               modificationDate(file, member, path), group.files.empty()});
+        hasMarked = hasMarked || marked.contains(path);
+    }
+    // Marks of an earlier result decide for the whole group, even where that leaves several copies.
+    for (DuplicateFileEntry &entry : group.files)
+        entry.keep = hasMarked ? !marked.contains(entry.path) : entry.keep;
+    return group;
+}
+
+/// The second stage: the groups among the files of equal size, in the order of the buckets.
+class Comparison
+{
+public:
+    Comparison(const FileTable &table, const Request &request, const Hooks &hooks)
+        : table_(table)
+        , request_(request)
+        , hooks_(hooks)
+    {
+    }
+
+    Result run()
+    {
+        const std::vector<Bucket> buckets = bucketsOf(table_);
+        for (size_t done = 0; done < buckets.size() && !hooks_.isCancelled();) {
+            compare(buckets[done]);
+            hooks_.bucketDone(++done, buckets.size());
+        }
+        result_.wasCancelled = hooks_.isCancelled();
+        return std::move(result_);
+    }
+
+private:
+    void compare(const Bucket &bucket)
+    {
+        ContentPartition partition(table_, table_.files()[bucket.first].size, sha256_);
+        for (size_t file = bucket.first; file < bucket.second && !hooks_.isCancelled(); ++file) {
+            if (!partition.add(static_cast<quint32>(file)))
+                ++result_.hashFailureCount;
+        }
+        result_.hashFailureCount += partition.lostFiles();
+        for (const ContentPartition::Class &equal : partition.takeShared())
+            result_.groups.push_back(makeGroup(table_, equal, request_.markedForDeletion));
+    }
+
+    const FileTable &table_;
+    const Request &request_;
+    const Hooks &hooks_;
+    Sha256 sha256_;
+    Result result_;
+};
+
+void sortByWaste(std::vector<DuplicateFileGroup> &groups)
+{
+    std::stable_sort(groups.begin(), groups.end(),
+                     [](const DuplicateFileGroup &left, const DuplicateFileGroup &right) {
+                         return left.wastedBytes() > right.wastedBytes();
+                     });
+}
+
+} // namespace
+
+Result run(const Request &request, const Hooks &hooks)
+{
+    FileTable table;
+    const DuplicateWalk::Hooks walkHooks{hooks.isCancelled, hooks.entered};
+    DuplicateWalk walk(table, request.minFileSize, walkHooks);
+    for (const QString &scanPath : request.scanPaths) {
+        if (hooks.isCancelled())
+            break;
+        walk.run(scanPath, request.ignorePaths);
+    }
+    if (hooks.isCancelled())
+        return {{}, 0, true, true};
+    hooks.comparing();
+    table.sortBySize();
+    Result result = Comparison(table, request, hooks).run();
+    sortByWaste(result.groups);
+    return result;
+}
+
+} // namespace duplicatescan
