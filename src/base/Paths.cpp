@@ -156,6 +156,11 @@ QString expandTilde(const QString &path, const QString &home)
     return path.startsWith(u"~/") ? join(home, path.sliced(2)) : path;
 }
 
+QString withTilde(const QString &path, const QString &home)
+{
+    return !home.isEmpty() && isAtOrBelow(path, home) ? u'~' + path.sliced(home.size()) : path;
+}
+
 QByteArray fileUrl(const QString &path)
 {
     return "file://" + toBytes(path).toPercentEncoding("/");

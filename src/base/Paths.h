@@ -43,6 +43,9 @@ bool isAtOrBelow(const QString &path, const QString &folder);
 /// "~" and "~/x" with `home` in the place of the tilde; any other text as it stands.
 QString expandTilde(const QString &path, const QString &home);
 
+/// The other way round: "~" and "~/x" for `home` and what lies below it; any other path as it stands.
+QString withTilde(const QString &path, const QString &home);
+
 /// The "file://" address of an absolute path, every byte outside the unreserved set percent-encoded.
 QByteArray fileUrl(const QString &path);
 

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include <openssl/crypto.h>
 #include <openssl/evp.h>
 
 /// The library's own handles, both needed for any digest.
@@ -19,7 +20,13 @@ Sha256::Sha256()
 {
 }
 
-Sha256::~Sha256() = default;
+/// The library keeps a state for each thread that called it, to be freed when the thread ends. A thread that ends while
+/// the process does comes too late for that, so it is freed here; the library makes it anew where it is needed again.
+Sha256::~Sha256()
+{
+    library_.reset();
+    OPENSSL_thread_stop();
+}
 
 QString Sha256::hex(QByteArrayView data)
 {

@@ -86,9 +86,9 @@ void DuplicateService::reset()
     groups_.clear();
     currentPath_.clear();
     hashFailureCount_ = 0;
+    emit groupsChanged();
     emit isScanningChanged();
     emit progressChanged();
-    emit groupsChanged();
     emit currentPathChanged();
 }
 

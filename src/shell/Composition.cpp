@@ -1,6 +1,7 @@
 #include "shell/Composition.h"
 
 #include "disk/DiskAnalyzerView.h"
+#include "duplicates/DuplicateFinderView.h"
 #include "shell/common/NotificationNames.h"
 #include "shell/common/SettingsKeys.h"
 #include "shell/UpcomingView.h"
@@ -54,6 +55,12 @@ DiskService &Composition::disk()
     return DiskService::shared(platform_, fileSystem(), access());
 }
 
+DuplicateService &Composition::duplicates()
+{
+    return DuplicateService::shared(platform_, fileSystem(), access(),
+                                    [this]() -> HistoryService & { return history(); });
+}
+
 FDAService &Composition::access()
 {
     return FDAService::shared(platform_, {relaunch_.executable,
@@ -87,6 +94,13 @@ MainContentView::Screens Composition::screens()
         QStringLiteral("disk/DiskAnalyzerScreen.qml"),
         [this] { return std::make_unique<DiskAnalyzerView>(platform_, disk(), fileSystem(), access()); },
         {QStringLiteral("⌘R")},
+    };
+    screens[SidebarItem::duplicates] = {
+        QStringLiteral("duplicates/DuplicateFinderScreen.qml"),
+        [this] {
+            return std::make_unique<DuplicateFinderView>(platform_, duplicates(), fileSystem(), access());
+        },
+        {},
     };
     return screens;
 }

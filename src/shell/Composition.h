@@ -3,6 +3,7 @@
 #include "activity/FDAService.h"
 #include "activity/HistoryService.h"
 #include "disk/DiskService.h"
+#include "duplicates/DuplicateService.h"
 #include "filesystem/FileSystemService.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
@@ -42,6 +43,7 @@ public:
     // Services, each made at its first use.
     FileSystemService &fileSystem();
     DiskService &disk();
+    DuplicateService &duplicates();
     HistoryService &history();
     FDAService &access();
 

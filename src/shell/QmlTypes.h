@@ -8,6 +8,9 @@
 #include "disk/AnalyzerTexts.h"
 #include "disk/DiskAnalyzerView.h"
 #include "disk/TreemapView.h"
+#include "duplicates/DuplicateFinderView.h"
+#include "duplicates/DuplicateScopeView.h"
+#include "duplicates/DuplicateTexts.h"
 #include "platform/Appearance.h"
 #include "shell/ContentView.h"
 #include "shell/MainContentView.h"
@@ -48,6 +51,29 @@ struct DiskAnalyzerViewType
     QML_FOREIGN(DiskAnalyzerView)
     QML_NAMED_ELEMENT(DiskAnalyzerView)
     QML_UNCREATABLE("Handed in by the program")
+};
+
+struct DuplicateFinderViewType
+{
+    Q_GADGET
+    QML_FOREIGN(DuplicateFinderView)
+    QML_NAMED_ELEMENT(DuplicateFinderView)
+    QML_UNCREATABLE("Handed in by the program")
+};
+
+struct DuplicateScopeViewType
+{
+    Q_GADGET
+    QML_FOREIGN(DuplicateScopeView)
+    QML_NAMED_ELEMENT(DuplicateScopeView)
+    QML_UNCREATABLE("Handed in by the program")
+};
+
+struct DuplicateTextsType
+{
+    Q_GADGET
+    QML_FOREIGN(DuplicateTexts)
+    QML_VALUE_TYPE(duplicateTexts)
 };
 
 struct HistoryTextsType

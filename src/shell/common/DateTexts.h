@@ -10,4 +10,7 @@ namespace datetexts {
 /// The date and the time of day in the short styles, as "3/1/26, 9:30 AM".
 QString shortDateTime(Date date);
 
+/// The day as "MMM d, yyyy", which gives "Mar 1, 2026"; a dash for the distant past, which stands for no date.
+QString mediumDay(Date date);
+
 } // namespace datetexts

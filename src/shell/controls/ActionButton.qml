@@ -9,6 +9,9 @@ T.Button {
     property string symbol
     property string tip
     property bool isDestructive: false
+    property bool isPrimary: false // what the screen is mostly for
+
+    readonly property color inkColor: isPrimary ? Theme.onAccent : isDestructive ? Theme.red : Theme.text
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
@@ -27,18 +30,18 @@ T.Button {
             visible: control.symbol.length > 0
             name: control.symbol
             size: 14
-            color: Theme.text
+            color: control.inkColor
         }
         BodyText {
             anchors.verticalCenter: parent.verticalCenter
             text: control.text
-            color: control.isDestructive ? Theme.red : Theme.text
+            color: control.inkColor
         }
     }
     background: Rectangle {
         radius: Theme.controlRadius
-        color: Theme.raised
-        border.color: Theme.line
+        color: control.isPrimary ? Theme.accent : Theme.raised
+        border.color: control.isPrimary ? Theme.accent : Theme.line
         Rectangle {
             anchors.fill: parent
             radius: parent.radius

@@ -9,6 +9,7 @@ T.AbstractButton {
     required property string label
     required property string countText
     required property bool isSelected
+    property int capitalization: Font.MixedCase
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 24
@@ -30,6 +31,7 @@ T.AbstractButton {
             text: chip.label
             color: chip.isSelected ? Theme.accent : Theme.text
             font.pixelSize: Theme.smallSize
+            font.capitalization: chip.capitalization
         }
         BodyText {
             anchors.verticalCenter: parent.verticalCenter

@@ -1,0 +1,94 @@
+// A Loader of Qt 6.4 makes no bound component, and qmllint knows the ids of an unbound one only as unqualified.
+// qmllint disable unqualified
+import QtQuick
+import Quillmere
+
+// The Duplicate Finder: head, scope, filters and choices, the groups, and what is set to go.
+FocusScope {
+    id: screen
+
+    required property DuplicateFinderView view
+
+    DuplicateHeader {
+        id: header
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: Theme.unit * 5
+        view: screen.view
+    }
+    AccessBanner {
+        id: banner
+        anchors.left: header.left
+        anchors.right: header.right
+        anchors.top: header.bottom
+        anchors.topMargin: visible ? Theme.unit * 3 : 0
+        banner: screen.view.banner
+    }
+    ScopePanel {
+        id: panel
+        anchors.left: header.left
+        anchors.right: header.right
+        anchors.top: banner.bottom
+        anchors.topMargin: visible ? Theme.unit * 3 : 0
+        visible: screen.view.showSettings
+        height: visible ? implicitHeight : 0
+        view: screen.view
+    }
+    DuplicateToolbar {
+        id: toolbar
+        anchors.left: header.left
+        anchors.right: header.right
+        anchors.top: panel.bottom
+        anchors.topMargin: Theme.unit * 3
+        view: screen.view
+    }
+    Item {
+        id: body
+        anchors.left: header.left
+        anchors.right: header.right
+        anchors.top: toolbar.bottom
+        anchors.topMargin: Theme.unit * 3
+        anchors.bottom: foot.top
+        anchors.bottomMargin: foot.visible ? Theme.unit * 3 : 0
+
+        DuplicateList {
+            anchors.fill: parent
+            visible: !screen.view.isScanning && screen.view.hasFigures
+            focus: true
+            view: screen.view
+        }
+        DuplicateProgress {
+            anchors.fill: parent
+            visible: screen.view.isScanning
+            view: screen.view
+        }
+        EmptyState {
+            anchors.centerIn: parent
+            width: parent.width
+            visible: text.length > 0
+            symbol: screen.view.symbol
+            text: screen.view.emptyText
+            detail: screen.view.endText
+        }
+    }
+    DuplicateFoot {
+        id: foot
+        anchors.left: header.left
+        anchors.right: header.right
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.unit * 5
+        view: screen.view
+    }
+    Loader {
+        active: screen.view.showDeleteConfirm
+        sourceComponent: ConfirmDialog {
+            title: screen.view.texts.confirmTitle
+            text: screen.view.confirmText
+            cancelLabel: screen.view.texts.cancel
+            actionLabel: screen.view.texts.moveToTrash
+            onAccepted: screen.view.confirmDelete()
+            onRejected: screen.view.cancelDelete()
+        }
+    }
+}

@@ -1,0 +1,78 @@
+import QtQuick
+import Quillmere
+
+// The head of a group of equal files.
+Item {
+    id: head
+
+    required property string title
+    required property string detail
+    required property string trailing
+    required property bool isCurrent
+    required property DuplicateFinderView view
+
+    signal newest
+    signal oldest
+
+    Accessible.role: Accessible.Heading
+    Accessible.name: title
+    Accessible.description: detail
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 1
+        radius: Theme.cardRadius
+        color: head.isCurrent ? Theme.selected : "transparent"
+    }
+    Column {
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.unit * 4
+        anchors.right: buttons.left
+        anchors.rightMargin: Theme.unit * 3
+        anchors.verticalCenter: parent.verticalCenter
+        BodyText {
+            width: parent.width
+            text: head.title
+            font.weight: Font.DemiBold
+            elide: Text.ElideMiddle
+        }
+        BodyText {
+            width: parent.width
+            text: head.detail
+            color: Theme.secondText
+            font.pixelSize: Theme.smallSize
+        }
+    }
+    Row {
+        id: buttons
+        anchors.right: amount.left
+        anchors.rightMargin: Theme.unit * 3
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.unit
+        ActionButton {
+            enabled: head.view.canChoose
+            text: head.view.texts.newest
+            symbol: "clock.arrow.circlepath"
+            focusPolicy: Qt.NoFocus
+            onClicked: head.newest()
+        }
+        ActionButton {
+            enabled: head.view.canChoose
+            text: head.view.texts.oldest
+            symbol: "clock.fill"
+            focusPolicy: Qt.NoFocus
+            onClicked: head.oldest()
+        }
+    }
+    BodyText {
+        id: amount
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.unit * 4
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.max(implicitWidth, 130)
+        horizontalAlignment: Text.AlignRight
+        text: head.trailing
+        color: Theme.amber
+        font.weight: Font.DemiBold
+    }
+}

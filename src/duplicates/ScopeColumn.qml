@@ -1,0 +1,59 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// One of the two lists of the scope, under its title and over the button that adds to it.
+Column {
+    id: column
+
+    required property string title
+    required property string emptyText
+    required property string addText
+    required property string addSymbol
+    required property int listHeight
+    required property string listName
+    required property var rows // QAbstractItemModel
+    required property Component delegate
+
+    signal added
+
+    spacing: Theme.unit * 2
+
+    Item {
+        width: parent.width
+        height: Theme.controlHeight
+        CaptionText {
+            anchors.verticalCenter: parent.verticalCenter
+            text: column.title
+            font.capitalization: Font.AllUppercase
+        }
+        ActionButton {
+            anchors.right: parent.right
+            text: column.addText
+            symbol: column.addSymbol
+            onClicked: column.added()
+        }
+    }
+    ListView {
+        id: list
+        objectName: column.listName
+        width: parent.width
+        height: column.listHeight
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        model: column.rows
+        delegate: column.delegate
+        T.ScrollBar.vertical: ScrollHandle { }
+
+        BodyText {
+            anchors.centerIn: parent
+            width: parent.width
+            visible: text.length > 0
+            horizontalAlignment: Text.AlignHCenter
+            text: column.emptyText
+            color: Theme.secondText
+            wrapMode: Text.Wrap
+            elide: Text.ElideNone
+        }
+    }
+}

@@ -1,0 +1,135 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Quillmere
+
+// What a scan looks at. Folders dropped here from the desktop are added to the list.
+Card {
+    id: panel
+
+    required property DuplicateFinderView view
+
+    readonly property DuplicateScopeView scope: view.scope
+    readonly property int listHeight: Theme.unit * 28
+
+    implicitHeight: columns.height + foot.height + Theme.unit * 11
+    border.color: drop.containsDrag ? Theme.accent : Theme.line
+
+    Row {
+        id: columns
+        x: Theme.unit * 4
+        y: Theme.unit * 4
+        width: parent.width - Theme.unit * 8
+        spacing: Theme.unit * 6
+
+        ScopeColumn {
+            id: folders
+            width: (parent.width - parent.spacing) / 2
+            title: panel.view.texts.scanDirectories
+            emptyText: panel.scope.hasScanPaths ? "" : panel.view.texts.noScanPaths
+            addText: panel.view.texts.addFolder
+            addSymbol: "folder.badge.plus"
+            listHeight: panel.listHeight
+            rows: panel.scope.scanPaths
+            listName: "scanPathList"
+            onAdded: panel.scope.addFolder()
+            delegate: ScanPathRow {
+                view: panel.view
+                onChanged: panel.scope.changeScanPath(index)
+                onRemoved: panel.scope.removeScanPath(index)
+            }
+        }
+        ScopeColumn {
+            width: folders.width
+            title: panel.view.texts.ignoreDirectories
+            emptyText: ""
+            addText: panel.view.texts.addExclusion
+            addSymbol: "folder.badge.minus"
+            listHeight: panel.listHeight
+            rows: panel.scope.rules
+            listName: "ruleList"
+            onAdded: panel.scope.addExclusion()
+            delegate: RuleRow {
+                view: panel.view
+                onRemoved: panel.scope.removeExclusion(index)
+            }
+        }
+    }
+    Item {
+        id: foot
+        anchors.left: columns.left
+        anchors.right: columns.right
+        anchors.top: columns.bottom
+        anchors.topMargin: Theme.unit * 3
+        height: Theme.controlHeight
+
+        Symbol {
+            id: noteIcon
+            anchors.verticalCenter: parent.verticalCenter
+            name: "info.circle"
+            size: 13
+            color: Theme.secondText
+        }
+        BodyText {
+            anchors.left: noteIcon.right
+            anchors.leftMargin: Theme.unit * 2
+            anchors.right: sizes.left
+            anchors.rightMargin: Theme.unit * 4
+            anchors.verticalCenter: parent.verticalCenter
+            text: panel.view.texts.lockNote
+            color: Theme.secondText
+            font.pixelSize: Theme.smallSize
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+        }
+        Row {
+            id: sizes
+            anchors.right: parent.right
+            spacing: Theme.unit * 2
+            BodyText {
+                anchors.verticalCenter: parent.verticalCenter
+                text: panel.view.texts.minFileSize
+                color: Theme.secondText
+            }
+            Picker {
+                id: picker
+                objectName: "minSizePicker"
+                label: panel.view.texts.minFileSize
+                shownText: panel.scope.minSizeText
+                model: panel.scope.minSizeLabels
+                currentIndex: panel.scope.minSizeIndex
+                onActivated: index => panel.scope.chooseMinSize(index)
+            }
+            ActionButton {
+                objectName: "resetScope"
+                text: panel.view.texts.reset
+                symbol: "arrow.uturn.backward"
+                tip: panel.view.texts.resetTip
+                onClicked: panel.scope.resetToDefaults()
+            }
+        }
+    }
+    DropArea {
+        id: drop
+        objectName: "scopeDrop"
+        anchors.fill: parent
+        keys: ["text/uri-list"]
+        onDropped: event => {
+            event.accept(Qt.CopyAction);
+            panel.scope.dropFolders(event.urls);
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            visible: drop.containsDrag
+            radius: Theme.cardRadius
+            color: Theme.selected
+            BodyText {
+                anchors.centerIn: parent
+                text: panel.view.texts.dropHere
+                color: Theme.accent
+                font.weight: Font.DemiBold
+            }
+        }
+    }
+}

@@ -1,0 +1,97 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// One choice out of a short list that opens below it. `shownText` stands on it also when it is none of the choices.
+T.ComboBox {
+    id: picker
+
+    required property string label
+    required property string shownText
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Theme.controlHeight
+    leftPadding: Theme.unit * 2.5
+    rightPadding: Theme.unit * 7
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    displayText: shownText
+    opacity: enabled ? 1 : 0.5
+    Accessible.name: label
+
+    contentItem: BodyText {
+        text: picker.displayText
+    }
+    indicator: Symbol {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.unit * 2.5
+        anchors.verticalCenter: parent.verticalCenter
+        name: "chevron.down"
+        size: 11
+        color: Theme.secondText
+    }
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: Theme.raised
+        border.color: Theme.line
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: picker.down ? Theme.pressed : picker.hovered ? Theme.hover : "transparent"
+        }
+        FocusRing {
+            visible: picker.visualFocus
+        }
+    }
+    delegate: T.ItemDelegate {
+        id: option
+
+        required property int index
+        required property string modelData
+
+        width: ListView.view ? ListView.view.width : 0
+        implicitHeight: 26
+        leftPadding: Theme.unit * 2
+        hoverEnabled: true
+        highlighted: picker.highlightedIndex === index
+        text: modelData
+        contentItem: Row {
+            spacing: Theme.unit * 1.5
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "checkmark"
+                size: 12
+                color: Theme.accent
+                opacity: picker.currentIndex === option.index ? 1 : 0
+            }
+            BodyText {
+                anchors.verticalCenter: parent.verticalCenter
+                text: option.modelData
+            }
+        }
+        background: Rectangle {
+            radius: Theme.tileRadius
+            color: option.highlighted ? Theme.selected : "transparent"
+        }
+    }
+    popup: T.Popup {
+        y: picker.height + Theme.unit
+        width: Math.max(picker.width, 120)
+        padding: Theme.unit
+        implicitHeight: implicitContentHeight + topPadding + bottomPadding
+        margins: Theme.unit
+        contentItem: ListView {
+            clip: true
+            implicitHeight: contentHeight
+            model: picker.popup.visible ? picker.delegateModel : null
+            currentIndex: picker.highlightedIndex
+        }
+        background: Rectangle {
+            color: Theme.raised
+            radius: Theme.controlRadius
+            border.color: Theme.line
+        }
+    }
+}
