@@ -9,6 +9,7 @@
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QuitSignals.h"
+#include "shell/common/NotificationNames.h"
 #include "shell/Composition.h"
 #include "shell/FallbackPanel.h"
 #include "shell/ProgramInfo.h"
@@ -27,14 +28,16 @@
 // The whole program over a home of the Mac's shape that it makes in a temporary folder: the Mac's places, an
 // applications folder of its own, settings in memory. It runs beside the real program and never touches its data.
 //
-// quillmere-demo [--light] [--screen KEY] [--picture FILE]
-// With --picture it saves a picture of the window once the screen has nothing more to do, and ends.
+// quillmere-demo [--light] [--screen KEY] [--refresh] [--picture FILE]
+// --refresh does what the menu's command of that name does, which starts the scan of a screen that waits for one. With
+// --picture it saves a picture of the window once the screen has nothing more to do, and ends.
 
 namespace {
 
 struct Options
 {
     bool isLight = false;
+    bool refreshes = false;
     QString screen;
     QString picture;
 };
@@ -46,6 +49,8 @@ Options optionsFrom(const QStringList &arguments)
         const bool hasValue = i + 1 < arguments.size();
         if (arguments[i] == QStringLiteral("--light"))
             options.isLight = true;
+        else if (arguments[i] == QStringLiteral("--refresh"))
+            options.refreshes = true;
         else if (arguments[i] == QStringLiteral("--screen") && hasValue)
             options.screen = arguments[++i];
         else if (arguments[i] == QStringLiteral("--picture") && hasValue)
@@ -107,6 +112,8 @@ int runDemo(DemoHome &demo)
     if (!composition.show())
         return EXIT_FAILURE;
     panel.attach(composition.engine(), *composition.window(), demo.home());
+    if (options.refreshes)
+        notifications.post(notifications::rescan);
     if (!options.picture.isEmpty())
         savePictureWhenReady(composition, options.picture, exitNow);
     return QGuiApplication::exec();

@@ -11,7 +11,7 @@ T.Button {
     property bool isDestructive: false
     property bool isPrimary: false // what the screen is mostly for
 
-    readonly property color inkColor: isPrimary ? Theme.onAccent : isDestructive ? Theme.red : Theme.text
+    readonly property color inkColor: isPrimary ? Theme.accentText : isDestructive ? Theme.red : Theme.text
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight

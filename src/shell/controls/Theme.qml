@@ -15,7 +15,7 @@ QtObject {
     readonly property color secondText: isDark ? "#8b949e" : "#59636e"
     readonly property color disabledText: isDark ? "#484f58" : "#a4acb5"
     readonly property color accent: isDark ? "#58a6ff" : "#0969da"
-    readonly property color onAccent: isDark ? "#0d1117" : "#ffffff"
+    readonly property color accentText: isDark ? "#0d1117" : "#ffffff"
     readonly property color green: isDark ? "#3fb950" : "#1a7f37"
     readonly property color amber: isDark ? "#d29922" : "#9a6700"
     readonly property color red: isDark ? "#f85149" : "#cf222e"
