@@ -158,7 +158,11 @@ QString expandTilde(const QString &path, const QString &home)
 
 QString withTilde(const QString &path, const QString &home)
 {
-    return !home.isEmpty() && isAtOrBelow(path, home) ? u'~' + path.sliced(home.size()) : path;
+    if (home.isEmpty() || !isAtOrBelow(path, home))
+        return path;
+    const QString rest = path.sliced(home.size());
+    // A home that ends in a slash, as "/" does, has taken that of the rest.
+    return rest.isEmpty() || rest.startsWith(u'/') ? u'~' + rest : QStringLiteral("~/") + rest;
 }
 
 QByteArray fileUrl(const QString &path)

@@ -39,6 +39,7 @@ QString Sha256::hex(QByteArrayView data)
     if (!done)
         qFatal(
             "The cryptographic library can't compute SHA-256."); // a broken installation; nothing can go on
+    ++count_;
     const auto *bytes = reinterpret_cast<const char *>(digest.data());
     return QString::fromLatin1(QByteArray::fromRawData(bytes, static_cast<qsizetype>(length)).toHex());
 }

@@ -18,7 +18,11 @@ public:
     /// The digest of `data` as 64 lower-case hexadecimal digits.
     QString hex(QByteArrayView data);
 
+    /// How many digests it has computed.
+    qint64 count() const { return count_; }
+
 private:
     struct Library;
     std::unique_ptr<Library> library_;
+    qint64 count_ = 0;
 };

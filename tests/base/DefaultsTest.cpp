@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include <gtest/gtest.h>
 
@@ -70,6 +71,37 @@ TEST(Defaults, giveZeroForAValueThatIsNoInteger)
     for (const QVariant &value : {QVariant(true), QVariant(u"5"_s), QVariant(2.5), QVariant(QVariantList{5}),
                                   QVariant(QVariantMap{}), QVariant(std::nan("")), QVariant(INFINITY)})
         EXPECT_EQ(with(defaults, value).integer(key), 0) << value.typeName();
+}
+
+TEST(Defaults, giveNoIntegerForAMissingKeyOrAValueThatIsNone)
+{
+    Defaults defaults;
+    EXPECT_EQ(defaults.integerIfAny(key), std::nullopt);
+    for (const QVariant &value :
+         {QVariant(true), QVariant(u"5"_s), QVariant(2.5), QVariant(0x1p63), QVariant(QVariantList{5}),
+          QVariant(QVariantMap{}), QVariant(std::nan("")), QVariant(-INFINITY)})
+        EXPECT_EQ(with(defaults, value).integerIfAny(key), std::nullopt) << value.typeName();
+}
+
+TEST(Defaults, tellAZeroFromNoInteger)
+{
+    Defaults defaults;
+    EXPECT_EQ(with(defaults, 0).integerIfAny(key), 0);
+    EXPECT_EQ(with(defaults, 0.0).integerIfAny(key), 0);
+    EXPECT_EQ(with(defaults, -0.0).integerIfAny(key), 0);
+}
+
+TEST(Defaults, giveTheIntegerWhereThereIsOne)
+{
+    Defaults defaults;
+    defaults.registerDefaults({{key, 102400}});
+    EXPECT_EQ(defaults.integerIfAny(key), 102400);
+    for (const qint64 number : {std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::min(),
+                                qint64(-1), (qint64(1) << 53) + 1})
+        EXPECT_EQ(with(defaults, number).integerIfAny(key), number);
+    EXPECT_EQ(with(defaults, 5.0).integerIfAny(key), 5);
+    EXPECT_EQ(with(defaults, -0x1p63).integerIfAny(key), std::numeric_limits<qint64>::min());
+    EXPECT_EQ(with(defaults, u"text"_s).integerIfAny(key), std::nullopt) << "not the registered one";
 }
 
 TEST(Defaults, giveIntegersBeyondTheWholeNumbersOfADouble)

@@ -3,8 +3,11 @@
 #include "support/TempHome.h"
 
 #include <cerrno>
+#include <map>
+#include <optional>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -77,6 +80,96 @@ TEST(DirectoryReader, givesNoAttributesOfAnEntryThatHasVanished)
     ASSERT_EQ(unlink(paths::toBytes(path).constData()), 0);
     EXPECT_FALSE(reader.attributes());
     EXPECT_EQ(reader.name(), "file");
+}
+
+TEST(DirectoryReader, givesTheExtentOfALinksTarget)
+{
+    const TempHome temp;
+    temp.file(u"outside/file"_s, "12345");
+    temp.file(u"in/file"_s, "123");
+    temp.link(u"in/toFile"_s, u"../outside/file"_s);
+    temp.link(u"in/toFolder"_s, u"../outside"_s);
+    temp.link(u"in/toLink"_s, u"toFile"_s);
+    temp.link(u"in/dangling"_s, u"missing"_s);
+    temp.link(u"in/itself"_s, u"itself"_s);
+    std::map<QByteArray, std::optional<files::Extent>> seen;
+    files::DirectoryReader reader(temp.at(u"in"_s));
+    while (reader.next())
+        seen[reader.name().toByteArray()] = reader.followedExtent();
+    ASSERT_EQ(seen.size(), 6U);
+    EXPECT_EQ(seen["file"].value().size, 3);
+    EXPECT_EQ(seen["toFile"].value().kind, Kind::file);
+    EXPECT_EQ(seen["toFile"].value().size, 5);
+    EXPECT_EQ(seen["toFolder"].value().kind, Kind::directory);
+    EXPECT_EQ(seen["toLink"].value().size, 5);
+    EXPECT_FALSE(seen["dangling"]);
+    EXPECT_FALSE(seen["itself"]);
+}
+
+TEST(DirectoryReader, givesTheExtentOfALinkItself)
+{
+    const TempHome temp;
+    temp.link(u"link"_s, u"missing"_s);
+    files::DirectoryReader reader(temp.path());
+    ASSERT_TRUE(reader.next());
+    EXPECT_EQ(reader.extent().value().kind, Kind::link);
+    EXPECT_EQ(reader.extent().value().size, 7);
+}
+
+TEST(DirectoryReader, givesTheKindThatTheListTells)
+{
+    const TempHome temp;
+    temp.file(u"file"_s);
+    temp.folder(u"folder"_s);
+    temp.link(u"link"_s, u"folder"_s);
+    ASSERT_EQ(mkfifo(paths::toBytes(temp.at(u"pipe"_s)).constData(), 0600), 0);
+    const std::map<QByteArray, Kind> expected = {
+        {"file", Kind::file}, {"folder", Kind::directory}, {"link", Kind::link}, {"pipe", Kind::other}};
+    int count = 0;
+    files::DirectoryReader reader(temp.path());
+    for (; reader.next(); ++count) {
+        // A file system need not tell; it may not tell anything else.
+        EXPECT_EQ(reader.listedKind().value_or(reader.extent().value().kind),
+                  expected.at(reader.name().toByteArray()));
+    }
+    EXPECT_EQ(count, 4);
+}
+
+TEST(DirectoryReader, asksNothingForTheKindThatTheListTells)
+{
+    const TempHome temp;
+    const QString path = temp.file(u"file"_s);
+    const FaultGuard fault(files::Operation::attributes, path, EIO);
+    files::DirectoryReader reader(temp.path());
+    ASSERT_TRUE(reader.next());
+    EXPECT_EQ(reader.listedKind().value_or(Kind::file), Kind::file);
+    EXPECT_FALSE(reader.extent());
+    EXPECT_FALSE(reader.followedExtent());
+}
+
+TEST(DirectoryReader, hasNotFailedAtTheEndOfAFolder)
+{
+    const TempHome temp;
+    temp.file(u"file"_s);
+    files::DirectoryReader reader(temp.path());
+    EXPECT_TRUE(reader.next());
+    EXPECT_FALSE(reader.hasFailed());
+    EXPECT_FALSE(reader.next());
+    EXPECT_FALSE(reader.hasFailed());
+}
+
+TEST(InjectedFaults, makeTheStepToTheNextEntryFail)
+{
+    const TempHome temp;
+    temp.file(u"folder/file"_s);
+    const QString folder = temp.at(u"folder"_s);
+    const FaultGuard fault(files::Operation::next, folder, EIO);
+    files::DirectoryReader reader(folder);
+    EXPECT_TRUE(reader.isOpen());
+    EXPECT_FALSE(reader.next());
+    EXPECT_TRUE(reader.hasFailed());
+    EXPECT_FALSE(files::list(folder)) << "a list that broke off is none";
+    EXPECT_TRUE(files::list(temp.path()));
 }
 
 TEST(InjectedFaults, makeAListFail)

@@ -2,10 +2,15 @@
 
 #include "EventLoopRun.h"
 
+#include <QEventLoop>
+#include <QStringList>
 #include <QThread>
+#include <QTimer>
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <numeric>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -116,6 +121,147 @@ TEST(EventLoopMainQueue, runsDelayedBlocksInTheOrderOfTheirDelays)
     queue.post([&] { order.push_back(1); });
     ASSERT_TRUE(run.wait());
     EXPECT_EQ(order, (std::vector<int>{1, 2, 3}));
+}
+
+TEST(EventLoopMainQueue, runsThousandsOfBlocksOfAThreadInTheirOrder)
+{
+    constexpr int count = 50000;
+    EventLoopMainQueue queue;
+    EventLoopRun run;
+    std::vector<int> order;
+    std::thread other([&] {
+        for (int number = 0; number < count; ++number)
+            queue.post([&order, number] { order.push_back(number); });
+        queue.post([&run] { run.finish(); });
+    });
+    EXPECT_TRUE(run.wait()) << "while they keep coming";
+    other.join();
+    std::vector<int> expected(count);
+    std::iota(expected.begin(), expected.end(), 0);
+    EXPECT_EQ(order, expected);
+}
+
+TEST(EventLoopMainQueue, runsLaterBlocksInsideABlockThatTurnsTheLoop)
+{
+    EventLoopMainQueue queue;
+    EventLoopRun run;
+    QStringList order;
+    queue.post([&] {
+        order << QStringLiteral("outer begins");
+        QEventLoop loop;
+        queue.post([&] {
+            order << QStringLiteral("posted inside");
+            loop.quit();
+        });
+        loop.exec();
+        order << QStringLiteral("outer ends");
+    });
+    queue.post([&] { order << QStringLiteral("posted before"); });
+    queue.postAfter(0.05, [&run] { run.finish(); });
+    ASSERT_TRUE(run.wait());
+    EXPECT_EQ(order, QStringList({QStringLiteral("outer begins"), QStringLiteral("posted before"),
+                                  QStringLiteral("posted inside"), QStringLiteral("outer ends")}));
+}
+
+TEST(EventLoopMainQueue, runsEachBlockOnceWhereBlocksTurnTheLoopInsideEachOther)
+{
+    constexpr int depth = 20;
+    EventLoopMainQueue queue;
+    EventLoopRun run;
+    std::vector<int> order;
+    int open = 0;
+    for (int number = 0; number < depth; ++number) {
+        queue.post([&, number] {
+            order.push_back(number);
+            QEventLoop loop;
+            if (++open < depth) {
+                queue.post([&loop] { loop.quit(); });
+                loop.exec();
+            }
+        });
+    }
+    queue.post([&] { order.push_back(depth); });
+    queue.postAfter(0.05, [&run] { run.finish(); });
+    ASSERT_TRUE(run.wait());
+    std::vector<int> expected(depth + 1);
+    std::iota(expected.begin(), expected.end(), 0);
+    EXPECT_EQ(order, expected);
+}
+
+TEST(EventLoopMainQueue, runsBlocksOfAThreadInsideABlockThatTurnsTheLoop)
+{
+    constexpr int count = 5000;
+    EventLoopMainQueue queue;
+    EventLoopRun run;
+    std::vector<int> order;
+    bool isInside = false;
+    bool areAllInside = true;
+    std::thread other;
+    queue.post([&] {
+        QEventLoop loop;
+        other = std::thread([&] {
+            for (int number = 0; number < count; ++number) {
+                queue.post([&, number] {
+                    order.push_back(number);
+                    areAllInside = areAllInside && isInside;
+                    if (number == count - 1)
+                        loop.quit();
+                });
+            }
+        });
+        isInside = true;
+        loop.exec();
+        isInside = false;
+        run.finish();
+    });
+    EXPECT_TRUE(run.wait());
+    other.join();
+    EXPECT_EQ(order.size(), static_cast<size_t>(count));
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+    EXPECT_TRUE(areAllInside);
+}
+
+TEST(EventLoopMainQueue, letsTimersAndEventsHaveTheirTurnWhileBlocksKeepComing)
+{
+    EventLoopMainQueue queue;
+    EventLoopRun run;
+    bool hasTimerFired = false;
+    bool hasEventCome = false;
+    QObject receiver;
+    std::function<void()> again = [&] {
+        if (hasTimerFired && hasEventCome)
+            run.finish();
+        else
+            queue.post(again); // there is always one more
+    };
+    queue.post(again);
+    QTimer::singleShot(1, &receiver, [&] {
+        hasTimerFired = true;
+        QMetaObject::invokeMethod(
+            &receiver, [&] { hasEventCome = true; }, Qt::QueuedConnection);
+    });
+    EXPECT_TRUE(run.wait());
+    EXPECT_TRUE(hasTimerFired && hasEventCome);
+    hasTimerFired = hasEventCome = true;
+}
+
+TEST(EventLoopMainQueue, runsBlocksThatArePostedAfterARest)
+{
+    EventLoopMainQueue queue;
+    int runs = 0;
+    for (const int pause : {0, 1, 2, 3, 30}) { // ms; the queue rests for 2
+        EventLoopRun run;
+        QObject context;
+        queue.post([&runs] { ++runs; });
+        QTimer::singleShot(pause, Qt::PreciseTimer, &context, [&] {
+            queue.post([&] {
+                ++runs;
+                run.finish();
+            });
+        });
+        ASSERT_TRUE(run.wait()) << pause;
+    }
+    EXPECT_EQ(runs, 10);
 }
 
 TEST(EventLoopMainQueue, dropsItsBlocksWhenItIsDestroyed)

@@ -273,6 +273,44 @@ TEST(Paths, expandsALeadingTildeOnly)
     EXPECT_EQ(paths::expandTilde(u"/a/~"_s, u"/home/ada"_s), u"/a/~"_s);
 }
 
+TEST(PathTilde, standsForTheHomeFolder)
+{
+    EXPECT_EQ(paths::withTilde(u"/home/ada"_s, u"/home/ada"_s), u"~"_s);
+    EXPECT_EQ(paths::withTilde(u"/home/ada/a b/c"_s, u"/home/ada"_s), u"~/a b/c"_s);
+    EXPECT_EQ(paths::withTilde(u"/home/ada/"_s, u"/home/ada"_s), u"~/"_s);
+}
+
+TEST(PathTilde, standsForNothingButTheHomeFolder)
+{
+    EXPECT_EQ(paths::withTilde(u"/home/adam/a"_s, u"/home/ada"_s), u"/home/adam/a"_s);
+    EXPECT_EQ(paths::withTilde(u"/home/Ada/a"_s, u"/home/ada"_s), u"/home/Ada/a"_s);
+    EXPECT_EQ(paths::withTilde(u"/home"_s, u"/home/ada"_s), u"/home"_s);
+    EXPECT_EQ(paths::withTilde(u"/mnt/home/ada/a"_s, u"/home/ada"_s), u"/mnt/home/ada/a"_s);
+    EXPECT_EQ(paths::withTilde(u"node_modules"_s, u"/home/ada"_s), u"node_modules"_s);
+    EXPECT_EQ(paths::withTilde(QString(), u"/home/ada"_s), QString());
+}
+
+TEST(PathTilde, isNotWrittenWithoutAHomeFolder)
+{
+    EXPECT_EQ(paths::withTilde(u"/a"_s, QString()), u"/a"_s);
+    EXPECT_EQ(paths::withTilde(QString(), QString()), QString());
+}
+
+TEST(PathTilde, keepsTheSlashBehindAHomeFolderThatEndsInOne)
+{
+    EXPECT_EQ(paths::withTilde(u"/"_s, u"/"_s), u"~"_s);
+    EXPECT_EQ(paths::withTilde(u"/a/b"_s, u"/"_s), u"~/a/b"_s);
+    EXPECT_EQ(paths::withTilde(u"/home/ada/a"_s, u"/home/ada/"_s), u"~/a"_s);
+}
+
+TEST(PathTilde, expandsToThePathThatItStandsFor)
+{
+    const QString bad = paths::fromBytes("/home/ada/a\xFF");
+    for (const QString &path : {u"/home/ada"_s, u"/home/ada/a b"_s, u"/srv/a"_s, bad})
+        EXPECT_EQ(paths::expandTilde(paths::withTilde(path, u"/home/ada"_s), u"/home/ada"_s), path);
+    EXPECT_EQ(paths::expandTilde(paths::withTilde(u"/a"_s, u"/"_s), u"/"_s), u"/a"_s);
+}
+
 TEST(FileUrls, encodeEveryByteOutsideTheUnreservedSet)
 {
     EXPECT_EQ(paths::fileUrl(u"/a/b-c_d.e~f"_s), "file:///a/b-c_d.e~f");

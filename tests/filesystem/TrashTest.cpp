@@ -187,6 +187,55 @@ TEST_F(TrashTest, mayBeEnteredAgainWhileItWaits)
     EXPECT_FALSE(files::exists(second));
 }
 
+TEST_F(TrashTest, anOuterMoveThatIsAnsweredWhileAnInnerOneWaitsReturnsAfterIt)
+{
+    const QString second = test.temp.file(QStringLiteral("home/second"));
+    std::vector<Recycler::Completion> asked;
+    QStringList seen;
+    test.recycler.answers = [&](const Paths &paths, Recycler::Completion done) {
+        removeFile(paths.constFirst());
+        asked.push_back(std::move(done));
+    };
+    QObject context;
+    QTimer::singleShot(0, &context, [&] {
+        QTimer::singleShot(0, &context, [&] {
+            asked[0]({}); // ends a turn of the inner one, which has no answer yet
+            QTimer::singleShot(0, &context, [&] {
+                seen << QStringLiteral("inner answered");
+                asked[1]({});
+            });
+        });
+        service.moveToTrash(second);
+        seen << QStringLiteral("inner returned");
+    });
+    service.moveToTrash(path);
+    EXPECT_EQ(seen, QStringList({QStringLiteral("inner answered"), QStringLiteral("inner returned")}));
+}
+
+TEST_F(TrashTest, anAnswerWithinTheCallDisturbsNoLaterWait)
+{
+    test.recycler.answers = [](const Paths &paths, const Recycler::Completion &done) {
+        removeFile(paths.constFirst());
+        done({});
+    };
+    EXPECT_FALSE(trashError()); // it has never waited, so what ends a turn is still on its way
+
+    path = test.temp.file(QStringLiteral("home/second"));
+    Recycler::Completion answer;
+    test.recycler.answers = [&](const Paths &, Recycler::Completion done) { answer = std::move(done); };
+    bool hasAnswered = false;
+    QObject context;
+    QTimer::singleShot(0, &context, [&] {
+        QTimer::singleShot(0, &context, [&] {
+            removeFile(path);
+            hasAnswered = true;
+            answer({});
+        });
+    });
+    EXPECT_FALSE(trashError());
+    EXPECT_TRUE(hasAnswered);
+}
+
 TEST_F(TrashTest, anAdministratorsMoveOfNothingShowsNoDialog)
 {
     path = test.temp.at(QStringLiteral("home/missing"));

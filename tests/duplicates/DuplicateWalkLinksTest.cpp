@@ -1,0 +1,70 @@
+#include "duplicates/DuplicateWalk.h"
+
+#include "support/TempHome.h"
+#include "Walk.h"
+
+#include <set>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(DuplicateWalk, walksLinksToFolders)
+{
+    const TempHome temp;
+    temp.file(u"outside/file"_s);
+    temp.link(u"home/link"_s, u"../outside"_s);
+    const Walk walk(temp.at(u"home"_s));
+    EXPECT_EQ(walk.found(), QStringList(temp.at(u"home/link/file"_s)));
+    EXPECT_EQ(walk.entered, QStringList({temp.at(u"home"_s), temp.at(u"home/link"_s)}));
+    EXPECT_EQ(Walk(temp.at(u"home/link"_s)).found(), QStringList(temp.at(u"home/link/file"_s)));
+}
+
+TEST(DuplicateWalk, asksTheRulesOfALinksOwnPathAndNotOfItsTarget)
+{
+    const TempHome temp;
+    temp.file(u"node_modules/file"_s);
+    temp.link(u"home/link"_s, temp.at(u"node_modules"_s));
+    temp.file(u"plain/file"_s);
+    temp.link(u"home/.git"_s, temp.at(u"plain"_s));
+    temp.link(u"home/build"_s, temp.at(u"plain"_s));
+    EXPECT_EQ(Walk(temp.at(u"home"_s), {u"node_modules"_s, temp.at(u"node_modules"_s), u"build"_s}).found(),
+              QStringList(temp.at(u"home/link/file"_s)));
+}
+
+TEST(DuplicateWalk, endsACircleOfLinksAtTheDepthLimit)
+{
+    const TempHome temp;
+    temp.file(u"a/file"_s);
+    temp.link(u"a/up"_s, u".."_s);
+    const Walk walk(temp.path());
+    QStringList expected;
+    for (QString prefix; expected.size() < 4; prefix += u"a/up/"_s)
+        expected << temp.at(prefix + u"a/file"_s); // at the depths 1, 3, 5 and 7
+    EXPECT_EQ(walk.foundSet(), std::set<QString>(expected.begin(), expected.end()));
+    EXPECT_EQ(walk.entered.size(), 8);
+}
+
+TEST(DuplicateWalk, givesALinkToAFileTheLinksOwnSize)
+{
+    const TempHome temp;
+    temp.file(u"outside/large"_s, QByteArray(5000, 'x'));
+    const QString link = temp.link(u"home/link"_s, u"../outside/large"_s); // 16 bytes
+    const Walk walk(temp.at(u"home"_s), {}, 16);
+    EXPECT_EQ(walk.found(), QStringList(link));
+    EXPECT_EQ(walk.table.files().front().size, 16);
+    EXPECT_TRUE(walk.table.files().front().isLink);
+    EXPECT_EQ(Walk(temp.at(u"home"_s), {}, 17).found(), QStringList());
+}
+
+TEST(DuplicateWalk, passesLinksOverThatLeadNowhere)
+{
+    const TempHome temp;
+    temp.link(u"dangling"_s, u"missing"_s);
+    temp.link(u"itself"_s, u"itself"_s);
+    temp.link(u"one"_s, u"two"_s);
+    temp.link(u"two"_s, u"one"_s);
+    const Walk walk(temp.path());
+    EXPECT_EQ(walk.found(), QStringList());
+    EXPECT_EQ(walk.entered, QStringList(temp.path()));
+}
