@@ -52,7 +52,7 @@ QString headline(const HistoryEntry &entry)
     const QString separator = QStringLiteral(" · ");
     QString line = labelOf(entry.kind) + separator + datetexts::shortDateTime(entry.timestamp);
     if (entry.bytesAffected != 0)
-        line += separator + formatBytes(clampedBytes(entry.bytesAffected));
+        line += separator + sizeText(entry.bytesAffected);
     return line;
 }
 

@@ -8,16 +8,13 @@ PopupMenu {
     required property DiskAnalyzerView view
     property int row: -1
 
-    // Opens at the pointer, or below `item` where a key has asked for it.
+    // For the row with that number, near `item` where a key has asked for it.
     function openAt(index, item) {
         if (index < 0)
             return;
         row = index;
         openLine.text = view.openText(index); // what stands in that row now
-        if (!item)
-            return popup();
-        const corner = item.mapToItem(parent, Theme.unit * 8, item.height);
-        popup(corner.x, corner.y);
+        openNear(item);
     }
 
     MenuLine {

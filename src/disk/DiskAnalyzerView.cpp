@@ -24,11 +24,6 @@ size_t childCount(const DiskAnalyzerView::Entry &entry)
     return entry && entry->children ? entry->children->size() : 0;
 }
 
-QString sizeText(const DiskAnalyzerView::Entry &entry)
-{
-    return formatBytes(clampedBytes(entry->size));
-}
-
 } // namespace
 
 DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskService,
@@ -42,7 +37,7 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
     , contentRows_({
           {"symbol", [](const Row &row) { return analyzer::rowSymbol(*row.entry); }},
           {"entryName", [](const Row &row) { return paths::display(row.entry->name); }},
-          {"sizeText", [](const Row &row) { return sizeText(row.entry); }},
+          {"sizeText", [](const Row &row) { return sizeText(row.entry->size); }},
           {"shareText", [](const Row &row) { return analyzer::shareText(row.share); }},
           {"share", [](const Row &row) { return row.share; }},
           {"isFolder", [](const Row &row) { return row.entry->isDirectory; }},
@@ -111,7 +106,8 @@ QString DiskAnalyzerView::pillTooltip() const
 QString DiskAnalyzerView::mapSummary() const
 {
     const Entry entry = currentEntry();
-    return entry ? QStringLiteral("%1 items · %2").arg(childCount(entry)).arg(sizeText(entry)) : QString();
+    return entry ? QStringLiteral("%1 items · %2").arg(childCount(entry)).arg(sizeText(entry->size))
+                 : QString();
 }
 
 bool DiskAnalyzerView::isMapEmpty() const
@@ -265,13 +261,21 @@ QString DiskAnalyzerView::trashText() const
 void DiskAnalyzerView::moveToTrash(int row)
 {
     const Entry entry = child(row);
-    const Entry shown = currentEntry();
     if (!entry || !canTrash())
         return;
     isTrashing_ = true;
     emit scanChanged();
-    const QPointer self(
-        this); // the event loop runs during the move, and another screen may be chosen from there
+    // Not from within the menu: the move lets the event loop turn, and the screen with the menu may go meanwhile.
+    platform_.mainQueue.post([self = QPointer(this), entry] {
+        if (self)
+            self->runTrash(entry);
+    });
+}
+
+void DiskAnalyzerView::runTrash(const Entry &entry)
+{
+    const Entry shown = currentEntry();
+    const QPointer self(this); // another screen may be chosen during the move
     try {
         fileSystem_.moveToTrash(entry->path);
     } catch (const Error &) {
@@ -281,7 +285,8 @@ void DiskAnalyzerView::moveToTrash(int row)
         return;
     isTrashing_ = false;
     emit scanChanged();
-    openEntry(shown);
+    if (currentEntry() == shown) // nobody has gone elsewhere meanwhile
+        openEntry(shown);
 }
 
 void DiskAnalyzerView::openChildNamed(const QString &name)

@@ -105,7 +105,7 @@ public:
     Q_INVOKABLE void revealRow(int row);
     Q_INVOKABLE void copyPath(int row);
     Q_INVOKABLE void openTerminal(int row);
-    Q_INVOKABLE void moveToTrash(int row); ///< waits for it, with the event loop running
+    Q_INVOKABLE void moveToTrash(int row); ///< begins in a later turn of the main loop
 
     void openEntry(const Entry &entry);
 
@@ -126,6 +126,7 @@ private:
     Entry child(int row) const;
     void openChildNamed(const QString &name);
     void scanDeeper(const QString &path);
+    void runTrash(const Entry &entry);
     void startScan(const QString &path);
     void setBreadcrumb(std::vector<Entry> breadcrumb);
     void showCurrentEntry();

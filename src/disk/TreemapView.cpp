@@ -24,10 +24,10 @@ QString labelColor(const QString &tileColor)
     return luminance > 0.18 ? QStringLiteral("#0d1117") : QStringLiteral("#ffffff"); // equal contrast at 0.18
 }
 
-QString sizeText(double bytes)
+QString tileSizeText(double bytes)
 {
     constexpr double tooMany = 0x1p62; // beyond it a double may not fit the count's type
-    return formatBytes(clampedBytes(static_cast<qint64>(std::min(bytes, tooMany))));
+    return sizeText(static_cast<qint64>(std::min(bytes, tooMany)));
 }
 
 bool hasLabel(const TreemapItem &item)
@@ -41,7 +41,7 @@ TreemapView::TreemapView(QObject *parent)
     : QObject(parent)
     , tiles_({
           {"tileName", [](const TreemapItem &item) { return paths::display(item.name); }},
-          {"sizeText", [](const TreemapItem &item) { return sizeText(item.size); }},
+          {"sizeText", [](const TreemapItem &item) { return tileSizeText(item.size); }},
           {"tileColor", [](const TreemapItem &item) { return colorText(item.color); }},
           {"labelColor", [](const TreemapItem &item) { return labelColor(item.color); }},
           {"tileX", [](const TreemapItem &item) { return item.rect.x() + gap / 2; }},

@@ -8,16 +8,11 @@ PopupMenu {
     required property DuplicateFinderView view
     property int row: -1
 
-    // Opens at the pointer, or below `item` where a key has asked for it.
+    // For the row with that number, near `item` where a key has asked for it.
     function openAt(index, item) {
-        if (!view.isFile(index))
-            return;
         row = index;
         toggleLine.text = view.toggleText(index); // what holds of that row now
-        if (!item)
-            return popup();
-        const corner = item.mapToItem(parent, Theme.unit * 8, item.height);
-        popup(corner.x, corner.y);
+        openNear(item);
     }
 
     MenuLine {

@@ -69,7 +69,6 @@ FocusScope {
             visible: text.length > 0
             symbol: screen.view.symbol
             text: screen.view.emptyText
-            detail: screen.view.endText
         }
     }
     DuplicateFoot {

@@ -16,11 +16,6 @@ namespace {
 const QString allTypes = QStringLiteral("all");
 constexpr double progressPeriod = 0.05; // seconds between two pictures of a scan's progress
 
-QString bytesText(qint64 bytes)
-{
-    return formatBytes(clampedBytes(bytes));
-}
-
 } // namespace
 
 DuplicateFinderView::DuplicateFinderView(const Platform &platform, DuplicateService &service,
@@ -215,13 +210,13 @@ QString DuplicateFinderView::filesFigure() const
 
 QString DuplicateFinderView::wastedFigure() const
 {
-    return bytesText(figures_.wasted);
+    return sizeText(figures_.wasted);
 }
 
 /// A pattern with the number of files set to go in the place of %1 and their size in that of %2.
 QString DuplicateFinderView::amountText(const QString &pattern) const
 {
-    return pattern.arg(QString::number(filesToDelete()), bytesText(bytesToDelete()));
+    return pattern.arg(QString::number(filesToDelete()), sizeText(bytesToDelete()));
 }
 
 QString DuplicateFinderView::toDeleteFigure() const
@@ -310,6 +305,8 @@ void DuplicateFinderView::cancelDelete()
 
 void DuplicateFinderView::confirmDelete()
 {
+    if (!showDeleteConfirm_) // a second click on a dialog that is on its way out
+        return;
     setShowDeleteConfirm(false);
     // Not from within the click: the run lets the event loop turn, and the screen with the button may go meanwhile.
     platform_.mainQueue.post([self = QPointer(this)] {

@@ -7,11 +7,16 @@ Item {
 
     required property DuplicateFinderView view
 
-    implicitHeight: 40
+    readonly property int lineHeight: Theme.unit * 10
+    // In a narrow window the figures have a line of their own.
+    readonly property bool isNarrow: view.hasFigures
+                                     && title.width + figures.width + buttons.width + Theme.unit * 16 > width
+
+    implicitHeight: isNarrow ? lineHeight * 2 + Theme.unit : lineHeight
 
     Row {
         id: title
-        anchors.verticalCenter: parent.verticalCenter
+        height: header.lineHeight
         spacing: Theme.unit * 2.5
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
@@ -27,9 +32,9 @@ Item {
         }
     }
     Row {
-        anchors.left: title.right
-        anchors.leftMargin: Theme.unit * 8
-        anchors.verticalCenter: parent.verticalCenter
+        id: figures
+        x: header.isNarrow ? 0 : title.width + Theme.unit * 8
+        y: (header.lineHeight - height) / 2 + (header.isNarrow ? header.lineHeight + Theme.unit : 0)
         spacing: Theme.unit * 6
         visible: header.view.hasFigures
 
@@ -55,10 +60,18 @@ Item {
         }
     }
     Row {
+        id: buttons
         anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
+        y: (header.lineHeight - height) / 2
         spacing: Theme.unit * 2
 
+        BodyText {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text.length > 0
+            rightPadding: Theme.unit
+            text: header.view.endText
+            color: Theme.amber
+        }
         ActionButton {
             objectName: "settingsButton"
             text: header.view.settingsText

@@ -30,11 +30,16 @@ FocusScope {
                 currentIndex = 0;
         }
 
+        function openMenu(index, item) {
+            if (index >= 0)
+                (holder.view.isFile(index) ? copyMenu : groupMenu).openAt(index, item);
+        }
+
         T.ScrollBar.vertical: ScrollHandle { }
         Keys.onReturnPressed: holder.view.toggleKeep(currentIndex)
         Keys.onEnterPressed: holder.view.toggleKeep(currentIndex)
         Keys.onSpacePressed: holder.view.toggleKeep(currentIndex)
-        Keys.onMenuPressed: menu.openAt(currentIndex, currentItem)
+        Keys.onMenuPressed: openMenu(currentIndex, currentItem)
         delegate: DuplicateRow {
             id: row
             width: ListView.view.width - Theme.unit * 3
@@ -44,7 +49,7 @@ FocusScope {
                 list.currentIndex = row.index;
                 list.forceActiveFocus();
             }
-            onMenuRequested: menu.openAt(row.index, null)
+            onMenuRequested: list.openMenu(row.index, null)
         }
     }
     Connections {
@@ -55,7 +60,11 @@ FocusScope {
         }
     }
     CopyMenu {
-        id: menu
+        id: copyMenu
+        view: holder.view
+    }
+    GroupMenu {
+        id: groupMenu
         view: holder.view
     }
 }

@@ -46,6 +46,10 @@ Item {
         view: row.view
         onNewest: row.view.keepNewestOf(row.index)
         onOldest: row.view.keepOldestOf(row.index)
+        onMenuRequested: {
+            row.taken();
+            row.menuRequested();
+        }
     }
     CopyRow {
         anchors.fill: parent

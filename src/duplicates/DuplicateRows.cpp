@@ -51,13 +51,13 @@ void pointToNewPlaces(std::vector<DuplicateRows::Row> &rows, const std::vector<D
 
 QString wastedText(const DuplicateFileGroup &group)
 {
-    return formatBytes(clampedBytes(group.wastedBytes()));
+    return sizeText(group.wastedBytes());
 }
 
 QString summary(const DuplicateFileGroup &group)
 {
     return QStringLiteral("%1 copies · %2 each · %3 wasted")
-        .arg(QString::number(group.files.size()), formatBytes(clampedBytes(group.size)), wastedText(group));
+        .arg(QString::number(group.files.size()), sizeText(group.size), wastedText(group));
 }
 
 QString headTitle(const DuplicateFileGroup &group)
@@ -106,9 +106,10 @@ void DuplicateRows::shrink(const std::vector<size_t> &shown)
         return show(shown);
     pointToNewPlaces(rows_, rows);
     // From the end, so that the numbers of the gaps that are still to come hold.
-    for (auto gap = gaps.rbegin(); gap != gaps.rend(); ++gap) {
-        beginRemoveRows({}, gap->first, gap->second - 1);
-        rows_.erase(rows_.begin() + gap->first, rows_.begin() + gap->second);
+    std::reverse(gaps.begin(), gaps.end());
+    for (const auto &[first, end] : gaps) {
+        beginRemoveRows({}, first, end - 1);
+        rows_.erase(rows_.begin() + first, rows_.begin() + end);
         endRemoveRows();
     }
     refreshAll(); // the heads count what is left
@@ -164,7 +165,7 @@ QVariant DuplicateRows::data(const QModelIndex &index, int role) const
     if (role == isHeadRole)
         return row.isHead();
     if (role == isLastRole)
-        return static_cast<size_t>(row.file + 1) == groups_[row.group].files.size();
+        return row.file + 1 == static_cast<int>(groups_[row.group].files.size());
     return row.isHead() ? headData(groups_[row.group], role) : fileData(row, role);
 }
 
@@ -177,7 +178,6 @@ bool DuplicateRows::isThere(const Row &row) const
 
 QVariant DuplicateRows::headData(const DuplicateFileGroup &group, int role) const
 {
-    const QString recoverable = QStringLiteral("%1 recoverable").arg(wastedText(group));
     switch (role) {
     case titleRole:
         return headTitle(group);
@@ -185,11 +185,15 @@ QVariant DuplicateRows::headData(const DuplicateFileGroup &group, int role) cons
     case spokenRole:
         return summary(group);
     case trailingRole:
-        return recoverable;
+        return QStringLiteral("%1 recoverable").arg(wastedText(group));
     case keepRole:
         return true;
-    default:
+    case badgeRole:
+    case badgeSymbolRole:
+    case tipRole:
         return QString();
+    default:
+        return {};
     }
 }
 

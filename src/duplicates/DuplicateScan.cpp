@@ -5,7 +5,11 @@
 #include "duplicates/ContentPartition.h"
 #include "duplicates/DuplicateWalk.h"
 
+#include <QRandomGenerator>
+
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <span>
 
 namespace duplicatescan {
@@ -38,11 +42,31 @@ Date modificationDate(const FileTable::File &file, const ContentPartition::Membe
     return own ? own->modified : dates::distantPast;
 }
 
+/// Random ids out of a generator of the run's own, which the system seeds: to ask the system itself for each of them takes
+/// a part of a scan that shows.
+class IdSource
+{
+public:
+    QUuid next()
+    {
+        std::array<quint32, 4> words{};
+        random_.fillRange(words.data(), static_cast<qsizetype>(words.size()));
+        std::array<uchar, sizeof words> bytes{};
+        memcpy(bytes.data(), words.data(), bytes.size());
+        bytes[6] = (bytes[6] & 0x0F) | 0x40; // version 4: random
+        bytes[8] = (bytes[8] & 0x3F) | 0x80; // and the variant that has versions
+        return QUuid::fromRfc4122(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    }
+
+private:
+    QRandomGenerator64 random_{QRandomGenerator64::securelySeeded()};
+};
+
 DuplicateFileGroup makeGroup(const FileTable &table, const ContentPartition::Class &equal,
-                             const QSet<QString> &marked)
+                             const QSet<QString> &marked, IdSource &ids)
 {
     DuplicateFileGroup group;
-    group.id = QUuid::createUuid();
+    group.id = ids.next();
     group.hash = equal.digest;
     group.files.reserve(equal.members.size());
     bool hasMarked = false;
@@ -50,7 +74,7 @@ DuplicateFileGroup makeGroup(const FileTable &table, const ContentPartition::Cla
         const FileTable::File &file = table.files()[member.file];
         const QString path = paths::fromBytes(table.nativePath(file));
         group.size = file.size;
-        group.files.push_back({QUuid::createUuid(), paths::lastComponent(path), path,
+        group.files.push_back({ids.next(), paths::lastComponent(path), path,
                                modificationDate(file, member, path), group.files.empty()});
         hasMarked = hasMarked || marked.contains(path);
     }
@@ -92,13 +116,14 @@ private:
         }
         result_.hashFailureCount += partition.lostFiles();
         for (const ContentPartition::Class &equal : partition.takeShared())
-            result_.groups.push_back(makeGroup(table_, equal, request_.markedForDeletion));
+            result_.groups.push_back(makeGroup(table_, equal, request_.markedForDeletion, ids_));
     }
 
     const FileTable &table_;
     const Request &request_;
     const Hooks &hooks_;
     Sha256 sha256_;
+    IdSource ids_;
     Result result_;
 };
 

@@ -122,8 +122,7 @@ int DuplicateScopeView::minSizeIndex() const
 QString DuplicateScopeView::minSizeText() const
 {
     const int index = minSizeIndex();
-    return index < 0 ? formatBytes(clampedBytes(service_.minFileSize()))
-                     : minSizeOptions()[static_cast<size_t>(index)].label;
+    return index < 0 ? sizeText(service_.minFileSize()) : minSizeOptions()[static_cast<size_t>(index)].label;
 }
 
 void DuplicateScopeView::chooseFolder(const QString &message, const QString &start,

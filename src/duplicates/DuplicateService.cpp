@@ -109,8 +109,9 @@ duplicatescan::Hooks DuplicateService::hooks(const QPointer<DuplicateService> &s
         },
         [post] {
             post([](DuplicateService &service) {
+                service.currentPath_ = QStringLiteral("Comparing file hashes...");
                 service.setProgress(walkShare);
-                service.setCurrentPath(QStringLiteral("Comparing file hashes..."));
+                emit service.currentPathChanged();
             });
         },
         [post](size_t done, size_t total) {

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Quillmere
 
@@ -7,10 +9,14 @@ Item {
 
     required property DuplicateFinderView view
 
-    implicitHeight: Theme.controlHeight
+    // In a narrow window the choices stand below the filters.
+    readonly property bool isNarrow: chips.width + choices.width + Theme.unit * 4 > width
+
+    implicitHeight: isNarrow ? Theme.controlHeight * 2 + Theme.unit * 2 : Theme.controlHeight
 
     Row {
-        anchors.verticalCenter: parent.verticalCenter
+        id: chips
+        y: (Theme.controlHeight - height) / 2
         spacing: Theme.unit * 1.5
         Repeater {
             model: bar.view.filterRows
@@ -22,7 +28,9 @@ Item {
         }
     }
     Row {
-        anchors.right: parent.right
+        id: choices
+        x: bar.isNarrow ? 0 : bar.width - width
+        y: bar.isNarrow ? Theme.controlHeight + Theme.unit * 2 : 0
         spacing: Theme.unit * 2
         ActionButton {
             enabled: bar.view.canChoose

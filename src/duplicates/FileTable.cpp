@@ -34,7 +34,7 @@ QByteArray FileTable::nativePath(const File &file) const
 {
     const QByteArray &folder = folders_[file.folder];
     const QByteArrayView name(names_.constData() + file.name);
-    QByteArray path;
-    path.reserve(folder.size() + name.size());
-    return path.append(folder).append(name);
+    QByteArray path(folder.size() + name.size(), Qt::Uninitialized);
+    std::copy(name.begin(), name.end(), std::copy(folder.begin(), folder.end(), path.begin()));
+    return path;
 }

@@ -13,6 +13,7 @@ Item {
 
     signal newest
     signal oldest
+    signal menuRequested
 
     Accessible.role: Accessible.Heading
     Accessible.name: title
@@ -23,6 +24,11 @@ Item {
         anchors.margins: 1
         radius: Theme.cardRadius
         color: head.isCurrent ? Theme.selected : "transparent"
+    }
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.RightButton
+        onClicked: head.menuRequested()
     }
     Column {
         anchors.left: parent.left

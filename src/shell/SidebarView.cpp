@@ -83,12 +83,12 @@ QString SidebarView::volumeName() const
 
 QString SidebarView::usedText() const
 {
-    return QStringLiteral("%1 used").arg(formatBytes(clampedBytes(diskUsage_.used)));
+    return QStringLiteral("%1 used").arg(sizeText(diskUsage_.used));
 }
 
 QString SidebarView::freeText() const
 {
-    return QStringLiteral("%1 free").arg(formatBytes(clampedBytes(diskUsage_.available)));
+    return QStringLiteral("%1 free").arg(sizeText(diskUsage_.available));
 }
 
 double SidebarView::usedShare() const

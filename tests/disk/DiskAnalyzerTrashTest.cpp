@@ -35,6 +35,12 @@ struct DiskAnalyzerTrash : public testing::Test
         }
         return -1;
     }
+    /// Chooses the command in the row's menu and lets the main loop turn until the move has ended.
+    void moveToTrash(const QString &name)
+    {
+        view->moveToTrash(rowOf(name));
+        test.mainQueue.run();
+    }
     void trashMoves()
     {
         test.recycler.answers = [](const QStringList &paths, const Recycler::Completion &done) {
@@ -51,6 +57,9 @@ TEST_F(DiskAnalyzerTrash, movesTheRowsEntryAndOpensTheEntryOnViewOnceMore)
     trashMoves();
     const DiskAnalyzerView::Entry shown = view->currentEntry();
     view->moveToTrash(rowOf(QStringLiteral("big.bin")));
+    EXPECT_TRUE(test.recycler.recycled.isEmpty()); // not from within the menu's call
+    EXPECT_FALSE(view->canTrash());
+    test.mainQueue.run();
     EXPECT_EQ(test.recycler.recycled, QStringList{path});
     EXPECT_FALSE(files::exists(path));
     ASSERT_EQ(view->breadcrumb().size(), 1U);
@@ -64,7 +73,7 @@ TEST_F(DiskAnalyzerTrash, movesTheRowsEntryAndOpensTheEntryOnViewOnceMore)
 
 TEST_F(DiskAnalyzerTrash, dropsAFailureWithoutAWord)
 {
-    view->moveToTrash(rowOf(QStringLiteral("big.bin"))); // the service refuses silently
+    moveToTrash(QStringLiteral("big.bin")); // the service refuses silently
     EXPECT_TRUE(files::exists(path));
     EXPECT_EQ(view->breadcrumb().size(), 1U);
     EXPECT_TRUE(test.systemLog.lines.isEmpty());
@@ -79,6 +88,7 @@ TEST_F(DiskAnalyzerTrash, isDisabledWhileAScanRuns)
     EXPECT_EQ(view->trashText(), QStringLiteral("Move to Trash (wait for scan)"));
     EXPECT_FALSE(view->canTrash());
     view->moveToTrash(0);
+    test.mainQueue.run();
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
     test.settle();
     EXPECT_TRUE(view->canTrash());
@@ -94,7 +104,7 @@ TEST_F(DiskAnalyzerTrash, takesNoSecondMoveWhileOneIsUnderWay)
         view->moveToTrash(rowOf(QStringLiteral("folder")));
         answer({});
     });
-    view->moveToTrash(rowOf(QStringLiteral("big.bin")));
+    moveToTrash(QStringLiteral("big.bin"));
     EXPECT_EQ(test.recycler.recycled, QStringList{path});
     EXPECT_TRUE(view->canTrash());
 }
@@ -108,8 +118,33 @@ TEST_F(DiskAnalyzerTrash, survivesThatItsScreenGoesDuringTheMove)
         view.reset(); // another screen was chosen
         answer({});
     });
-    view->moveToTrash(rowOf(QStringLiteral("big.bin")));
+    moveToTrash(QStringLiteral("big.bin"));
     EXPECT_EQ(view, nullptr);
+}
+
+TEST_F(DiskAnalyzerTrash, movesNothingOnceItsScreenIsGone)
+{
+    view->moveToTrash(rowOf(QStringLiteral("big.bin")));
+    view.reset();
+    test.mainQueue.run();
+    EXPECT_TRUE(test.recycler.recycled.isEmpty());
+}
+
+TEST_F(DiskAnalyzerTrash, staysWhereTheUserHasGoneMeanwhile)
+{
+    Recycler::Completion answer;
+    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
+    QObject context;
+    DiskAnalyzerView::Entry elsewhere;
+    QTimer::singleShot(0, &context, [&] {
+        view->openRow(rowOf(QStringLiteral("folder")));
+        elsewhere = view->currentEntry();
+        answer({});
+    });
+    moveToTrash(QStringLiteral("big.bin"));
+    EXPECT_EQ(elsewhere->name, QStringLiteral("folder"));
+    EXPECT_EQ(view->currentEntry(), elsewhere);
+    EXPECT_EQ(view->breadcrumb().size(), 1U);
 }
 
 TEST_F(DiskAnalyzerTrash, aScanTellsWhetherProtectedFoldersCouldBeRead)

@@ -55,6 +55,10 @@ ScreenCase {
         return Program.itemWith("entryName", table(), name);
     }
 
+    function openRowMenu(name) {
+        openContextMenu(() => mouseClick(row(name), row(name).width / 3, row(name).height / 2, Qt.RightButton));
+    }
+
     function map() {
         return Program.named("treemap");
     }

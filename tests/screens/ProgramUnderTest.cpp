@@ -1,18 +1,24 @@
 #include "screens/ProgramUnderTest.h"
 
+#include "base/Files.h"
 #include "base/Paths.h"
+#include "screens/EqualFiles.h"
 #include "screens/Scene.h"
 #include "screens/Warnings.h"
 
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QtQuickTest/quicktest.h>
 
+#include <filesystem>
 #include <stdexcept>
 
 namespace {
 
 constexpr double gigabyte = 1024.0 * 1024 * 1024;
+const QString protectedFolder = QStringLiteral("protected");
 
 /// QML would take an item that it gets from a call for its own and delete it.
 QQuickItem *lent(QQuickItem *item)
@@ -62,16 +68,17 @@ ProgramUnderTest::~ProgramUnderTest()
 {
     textField_.reset();
     du_.open();
+    diskGate_.open();
     composition_->disk().cancelProbes();
     composition_.reset();
 }
 
 /// The Mac's places, with one difference: the folders that only a program with full access can read would stand in the
-/// home folder that the tests look at, so the home folder itself, which is readable, stands for them.
+/// home folder that the tests look at, so one beside it stands for them.
 Locations ProgramUnderTest::locations() const
 {
     Locations locations = macLocations(home_, temp_.at(QStringLiteral("Applications")));
-    locations.accessProbeFolders = {home_};
+    locations.accessProbeFolders = {temp_.at(protectedFolder)};
     return locations;
 }
 
@@ -92,6 +99,7 @@ void ProgramUnderTest::fillHome() const
     temp_.folder(QStringLiteral("home/Empty"));
     temp_.sparseFile(QStringLiteral("home/.hidden"), megabyte);
     temp_.folder(QStringLiteral("hollow"));
+    setFullAccess(true);
 
     temp_.sparseFile(QStringLiteral("odd/line\nbreak/inside"), 9 * megabyte);
     temp_.sparseFile(QStringLiteral("odd/\"quoted\" & <b>bold/inside"), 8 * megabyte);
@@ -216,6 +224,8 @@ void ProgramUnderTest::forget()
     workspace_.clipboard.clear();
     workspace_.address.clear();
     workspace_.folderRequest = {};
+    workspace_.settingsPage.clear();
+    recycler_.recycled.clear();
     posted_.clear();
     exits_ = 0;
 }
@@ -241,4 +251,91 @@ QQuickItem *ProgramUnderTest::addTextField(const QString &text)
     textField_->setParentItem(scene::item(
         window()->contentItem(), [](QQuickItem *item) { return item->inherits("QQuickContentItem"); }));
     return lent(textField_.get());
+}
+
+bool ProgramUnderTest::exists(const QString &path) const
+{
+    return files::exists(path);
+}
+
+void ProgramUnderTest::remove(const QString &path) const
+{
+    std::filesystem::remove(path.toStdString());
+}
+
+void ProgramUnderTest::setFullAccess(bool isFull) const
+{
+    temp_.folder(protectedFolder);
+    // A name that is no folder can't be listed, whoever the tests run as.
+    if (!isFull)
+        std::filesystem::remove(temp_.at(protectedFolder).toStdString());
+}
+
+void ProgramUnderTest::duringNextRecycle(const QJSValue &doing)
+{
+    trash_.duringNext([doing] {
+        const QJSValue result = doing.call();
+        if (result.isError())
+            qWarning("during a move to the Trash: %ls", qUtf16Printable(result.toString()));
+    });
+}
+
+bool ProgramUnderTest::drag(const QString &step, const QStringList &addresses, QQuickItem *over)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString &address : addresses)
+        urls << QUrl(address);
+    data.setUrls(urls);
+    const QPointF middle = over->mapToScene(QPointF(over->width() / 2, over->height() / 2));
+    QDragEnterEvent enter(middle.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragLeaveEvent leave;
+    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QEvent *event = &enter;
+    if (step != QStringLiteral("enter"))
+        event = step == QStringLiteral("leave") ? static_cast<QEvent *>(&leave) : &drop;
+    QCoreApplication::sendEvent(window(), event);
+    return event->isAccepted();
+}
+
+QString ProgramUnderTest::makeTwins()
+{
+    const auto folder = [this] { return QStringLiteral("twins-%1").arg(twins_); };
+    std::filesystem::remove_all(temp_.at(folder()).toStdString());
+    ++twins_;
+    equalfiles::fill(temp_, folder());
+    return temp_.at(folder());
+}
+
+QString ProgramUnderTest::makePairs(int pairs) const
+{
+    const QString folder = QStringLiteral("pairs");
+    equalfiles::fillPairs(temp_, folder, pairs);
+    return temp_.at(folder);
+}
+
+void ProgramUnderTest::scanOnly(const QStringList &folders, int minSize)
+{
+    DuplicateService &service = composition_->duplicates();
+    for (const QStringList before = service.scanPaths(); const QString &path : before)
+        service.removeScanPath(path);
+    for (const QString &folder : folders)
+        service.addScanPath(folder);
+    service.setMinFileSize(minSize);
+}
+
+void ProgramUnderTest::record(const QVariantMap &entry)
+{
+    const auto value = [&entry](const char *name) { return entry.value(QLatin1StringView(name)); };
+    HistoryEntry record;
+    record.id = QUuid::createUuid();
+    record.timestamp = clock_.now();
+    record.kind = history::kindNamed(value("kind").toString()).value();
+    record.title = value("title").toString();
+    record.paths = value("paths").toStringList();
+    record.bytesAffected = value("bytes").toLongLong();
+    record.success = !value("isFailed").toBool();
+    if (value("detail").isValid())
+        record.detail = value("detail").toString();
+    composition_->history().record(record);
 }

@@ -34,6 +34,8 @@ TestCase {
     // What a test that has failed may have left.
     function clearAway() {
         Program.releaseProbes();
+        Program.releaseDisk();
+        Program.recycleAsEver();
         Program.removeTextField();
         Program.setDark(true);
         for (let i = 0; i < 3 && Program.menuLines() !== ""; ++i)
@@ -78,6 +80,11 @@ TestCase {
     function press(key, modifiers) {
         keyClick(key, modifiers ?? Qt.NoModifier);
         Program.settle();
+    }
+
+    // What stands at the head of a screen.
+    function headOf(title) {
+        return title === "Duplicates" ? "Duplicate Finder" : title;
     }
 
     // Selects a screen in the sidebar.
@@ -126,7 +133,36 @@ TestCase {
         tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
     }
 
-    // The line of an open menu.
+    // Uses the right button, or the menu key, and waits for the menu.
+    function openContextMenu(how) {
+        how();
+        tryVerify(() => Program.menuLines() !== "", patience, "the context menu opens");
+        Program.settle();
+    }
+
+    // The line of an open context menu.
+    function contextLine(title) {
+        return find(title, Program.itemWith("isDivider").parent);
+    }
+
+    function chooseInContext(title) {
+        clickOn(contextLine(title));
+        tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
+    }
+
+    // Runs `doing` while the move to the Trash that `begin` sets going is under way. The move lets the main loop turn, so
+    // that all of it happens inside of the call of `begin`.
+    function whileRecycling(begin, doing) {
+        let isDone = false;
+        Program.duringNextRecycle(() => {
+            doing();
+            isDone = true;
+        });
+        begin();
+        tryVerify(() => isDone, patience, "all was done while the file was on its way");
+    }
+
+    // The line of an open menu of the menu bar.
     function menuLine(title) {
         const line = Program.itemWith("keysText");
         verify(line, "a menu is open");

@@ -27,10 +27,8 @@ AnalyzerCase {
 
     // The menu of the row, and the line chosen from it.
     function chooseForRow(name, line) {
-        mouseClick(row(name), row(name).width / 3, row(name).height / 2, Qt.RightButton);
-        tryVerify(() => Program.menuLines() !== "", patience, "the menu of the row opens");
-        click(line, Program.itemWith("isDivider").parent);
-        tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
+        openRowMenu(name);
+        chooseInContext(line);
     }
 
     function test_showsName_data() {

@@ -39,7 +39,7 @@ ScreenCase {
         choose("View", row.tag);
         compare(Program.selectedScreen(), row.tag);
         compare(Program.posted(), "Quillmere.navigate");
-        find(row.tag, screen());
+        find(headOf(row.tag), screen());
     }
 
     function test_toolsOnlyNavigate_data() {

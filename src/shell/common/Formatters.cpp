@@ -55,6 +55,11 @@ qint64 clampedBytes(qint64 bytes)
     return std::clamp<qint64>(bytes, 0, mostBytes);
 }
 
+QString sizeText(qint64 bytes)
+{
+    return formatBytes(clampedBytes(bytes));
+}
+
 Color colorFromHex(const QString &text)
 {
     const auto first = std::find_if(text.begin(), text.end(), isAlphanumeric);

@@ -19,11 +19,14 @@ struct Color
 
 /// The text of a byte count, as "1.5 KB": binary steps under the decimal names. `bytes` is from 0 to below
 /// 1024 TB; any other count is a programming error and ends the process. Counts that come from disk or from a
-/// file go through `clampedBytes` first.
+/// file are for `sizeText`.
 QString formatBytes(qint64 bytes);
 
 /// The nearest count that `formatBytes` has a text for.
 qint64 clampedBytes(qint64 bytes);
+
+/// The text of a byte count that comes from disk or from a file: that of the nearest count that has one.
+QString sizeText(qint64 bytes);
 
 /// The colour of six (RGB) or eight (ARGB) hexadecimal digits; what is not alphanumeric around them is passed
 /// over. Opaque black for any other text.

@@ -6,6 +6,14 @@ import Quillmere
 Menu {
     id: menu
 
+    // Opens at the pointer, or below `item` where a key has asked for it.
+    function openNear(item) {
+        if (!item)
+            return popup();
+        const corner = item.mapToItem(parent, Theme.unit * 8, item.height);
+        popup(corner.x, corner.y);
+    }
+
     padding: Theme.unit
     margins: Theme.unit
     overlap: 1

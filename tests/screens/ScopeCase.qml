@@ -1,0 +1,64 @@
+import QtQuick
+import QtTest
+import Quillmere.Screens
+
+// What the tests of the Duplicate Finder's scope share. Each begins with the default scope and a fresh folder of equal files.
+DuplicatesCase {
+    readonly property string home: Program.at("home")
+
+    function init() {
+        clearAway();
+        Program.window.height = ampleHeight;
+        Program.userWillCancel();
+        twins = Program.makeTwins();
+        Program.scanOnly([], usualMinSize);
+        open("Dashboard");
+        open("Duplicates");
+        clickOn(Program.named("resetScope"));
+        restPointer();
+        Program.forget();
+    }
+
+    function scanPathRows() {
+        return itemsOf(Program.named("scanPathList"));
+    }
+
+    function scanPaths() {
+        return scanPathRows().map(row => row.pathText);
+    }
+
+    function itemsOf(view) {
+        Program.settle();
+        const items = [];
+        for (let i = 0; i < view.count; ++i) {
+            view.positionViewAtIndex(i, ListView.Contain);
+            items.push(view.itemAtIndex(i));
+        }
+        return items;
+    }
+
+    function rules() {
+        return itemsOf(Program.named("ruleList"));
+    }
+
+    // The row of that rule, scrolled into view.
+    function rule(text) {
+        const index = rules().findIndex(row => row.ruleText === text);
+        verify(index >= 0, `there is a rule ${text}`);
+        Program.named("ruleList").positionViewAtIndex(index, ListView.Contain);
+        Program.settle();
+        return Program.named("ruleList").itemAtIndex(index);
+    }
+
+    function add(folder) {
+        Program.userWillChoose(folder);
+        click("Add Folder", screen());
+        Program.userWillCancel();
+    }
+
+    function exclude(folder) {
+        Program.userWillChoose(folder);
+        click("Add Exclusion", screen());
+        Program.userWillCancel();
+    }
+}

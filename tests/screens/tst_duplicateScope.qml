@@ -1,0 +1,154 @@
+import QtQuick
+import QtTest
+import Quillmere.Screens
+
+// The scope panel of the Duplicate Finder: the folders to scan, the rules that keep a scan out, and the way back to the
+// defaults.
+ScopeCase {
+    name: "DuplicateScope"
+
+    function test_defaultsAreHomeAndTheLocks() {
+        compare(scanPaths(), ["~"]);
+        compare(rules().map(row => row.ruleText), ["~/Library", "~/.Trash", "~/DerivedData", "node_modules", ".git",
+                                                   "DerivedData", ".build", "__pycache__"]);
+        verify(rules().every(row => row.symbol === "lock.fill" && !Program.named("removeExclusion", row)));
+        find("🔒 folders hold system files. Add one as a scan folder to override (advanced users only).", screen());
+        find("Min file size:", screen());
+        compare(Program.named("minSizePicker").displayText, "100 KB");
+        Program.picture("scope");
+    }
+
+    function test_panelTellsWhatItsControlsDo_data() {
+        return [
+            { tag: "folder", item: () => scanPathRows()[0], tip: "Click to change this folder" },
+            { tag: "remove", item: () => Program.named("removeScanPath"), tip: "Remove from scan list" },
+            { tag: "lock", item: () => rule("node_modules"), tip: "Built-in default — always excluded" },
+            { tag: "reset", item: () => Program.named("resetScope"),
+              tip: "Restore Duplicate Finder's scan + ignore lists to their original defaults (~ as the only scan path; "
+                   + "built-in locks for ~/Library, .Trash, node_modules, .git, …)." },
+        ];
+    }
+
+    function test_panelTellsWhatItsControlsDo(data) {
+        mouseMove(data.item());
+        find(data.tip);
+        restPointer();
+        tryGone(data.tip);
+    }
+
+    function test_addsChosenFolder() {
+        add(twins + "/a");
+        compare(Program.folderMessage(), "Select a directory to scan for duplicates");
+        compare(scanPaths(), ["~", twins + "/a"]);
+        add(twins + "/a");
+        compare(scanPaths(), ["~", twins + "/a"]); // it is there already
+        click("Add Folder", screen()); // and the panel is cancelled
+        compare(scanPaths(), ["~", twins + "/a"]);
+    }
+
+    function test_clickChangesFolder() {
+        add(twins + "/a");
+        Program.userWillChoose(twins + "/b");
+        clickOn(scanPathRows()[1]);
+        compare(Program.folderMessage(), "Choose a different folder to scan");
+        compare(Program.folderStart(), twins + "/a");
+        compare(scanPaths(), ["~", twins + "/b"]);
+        Program.userWillCancel();
+        clickOn(scanPathRows()[0]);
+        compare(Program.folderStart(), home);
+        compare(scanPaths(), ["~", twins + "/b"]);
+        Program.userWillChoose(home);
+        clickOn(scanPathRows()[1]); // to one that is there already
+        compare(scanPaths(), ["~"]);
+    }
+
+    function test_removesFolder() {
+        add(twins + "/a");
+        const button = Program.named("removeScanPath", scanPathRows()[0]);
+        compare(button.label, "Remove scan path");
+        clickOn(button);
+        compare(scanPaths(), [twins + "/a"]);
+        clickOn(Program.named("removeScanPath"));
+        compare(scanPaths(), []);
+        find("No folders selected — add one to start scanning.", screen());
+        verify(!scanButton().enabled);
+        compare(Program.folderMessage(), "Select a directory to scan for duplicates"); // the click was the button's alone
+        Program.picture("scope-empty");
+        add(home);
+        verify(scanButton().enabled);
+        tryGone("No folders selected — add one to start scanning.", screen());
+    }
+
+    function test_folderRowsWorkByKeyboard() {
+        add(twins + "/a");
+        Program.userWillChoose(twins + "/c");
+        tabTo("the folder", item => item.pathText === twins + "/a");
+        verify(focusItem().visualFocus);
+        press(Qt.Key_Return);
+        compare(scanPaths(), ["~", twins + "/c"]);
+        tabTo("the button that removes it", item => item === Program.named("removeScanPath", scanPathRows()[1]));
+        press(Qt.Key_Return);
+        compare(scanPaths(), ["~"]);
+        tabTo("the folder", item => item.pathText === "~");
+        press(Qt.Key_Delete);
+        compare(scanPaths(), []);
+        tabTo("the button that adds one", item => item.text === "Add Folder");
+        press(Qt.Key_Return);
+        compare(scanPaths(), [twins + "/c"]);
+    }
+
+    function test_exclusionIsAddedAndRemoved() {
+        exclude(home + "/Movies");
+        compare(Program.folderMessage(), "Select a directory to exclude from scanning");
+        compare(rules().length, 9);
+        const row = rule("~/Movies");
+        compare(row.symbol, "");
+        mouseMove(Program.named("removeExclusion", row));
+        find("Remove exclusion");
+        Program.picture("scope-exclusion");
+        clickOn(Program.named("removeExclusion", row));
+        compare(rules().length, 8);
+        verify(rules().every(left => left.ruleText !== "~/Movies"));
+    }
+
+    function test_exclusionIsRemovedByKeyboard() {
+        exclude(home + "/Movies");
+        const button = Program.named("removeExclusion", rule("~/Movies"));
+        tabTo("the button that removes it", item => item === button);
+        press(Qt.Key_Return);
+        compare(rules().length, 8);
+    }
+
+    function test_exclusionKeepsTheScanOut() {
+        Program.scanOnly([twins], usualMinSize);
+        exclude(twins + "/b");
+        scan();
+        compare(fileRows().map(nameOf).sort(), ["a/film.mov", "a/photo.JPG", "c/film.mov", "c/photo.png"]);
+    }
+
+    function test_scanPathInsideALockedFolderOverridesIt() {
+        add(home + "/Library/Mail");
+        const row = rule("~/Library");
+        compare(row.symbol, "lock.open.fill");
+        find("· overridden", row);
+        verify(!Program.named("removeExclusion", row));
+        compare(rule("~/.Trash").symbol, "lock.fill");
+        verify(!Program.textItem("· overridden", rule("~/.Trash")));
+        mouseMove(rule("~/Library"));
+        find("Overridden — a scan path is pointing inside this folder, so it WILL be scanned.");
+        Program.picture("scope-overridden");
+        clickOn(Program.named("removeScanPath", scanPathRows()[1]));
+        compare(rule("~/Library").symbol, "lock.fill");
+        tryGone("· overridden", screen());
+    }
+
+    function test_resetBringsBackTheDefaults() {
+        add(twins);
+        exclude(home + "/Movies");
+        clickOn(Program.named("removeScanPath"));
+        tabTo("the reset button", item => item === Program.named("resetScope"));
+        press(Qt.Key_Return);
+        compare(scanPaths(), ["~"]);
+        compare(rules().length, 8);
+    }
+}

@@ -1,0 +1,245 @@
+import QtQuick
+import QtTest
+import Quillmere.Screens
+
+// The Duplicate Finder's way to the Trash: the question, the run, what a person may do during it, and what is left.
+DuplicatesCase {
+    name: "DuplicateTrash"
+
+    function gone() {
+        return usuallyGoing.concat(["a/photo.JPG", "a/film.mov", "a/report.pdf", "a/plain"]).filter(
+                    name => !Program.exists(path(name)));
+    }
+
+    function onlyPhoto() {
+        click("Select None", screen());
+        clickFile("b/photo.jpg");
+    }
+
+    function test_asksFirst() {
+        askToDelete();
+        find("Move 6 files (1.2 MB) to Trash? This can be undone from the Trash.");
+        Program.picture("duplicates-confirm");
+        clickOn(Program.named("confirmCancel"));
+        tryGone("Confirm Deletion");
+    }
+
+    function test_noMeansNo_data() {
+        return [
+            { tag: "Cancel", how: () => clickOn(Program.named("confirmCancel")) },
+            { tag: "Escape", how: () => press(Qt.Key_Escape) },
+            { tag: "Return on Cancel", how: () => press(Qt.Key_Return) },
+        ];
+    }
+
+    function test_noMeansNo(data) {
+        askToDelete();
+        data.how();
+        tryGone("Confirm Deletion");
+        Program.settle();
+        compare(Program.recycled(), "");
+        compare(going(), usuallyGoing);
+        compare(gone(), []);
+        verify(Program.named("trashButton").enabled);
+    }
+
+    function test_movesWhatIsSetToGo() {
+        moveToTrash();
+        compare(Program.recycled(), usuallyGoing.map(path).join("\n"));
+        compare(gone(), usuallyGoing);
+        // One copy is left of each, which is no group any more.
+        find("Configure scan directories above and click Start Scan", screen());
+        compare(scanButton().text, "Start Scan");
+        verify(!foot());
+    }
+
+    function test_movesByKeyboard() {
+        onlyPhoto();
+        tabTo("the button", item => item === Program.named("trashButton"));
+        press(Qt.Key_Return);
+        tryVerify(() => Program.named("confirmCancel")?.activeFocus, patience, "the keyboard is on Cancel");
+        press(Qt.Key_Tab);
+        verify(Program.named("confirmAction").activeFocus);
+        press(Qt.Key_Return);
+        tryVerify(() => gone().length === 1, patience, "the file is gone");
+        compare(gone(), ["b/photo.jpg"]);
+    }
+
+    function test_groupOfThreeStaysAsGroupOfTwo() {
+        onlyPhoto();
+        moveToTrash();
+        compare(fileRows().map(nameOf).filter(name => name.includes("photo")), ["a/photo.JPG", "c/photo.png"]);
+        find("2 copies · 300 KB each · 300 KB wasted", head("photo.JPG"));
+        compare(["Groups", "Files", "Wasted", "To delete"].map(figure), ["4", "9", "890 KB", null]);
+        verify(!foot());
+    }
+
+    function test_listKeepsItsPlaceAsItShrinks() {
+        Program.window.height = usualHeight;
+        click("Select None", screen());
+        Program.settle();
+        list().contentY = 4 * rows()[0].height;
+        clickFile("b/film.mov");
+        const before = list().contentY;
+        const stays = [file("a/film.mov"), file("c/film.mov")];
+        moveToTrash();
+        compare(list().contentY, before);
+        compare([file("a/film.mov"), file("c/film.mov")], stays);
+        find("2 copies · 120 KB each · 120 KB wasted", head("film.mov"));
+    }
+
+    function test_runTakesAlsoWhatTheFilterHides() {
+        clickOn(chip("images"));
+        askToDelete();
+        find("Move 2 files (600 KB) to Trash? This can be undone from the Trash.");
+        confirm();
+        tryVerify(() => gone().length === 6, patience, "all are gone");
+        compare(gone().sort(), Array.from(usuallyGoing).sort());
+    }
+
+    function test_whatCannotBeMovedStays() {
+        Program.refuseRecycle(path("b/report.pdf"));
+        moveToTrash();
+        compare(gone(), usuallyGoing.filter(name => name !== "b/report.pdf"));
+        compare(groups(), ["report.pdf"]);
+        compare(going(), ["b/report.pdf"]);
+        verify(!Program.texts().includes("It is locked."));
+        Program.recycleAsEver();
+        moveToTrash();
+        verify(gone().includes("b/report.pdf"));
+    }
+
+    function test_markOfATrashedFileIsForgotten() {
+        onlyPhoto();
+        moveToTrash();
+        scan();
+        compare(going(), ["c/photo.png", "b/film.mov", "c/film.mov", "b/report.pdf", "b/plain.zip"]);
+    }
+
+    function beginRun() {
+        askToDelete();
+        confirm();
+    }
+
+    function test_tellsHowFarItIs() {
+        whileRecycling(beginRun, () => {
+            tryVerify(() => footText() === "Moving files to the Trash: 0 of 6", patience, "the run is told");
+            verify(!Program.named("trashButton").enabled);
+            verify(!Program.textItem("Confirm Deletion"));
+            Program.picture("duplicates-trashing");
+        });
+        tryVerify(() => !foot(), patience, "the run has ended");
+        compare(gone(), usuallyGoing);
+    }
+
+    function test_nothingElseCanBeDoneMeanwhile() {
+        whileRecycling(beginRun, () => {
+            clickFile("a/film.mov");
+            mouseClick(file("b/film.mov"), 200, 20, Qt.RightButton);
+            Program.settle();
+            compare(Program.menuLines(), "");
+            for (const text of ["Rescan", "Select None", "Keep Newest", "Move to Trash"]) {
+                verify(!Program.itemWith("text", screen(), text).enabled, text);
+                clickOn(Program.itemWith("text", screen(), text));
+            }
+            click("Newest", head("photo.JPG"));
+            press(Qt.Key_R, Qt.ControlModifier);
+            focusListByHand();
+            press(Qt.Key_Space);
+            verify(!progress());
+            compare(going(), usuallyGoing);
+            clickOn(chip("documents")); // the filter may be
+            compare(groups(), ["report.pdf"]);
+            clickOn(chip("all"));
+            click("Hide Settings", screen());
+        });
+        tryVerify(() => !foot(), patience, "the run has ended");
+        compare(gone(), usuallyGoing);
+        compare(Program.recycled(), usuallyGoing.map(path).join("\n"));
+    }
+
+    function focusListByHand() {
+        list().forceActiveFocus();
+        list().currentIndex = file("b/film.mov").index;
+    }
+
+    function test_anotherScreenMayBeSelectedMeanwhile() {
+        whileRecycling(beginRun, () => {
+            open("Cleanup");
+            open("Disk Analyzer");
+            open("Duplicates");
+            tryVerify(() => footText() === "Moving files to the Trash: 0 of 6", patience, "the run is told again");
+            verify(!scanButton().enabled);
+            clickFile("a/film.mov");
+            open("Dashboard");
+        });
+        tryVerify(() => gone().length === 6, patience, "all are gone");
+        compare(gone(), usuallyGoing);
+        compare(Program.selectedScreen(), "Dashboard");
+        open("Duplicates");
+        find("Configure scan directories above and click Start Scan", screen());
+    }
+
+    function test_screenThatComesBackMeanwhileShowsTheEnd() {
+        onlyPhoto();
+        whileRecycling(beginRun, () => {
+            open("Cleanup");
+            open("Duplicates");
+        });
+        tryVerify(() => !foot(), patience, "the run has ended");
+        compare(fileRows().length, 9);
+        clickFile("c/photo.png");
+        compare(going(), ["c/photo.png"]);
+    }
+
+    function test_scopeMayChangeMeanwhile() {
+        onlyPhoto();
+        whileRecycling(beginRun, () => clickOn(Program.named("removeScanPath")));
+        tryVerify(() => !foot(), patience, "the run has ended");
+        compare(Program.named("scanPathList").count, 2);
+        compare(gone(), ["b/photo.jpg"]);
+    }
+
+    function openHistory() {
+        press(Qt.Key_Y, Qt.ControlModifier | Qt.ShiftModifier);
+        find("Activity History");
+    }
+
+    function newestEntry() {
+        tryVerify(() => Program.named("historyList")?.itemAtIndex(0), patience, "there is an entry");
+        return Program.named("historyList").itemAtIndex(0);
+    }
+
+    function closeHistory() {
+        press(Qt.Key_Escape);
+        tryVerify(() => !Program.isSheetUp(), patience, "the sheet is down");
+    }
+
+    function test_runIsRecorded_data() {
+        return [
+            { tag: "several", refused: "", title: "Removed 6 duplicate files", size: "1.2 MB", paths: 6 },
+            { tag: "one", only: true, refused: "", title: "Removed 1 duplicate file", size: "300 KB", paths: 1 },
+            { tag: "failure", refused: "b/report.pdf", title: "Removed 5 duplicates · 1 failed", size: "990 KB", paths: 5 },
+        ];
+    }
+
+    function test_runIsRecorded(data) {
+        if (data.only)
+            onlyPhoto();
+        Program.refuseRecycle(path(data.refused));
+        moveToTrash();
+        openHistory();
+        const entry = newestEntry();
+        tryCompare(entry, "entryTitle", data.title, patience);
+        verify(entry.headline.startsWith("Duplicates Removed · "), entry.headline);
+        verify(entry.headline.endsWith(" · " + data.size), entry.headline);
+        compare(entry.isFailed, data.refused !== "");
+        clickOn(entry);
+        find(`Files (${data.paths})`, entry);
+        find(path("b/photo.jpg"), entry);
+        if (data.refused)
+            find(`${path(data.refused)}: It is locked.`, entry);
+        Program.picture("history-duplicates-" + data.tag);
+        closeHistory();
+    }
+}
