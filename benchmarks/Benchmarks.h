@@ -7,9 +7,10 @@
 /// The groups of benchmarks, a source file each.
 namespace benchmarks {
 
-std::vector<Benchmark> ofScans();   ///< tree scans and size probes against the bare runs of `du`
-std::vector<Benchmark> ofHistory(); ///< one record on a full activity log against the library's JSON
-std::vector<Benchmark> ofTreemap(); ///< the map's layout against one sort
-std::vector<Benchmark> ofWindow();  ///< start, main loop and memory of the running program
+std::vector<Benchmark> ofScans();      ///< tree scans and size probes against the bare runs of `du`
+std::vector<Benchmark> ofHistory();    ///< one record on a full activity log against the library's JSON
+std::vector<Benchmark> ofDuplicates(); ///< duplicate scans against other programs that find equal files
+std::vector<Benchmark> ofTreemap();    ///< the map's layout against one sort
+std::vector<Benchmark> ofWindow();     ///< start, main loop and memory of the running program
 
 } // namespace benchmarks

@@ -4,17 +4,13 @@
 #include <array>
 #include <cstdio>
 #include <ctime>
+#include <vector>
 
 #include <sys/resource.h>
 
 namespace {
 
-constexpr size_t runs = 5;
-
-double seconds(const timeval &time)
-{
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-}
+constexpr size_t usualRuns = 5;
 
 double processSeconds()
 {
@@ -22,22 +18,27 @@ double processSeconds()
     for (const auto who : {RUSAGE_SELF, RUSAGE_CHILDREN}) {
         rusage usage{};
         getrusage(who, &usage);
-        sum += seconds(usage.ru_utime) + seconds(usage.ru_stime);
+        sum += measurement::seconds(usage.ru_utime) + measurement::seconds(usage.ru_stime);
     }
     return sum;
 }
 
-double threadSeconds()
+double secondsOf(clockid_t clock)
 {
     timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    clock_gettime(clock, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-double medianOf(std::array<double, runs> values)
+double threadSeconds()
+{
+    return secondsOf(CLOCK_THREAD_CPUTIME_ID);
+}
+
+double medianOf(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());
-    return values[runs / 2];
+    return values[values.size() / 2];
 }
 
 double inUnit(double figure, const std::string &unit)
@@ -60,22 +61,48 @@ Comparison compare(const Run &ours, const Run &peers)
 {
     ours();
     peers();
-    std::array<double, runs> oursValues{};
-    std::array<double, runs> peersValues{};
-    for (size_t i = 0; i < runs; ++i) {
-        oursValues[i] = ours();
-        peersValues[i] = peers();
+    std::vector<double> oursValues;
+    std::vector<double> peersValues;
+    for (size_t i = 0; i < usualRuns; ++i) {
+        oursValues.push_back(ours());
+        peersValues.push_back(peers());
     }
     return {medianOf(oursValues), medianOf(peersValues)};
+}
+
+CostComparison compareCosts(const CostlyRun &ours, const CostlyRun &peers, size_t runs)
+{
+    std::array<std::vector<double>, 4> figures; // CPU and wall time of ours, then of the peer's
+    for (size_t i = 0; i <= runs; ++i) {
+        const Cost ourCost = ours();
+        const Cost peersCost = peers();
+        if (i == 0)
+            continue;
+        figures[0].push_back(ourCost.cpu);
+        figures[1].push_back(ourCost.wall);
+        figures[2].push_back(peersCost.cpu);
+        figures[3].push_back(peersCost.wall);
+    }
+    return {{medianOf(figures[0]), medianOf(figures[2])}, {medianOf(figures[1]), medianOf(figures[3])}};
 }
 
 double median(const Run &run)
 {
     run();
-    std::array<double, runs> values{};
+    std::vector<double> values(usualRuns);
     for (double &value : values)
         value = run();
     return medianOf(values);
+}
+
+double now()
+{
+    return secondsOf(CLOCK_MONOTONIC);
+}
+
+double seconds(const timeval &time)
+{
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
 }
 
 double processTime(const std::function<void()> &work)
@@ -106,6 +133,12 @@ void printFigure(const std::string &name, double figure, double target, const st
 {
     printf("%-14s %8.3f %-5s  target %6.2f  %-6s  %s\n", name.c_str(), figure, unit.c_str(), target,
            verdict(figure, target), note.c_str());
+    fflush(stdout);
+}
+
+void printSkipped(const std::string &name, const std::string &reason)
+{
+    printf("%-14s skipped: %s\n", name.c_str(), reason.c_str());
     fflush(stdout);
 }
 

@@ -3,6 +3,8 @@
 #include <functional>
 #include <string>
 
+#include <sys/time.h>
+
 /// How things are measured and told: medians of five, ours and a peer's in turn, so that what else the machine does
 /// falls on both.
 namespace measurement {
@@ -21,8 +23,31 @@ struct Comparison
 /// The medians of five runs each, after one of each that is not counted.
 Comparison compare(const Run &ours, const Run &peers);
 
+/// What one run of a process costs, in seconds.
+struct Cost
+{
+    double cpu = 0; ///< of user and system
+    double wall = 0;
+};
+
+using CostlyRun = std::function<Cost()>;
+
+struct CostComparison
+{
+    Comparison cpu;
+    Comparison wall;
+};
+
+/// The same as `compare` for both times of the same runs, with `runs` of them in place of five.
+CostComparison compareCosts(const CostlyRun &ours, const CostlyRun &peers, size_t runs = 5);
+
 /// The median of five runs, after one that is not counted.
 double median(const Run &run);
+
+/// Seconds of a clock that no one sets.
+double now();
+
+double seconds(const timeval &time);
 
 /// CPU seconds of this process and of its children that have ended, over `work`.
 double processTime(const std::function<void()> &work);
@@ -38,5 +63,8 @@ void printRatio(const std::string &name, const Comparison &comparison, double ta
 /// Prints a line of a figure that stands for itself.
 void printFigure(const std::string &name, double figure, double target, const std::string &unit,
                  const std::string &note);
+
+/// Prints the line of what could not be measured here, and why.
+void printSkipped(const std::string &name, const std::string &reason);
 
 } // namespace measurement

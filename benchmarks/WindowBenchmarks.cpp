@@ -5,7 +5,6 @@
 #include "WindowProcess.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <map>
 #include <stdexcept>
@@ -27,7 +26,7 @@ double median(std::vector<double> values)
 }
 
 /// The cost of a start that ends at the first frame.
-WindowProcess::Cost start(const std::string &program, WindowProcess::Environment environment)
+measurement::Cost start(const std::string &program, WindowProcess::Environment environment)
 {
     environment["QT_QPA_GENERIC_PLUGINS"] = "firstframe:exit";
     WindowProcess process({program}, environment);
@@ -39,21 +38,11 @@ void startToFirstFrame()
 {
     const TemporaryFolder folder;
     const auto environment = WindowProcess::environment(folder.folder("home"), folder.folder("runtime"));
-    std::array<std::vector<double>, 4> figures; // CPU and wall time of ours, then of the empty window
-    for (size_t i = 0; i <= runs; ++i) {
-        const auto ours = start(QUILLMERE_PROGRAM, environment);
-        const auto peers = start(EMPTY_WINDOW_PROGRAM, environment);
-        if (i == 0) // the first ones warm the caches
-            continue;
-        figures[0].push_back(ours.cpu);
-        figures[1].push_back(ours.wall);
-        figures[2].push_back(peers.cpu);
-        figures[3].push_back(peers.wall);
-    }
-    measurement::printRatio("start-cpu", {median(figures[0]), median(figures[2])}, mostStart, "ms",
-                            "empty window");
-    measurement::printRatio("start-wall", {median(figures[1]), median(figures[3])}, mostStart, "ms",
-                            "empty window");
+    const auto comparison =
+        measurement::compareCosts([&environment] { return start(QUILLMERE_PROGRAM, environment); },
+                                  [&environment] { return start(EMPTY_WINDOW_PROGRAM, environment); });
+    measurement::printRatio("start-cpu", comparison.cpu, mostStart, "ms", "empty window");
+    measurement::printRatio("start-wall", comparison.wall, mostStart, "ms", "empty window");
 }
 
 /// The home folder with many files, made at its first use and kept for all benchmarks of a run.

@@ -3,7 +3,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <ctime>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -21,18 +20,6 @@ extern char **environ; // NOLINT(readability-redundant-declaration): macOS decla
 namespace {
 
 constexpr int longestWait = 120000; // milliseconds
-
-double now()
-{
-    timespec time{};
-    clock_gettime(CLOCK_MONOTONIC, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
-double seconds(const timeval &time)
-{
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-}
 
 /// Our own variables with those of `changes` in their place.
 std::vector<std::string> merged(const WindowProcess::Environment &changes)
@@ -108,7 +95,7 @@ WindowProcess::WindowProcess(const std::vector<std::string> &command, const Envi
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
     std::vector<std::string> arguments = command;
     std::vector<std::string> variables = merged(environment);
-    start_ = now();
+    start_ = measurement::now();
     const int failure = posix_spawn(&child_, command.front().c_str(), &actions, nullptr,
                                     pointers(arguments).data(), pointers(variables).data());
     posix_spawn_file_actions_destroy(&actions);
@@ -162,14 +149,14 @@ WindowProcess::Memory WindowProcess::memory() const
             mebibytes(folder + "/smaps_rollup", {"Private_Clean", "Private_Dirty"})};
 }
 
-WindowProcess::Cost WindowProcess::finish()
+measurement::Cost WindowProcess::finish()
 {
     int status = 0;
     rusage usage{};
     wait4(child_, &status, 0, &usage);
-    const double end = now();
+    const double end = measurement::now();
     child_ = 0;
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
         throw std::runtime_error("the window failed");
-    return {seconds(usage.ru_utime) + seconds(usage.ru_stime), end - start_};
+    return {measurement::seconds(usage.ru_utime) + measurement::seconds(usage.ru_stime), end - start_};
 }

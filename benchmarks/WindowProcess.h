@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Measurement.h"
 #include "TemporaryFolder.h"
 
 #include <map>
@@ -13,12 +14,6 @@
 class WindowProcess
 {
 public:
-    struct Cost
-    {
-        double cpu = 0;  ///< seconds
-        double wall = 0; ///< seconds, from the start to the end of the process
-    };
-
     struct Memory
     {
         double resident = 0; ///< MiB
@@ -47,7 +42,7 @@ public:
     Memory memory() const;
 
     /// Waits for the end of a process that ends by itself. Throws std::runtime_error when it failed.
-    Cost finish();
+    measurement::Cost finish();
 
 private:
     std::string readLine();

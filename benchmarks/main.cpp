@@ -13,7 +13,8 @@ std::vector<Benchmark> allBenchmarks()
 {
     std::vector<Benchmark> all;
     for (const std::vector<Benchmark> &group :
-         {benchmarks::ofScans(), benchmarks::ofTreemap(), benchmarks::ofHistory(), benchmarks::ofWindow()})
+         {benchmarks::ofScans(), benchmarks::ofDuplicates(), benchmarks::ofTreemap(), benchmarks::ofHistory(),
+          benchmarks::ofWindow()})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }

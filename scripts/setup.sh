@@ -1,4 +1,5 @@
-# Shared by ./run, ./test and .ci/run, which source it: what this machine must have, and how a preset is built.
+# Shared by ./run, ./test, scripts/benchmarks.sh and .ci/run, which source it: what this machine must have, and how a
+# preset is built.
 # Kept to what bash 3.2 knows up to the check of the system, so that macOS gets its message too.
 # shellcheck shell=bash
 
@@ -17,7 +18,7 @@ die()
     exit 1
 }
 
-# Prints the packages of the groups named (build, run, test, check), one a line.
+# Prints the packages of the groups named (build, run, test, check, bench), one a line.
 packagesOf()
 {
     awk -v groups=" $* " '!/^#/ && NF == 2 && index(groups, " " $1 " ") { print $2 }' "$packageFile"

@@ -42,8 +42,8 @@ Date modificationDate(const FileTable::File &file, const ContentPartition::Membe
     return own ? own->modified : dates::distantPast;
 }
 
-/// Random ids out of a generator of the run's own, which the system seeds: to ask the system itself for each of them takes
-/// a part of a scan that shows.
+/// Random ids out of a generator of the run's own, which the system seeds: to ask the system itself for each of them
+/// takes a part of a scan that shows.
 class IdSource
 {
 public:

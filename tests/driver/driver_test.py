@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Compares what quillmere-driver prints with oracles of its own: os.scandir, lstat, the real du and the real stat.
+"""Compares what quillmere-driver prints with oracles of its own: os.scandir, lstat, hashlib, the real du and stat.
 
 Usage: driver_test.py PATH-OF-THE-DRIVER [SEED]
 
@@ -7,6 +7,7 @@ The trees are random, with hostile names, links, hidden entries, holes and hard 
 tree is kept when a test fails.
 """
 
+import hashlib
 import json
 import math
 import os
@@ -128,6 +129,117 @@ class TreeMaker:
             else:
                 self.file(entry)
                 made.append(entry)
+
+
+class CopyMaker:
+    """Fills a folder with a random tree in which many files are equal, and many others nearly so."""
+
+    LENGTHS = [0, 1, 2, 6, 99, 100, 4095, 4096, 4097, 8192, 8193, 70000]
+    LARGE_LENGTHS = [(1 << 20) - 1, 1 << 20, (1 << 20) + 1, (1 << 20) + 20000]
+    NAMES = HOSTILE_NAMES + [b"node_modules", b"Node_modules", b".git", b"Library", b"LIBRARY", b"DerivedData",
+                             b"__pycache__", b".build", b"build", b".Trash", b"Libraryx", b"DerivedData "]
+
+    def __init__(self, seed):
+        self.random = random.Random(seed)
+        self.contents = {length: self.random.randbytes(length) for length in self.LENGTHS + self.LARGE_LENGTHS}
+        self.loops = 2 # links to a folder above multiply what there is to walk
+
+    def content(self):
+        """The bytes of one of few lengths, with at most one byte changed, where a reader may overlook it."""
+        lengths = self.LARGE_LENGTHS if self.random.randrange(12) == 0 else self.LENGTHS
+        content = bytearray(self.contents[self.random.choice(lengths)])
+        place = self.random.choice([None, None, 0, 4095, 4096, 8191, 8192, len(content) // 2, len(content) - 8193,
+                                    len(content) - 8192, len(content) - 1])
+        if place is not None and 0 <= place < len(content):
+            content[place] ^= 1
+        return content
+
+    def link(self, path, names):
+        targets = [b"nowhere", *names[:4]]
+        if self.loops > 0:
+            targets += [b".", b".."]
+        target = self.random.choice(targets)
+        self.loops -= target in (b".", b"..")
+        os.symlink(target, path)
+
+    def folder(self, path, depth):
+        names = self.random.sample(self.NAMES, self.random.randrange(2, 12))
+        for name in names:
+            entry = os.path.join(path, name)
+            kind = self.random.randrange(12)
+            if kind < 3 and depth > 0:
+                os.mkdir(entry)
+                self.folder(entry, depth - 1)
+            elif kind == 3:
+                self.link(entry, names)
+            elif kind == 4 and self.random.randrange(4) == 0:
+                os.mkfifo(entry)
+            else:
+                write(entry, self.content())
+
+
+class DuplicateOracle:
+    """The groups of equal files as a plain walk and hashlib find them, with no thought of cost."""
+
+    BARE_RULES = (b"node_modules", b".git", b"DerivedData", b".build", b"__pycache__")
+    LARGEST_READ_WHOLE = 1 << 20
+    SAMPLE = 8192
+
+    def __init__(self, home, minimum):
+        self.locked = [home + name for name in (b"/Library", b"/.Trash", b"/DerivedData")]
+        self.minimum = minimum
+        self.buckets = {}
+
+    @staticmethod
+    def covers(rule, path):
+        return path == rule or path.startswith(rule + b"/")
+
+    def walk(self, folder, depth, locked):
+        if depth >= 8 or folder.rsplit(b"/", 1)[1] in self.BARE_RULES or any(
+                self.covers(rule, folder) for rule in locked):
+            return
+        try:
+            names = [entry.name for entry in os.scandir(folder)]
+        except OSError:
+            return
+        for name in names:
+            path = folder + b"/" + name
+            if name.startswith(b".") or not os.path.exists(path):
+                continue
+            if os.path.isdir(path):
+                self.walk(path, depth + 1, locked)
+            elif os.lstat(path).st_size >= self.minimum: # of a link the link's own
+                self.buckets.setdefault(os.lstat(path).st_size, []).append(path)
+
+    def digest(self, path, size):
+        with open(path, "rb") as stream:
+            if size <= self.LARGEST_READ_WHOLE:
+                return hashlib.sha256(stream.read(size)).hexdigest()
+            first = stream.read(self.SAMPLE)
+            stream.seek(size - self.SAMPLE)
+            return hashlib.sha256(first + stream.read(self.SAMPLE) + size.to_bytes(8, "little")).hexdigest()
+
+    def groups(self, *roots):
+        for root in roots:
+            self.walk(root, 0, [rule for rule in self.locked if not self.covers(rule, root)])
+        result = []
+        for size, paths in self.buckets.items():
+            equal = {}
+            for path in paths:
+                if os.path.isfile(path): # no pipe
+                    equal.setdefault(self.digest(path, size), []).append(display(path))
+            result += [{"hash": digest, "size": size, "paths": shared} for digest, shared in equal.items()
+                       if len(shared) > 1]
+        return result
+
+
+def write(path, content):
+    with open(path, "wb") as stream:
+        stream.write(content)
+
+
+def waste(group):
+    return group["size"] * (len(group["paths"]) - 1)
 
 
 class DriverTest(unittest.TestCase):
@@ -325,6 +437,170 @@ class DriverTest(unittest.TestCase):
         del sizes["Applications"] # the system's own, and as large as it likes
         self.assertEqual(sizes, {"Documents": 0, "Library": library, "Downloads": 0,
                                  "Pictures": du(os.path.join(home, b"Bilder")), "Music": 0, "Desktop": 0})
+
+    # dup
+
+    def groups(self, minimum, home, *roots):
+        return self.result("dup", "--min", str(minimum), "--home", home, "--", *roots)
+
+    def assert_groups(self, groups, expected):
+        """Of groups that waste as much as each other any may come first."""
+        self.assertEqual([waste(group) for group in groups], sorted(map(waste, expected), reverse=True))
+        self.assertEqual(*(sorted(either, key=lambda group: (group["size"], group["hash"], group["paths"]))
+                           for either in (groups, expected)))
+
+    def assert_paths(self, groups, *expected):
+        """Exactly these groups, in any order, by the names of their files below the test's folder."""
+        self.assertEqual(*(sorted(sorted(paths) for paths in either) for either in (
+            [group["paths"] for group in groups], [[display(self.at(name)) for name in names] for names in expected])))
+
+    def write(self, name, content):
+        os.makedirs(os.path.dirname(self.at(name)), exist_ok=True)
+        write(self.at(name), content)
+
+    def test_dup_finds_the_groups_that_hashlib_finds(self):
+        found = 0
+        for number in range(6):
+            home = self.at(b"home %d" % number)
+            os.mkdir(home)
+            CopyMaker(SEED + number).folder(home, 4)
+            for minimum in (-1, 0, 1, 100, 4097, 1 << 20, (1 << 20) + 1):
+                expected = DuplicateOracle(home, minimum).groups(home)
+                self.assert_groups(self.groups(minimum, home), expected)
+                found += len(expected)
+        self.assertGreater(found, 6)
+
+    def test_dup_walks_its_roots_in_their_order(self):
+        home, other = self.at(b"home"), self.at(b"other \xff")
+        for number, folder in enumerate((home, other)):
+            os.mkdir(folder)
+            CopyMaker(SEED).folder(folder, 2) # the same twice
+            self.write(os.path.join(folder, b"Library", b"copy"), b"a copy")
+            self.write(os.path.join(folder, b"Library %d" % number, b"copy"), b"a copy")
+        for roots in ((other, home), (home, other), (home, other, home + b"/Library"), (home + b"/Library", home),
+                      (other, self.at(b"missing")), (home, home + b"/Library 0", home + b"/Library 0/copy")):
+            expected = DuplicateOracle(home, 1).groups(*roots)
+            self.assertGreater(len(expected), 0)
+            self.assert_groups(self.groups(1, home, *roots), expected)
+
+    def test_dup_lists_a_file_twice_that_two_roots_hold(self):
+        self.write(b"outer/inner/file", b"the only one")
+        outer, inner = self.at(b"outer"), self.at(b"outer/inner")
+        self.assert_paths(self.groups(1, self.root, outer, inner), [b"outer/inner/file", b"outer/inner/file"])
+        self.assertEqual(self.groups(1, self.root, outer, outer), []) # one root, named twice
+
+    def test_dup_takes_relative_roots(self):
+        self.write(b"a", b"same")
+        self.write(b"b", b"same")
+        relative = os.path.relpath(self.root)
+        expected = [display(os.path.join(os.getcwdb(), relative, name)) for name in (b"a", b"b")]
+        groups = self.groups(1, self.root, relative)
+        self.assertEqual([sorted(group["paths"]) for group in groups], [expected])
+
+    def test_dup_compares_up_to_a_mebibyte_whole_and_samples_beyond(self):
+        for extra in (0, 1):
+            content = bytearray(random.Random(SEED).randbytes((1 << 20) + extra))
+            for place in (None, 0, 8191, 8192, 1 << 19, len(content) - 8193, len(content) - 8192, len(content) - 1):
+                changed = bytearray(content)
+                if place is not None:
+                    changed[place] ^= 0x80
+                self.write(b"%d/%s" % (extra, str(place).encode()), changed)
+        groups = self.groups(1, self.root)
+        middles = (None, 8192, 1 << 19, (1 << 20) + 1 - 8193)
+        self.assert_paths(groups, [b"1/" + str(place).encode() for place in middles])
+        self.assert_groups(groups, DuplicateOracle(self.root, 1).groups(self.root))
+
+    def test_dup_considers_files_from_the_minimum_on(self):
+        for size in (0, 99, 100, 101):
+            self.write(b"a%d" % size, b"x" * size)
+            self.write(b"b%d" % size, b"x" * size)
+        of_size = {size: [b"a%d" % size, b"b%d" % size] for size in (0, 99, 100, 101)}
+        self.assert_paths(self.groups(100, self.root), of_size[100], of_size[101])
+        self.assert_paths(self.groups(101, self.root), of_size[101])
+        self.assert_paths(self.groups(1, self.root), of_size[99], of_size[100], of_size[101])
+        self.assert_paths(self.groups(0, self.root), *of_size.values())
+        self.assertEqual(self.succeed("dup", "--home", self.root, "--min=102"), "[]\n")
+
+    def test_dup_stays_out_of_the_folders_that_are_ignored(self):
+        seen = [b"seen", b"Libraryx/file", b"deep/Library/file", b"library/file", b"a.git/file", b"x/node_modules"]
+        for name in seen:
+            self.write(name, b"everywhere")
+        for folder in (b"Library", b".Trash", b"DerivedData", b"node_modules", b"x/y/node_modules", b".git", b".build",
+                       b"x/y/DerivedData", b"x/y/__pycache__/z", b".hidden/folder"):
+            self.write(folder + b"/file", b"everywhere")
+        self.write(b".file", b"everywhere")
+        self.assert_paths(self.groups(1, self.root), seen)
+        self.assert_paths(self.groups(1, self.root + b"//"), seen)
+
+    def test_dup_enters_a_locked_folder_that_is_a_root(self):
+        for name in (b"Library/one", b"Library/Mail/two", b"Library/Mail/.three", b"DerivedData/four"):
+            self.write(name, b"everywhere")
+        library, mail = self.at(b"Library"), self.at(b"Library/Mail")
+        self.assert_paths(self.groups(1, self.root, library), [b"Library/one", b"Library/Mail/two"])
+        self.write(b"outside", b"everywhere")
+        self.assert_paths(self.groups(1, self.root, self.root, mail), [b"outside", b"Library/Mail/two"])
+        # The name alone locks that one too.
+        self.assertEqual(self.groups(1, self.root, self.at(b"DerivedData"), self.at(b"outside")), [])
+        # Beside another home nothing but names is locked.
+        self.assert_paths(self.groups(1, b"/nowhere", self.root), [b"Library/one", b"Library/Mail/two", b"outside"])
+
+    def test_dup_goes_seven_folders_deep(self):
+        seventh = b"/".join(b"%d" % level for level in range(1, 8))
+        for name in (b"top", seventh + b"/file", seventh + b"/8/file"):
+            self.write(name, b"everywhere")
+        self.assert_paths(self.groups(1, self.root), [b"top", seventh + b"/file"])
+
+    def test_dup_follows_links_yet_sizes_them_themselves(self):
+        self.write(b"folder/file", b"12345678 and more")
+        self.write(b"elsewhere/file", b"12345678 and more")
+        os.symlink(b"elsewhere", self.at(b"way"))
+        os.symlink(b"missing", self.at(b"broken"))
+        self.write(b"eleven", b"12345678 an") # as long as the link's text, and as what is read of its target
+        os.symlink(b"folder/file", self.at(b"link"))
+        self.assert_paths(self.groups(1, self.root), [b"folder/file", b"elsewhere/file", b"way/file"],
+                          [b"eleven", b"link"])
+
+    @unittest.skipIf(os.geteuid() == 0, "nothing is locked for root")
+    def test_dup_passes_over_what_it_may_not_read(self):
+        for name in (b"a", b"b", b"locked file", b"locked/c"):
+            self.write(name, b"everywhere")
+        os.chmod(self.at(b"locked file"), 0)
+        os.chmod(self.at(b"locked"), 0)
+        try:
+            self.assert_paths(self.groups(1, self.root), [b"a", b"b"])
+        finally:
+            os.chmod(self.at(b"locked"), 0o700)
+
+    def test_dup_puts_the_most_waste_first(self):
+        counts = {(10, b"x"): 9, (79, b"x"): 2, (41, b"x"): 3, (41, b"y"): 2, (1, b"x"): 30, (1000, b"x"): 1}
+        for (size, letter), count in counts.items():
+            for number in range(count):
+                self.write(b"%d%s%d" % (size, letter, number), letter * size)
+        groups = self.groups(1, self.root)
+        self.assertEqual([(group["size"], len(group["paths"])) for group in groups],
+                         [(41, 3), (10, 9), (79, 2), (41, 2), (1, 30)])
+
+    def test_dup_prints_one_line_with_names_in_any_bytes(self):
+        names = [name for name in HOSTILE_NAMES if not name.startswith(b".")]
+        for name in names:
+            self.write(name, b"one content")
+        text = self.succeed("dup", "--min", "1", "--home", self.root)
+        paths = [display(self.at(entry.name)) for entry in os.scandir(self.root) if entry.name in names]
+        digest = hashlib.sha256(b"one content").hexdigest()
+        expected = [{"hash": digest, "paths": paths, "size": 11}]
+        self.assertEqual(text.count("\n"), 1)
+        self.assertEqual(json.loads(text, object_pairs_hook=list), [list(group.items()) for group in expected])
+        self.assertEqual(sum("\ufffd" in path for path in paths), 6)
+
+    def test_dup_refuses_bad_usage(self):
+        home = ["--home", self.root]
+        for arguments in ([], ["--min", "1"], home, [*home, "--min"], ["--min", "1", "--home"],
+                          *([*home, "--min", text] for text in ("", "x", "1.5", "1k", " 1", str(2**63))),
+                          ["--min", "1", "--home", ""], ["--min", "1", *home, ""], ["--min", "1", *home, "--count"],
+                          ["--min", "1", *home, *home], ["--min", "1", "--min", "1", *home],
+                          ["--min", "1", *home, "--layout", "other"],
+                          ["--min", "1", *home, "--layout", "linux", "--applications", "/"]):
+            self.refused("dup", *arguments)
 
     # The other verbs
 
