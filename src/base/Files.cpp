@@ -299,6 +299,8 @@ std::optional<Extent> DirectoryReader::followedExtent() const
 
 std::optional<Kind> DirectoryReader::listedKind() const
 {
+    if (faults() && fails(Operation::kind, paths::join(folder_, paths::fromBytes(name()))))
+        return std::nullopt;
     switch (entry_->d_type) {
     case DT_UNKNOWN:
         return std::nullopt;
@@ -314,6 +316,7 @@ std::optional<Kind> DirectoryReader::listedKind() const
 }
 
 FileReader::FileReader(const QByteArray &path)
+    : path_(path)
 {
     if (faults() && fails(Operation::open, paths::fromBytes(path)))
         return;
@@ -329,10 +332,22 @@ FileReader::FileReader(const QByteArray &path)
     modified_ = systemcalls::modificationDate(status);
 }
 
+FileReader::FileReader(FileReader &&other) noexcept
+    : path_(std::move(other.path_))
+    , descriptor_(std::exchange(other.descriptor_, -1))
+    , modified_(other.modified_)
+{
+}
+
 FileReader::~FileReader()
 {
     if (isOpen())
         close(descriptor_);
+}
+
+void FileReader::expect(qint64 offset, qint64 count) const
+{
+    systemcalls::expectReading(descriptor_, offset, count);
 }
 
 bool FileReader::read(qint64 offset, qint64 count, QByteArray &content) const
@@ -342,7 +357,7 @@ bool FileReader::read(qint64 offset, qint64 count, QByteArray &content) const
     qint64 done = 0;
     ssize_t got = 0;
     do {
-        got = faults() && fails(Operation::read, {})
+        got = faults() && fails(Operation::read, paths::fromBytes(path_))
                   ? -1
                   : pread(descriptor_, content.data() + start + done, static_cast<size_t>(count - done),
                           offset + done);

@@ -129,6 +129,7 @@ class FileReader
 public:
     /// `path` as the file system's own bytes (see paths::toBytes).
     explicit FileReader(const QByteArray &path);
+    FileReader(FileReader &&other) noexcept;
     ~FileReader();
     FileReader(const FileReader &) = delete;
     FileReader &operator=(const FileReader &) = delete;
@@ -139,11 +140,15 @@ public:
     /// When the content was last changed, as it was at the opening.
     Date modified() const { return modified_; }
 
+    /// Lets the disk begin to fetch these bytes, which will be read soon. Returns at once.
+    void expect(qint64 offset, qint64 count) const;
+
     /// Appends to `content` up to `count` bytes from `offset` on; fewer where the file ends. False when the
     /// disk fails to give them; what was read so far has been appended then.
     bool read(qint64 offset, qint64 count, QByteArray &content) const;
 
 private:
+    QByteArray path_; // what a test knows the file by
     int descriptor_ = -1;
     Date modified_ = dates::distantPast;
 };
@@ -151,6 +156,7 @@ private:
 /// The calls that a test can make fail.
 enum class Operation {
     list,
+    kind, ///< of `DirectoryReader`: what the listing tells of an entry; it tells nothing then
     next, ///< of `DirectoryReader`: the step to the next entry, with the folder's path
     attributes,
     open,

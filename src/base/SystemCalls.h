@@ -21,6 +21,9 @@ std::optional<files::Extent> followedExtent(int directory, const char *path);
 /// When the content was last changed; the field's name differs between systems.
 Date modificationDate(const struct stat &status);
 
+/// Tells that these bytes of an open file will be read soon.
+void expectReading(int descriptor, qint64 offset, qint64 count);
+
 /// Renames and never replaces. 0, or the error number: EEXIST when the target's name is taken.
 int renameWithoutReplacing(const char *from, const char *to);
 

@@ -13,7 +13,7 @@
 namespace {
 
 /// Beyond this, contents are read a second time where one of them turns up again.
-constexpr qsizetype mostKept = 4 << 20; // bytes, of all contents of one size
+constexpr qsizetype mostKept = 4 << 20; // bytes, of all contents and heads of one size
 
 /// Only to find candidates: what decides is the content. Seeded, so that nobody can prepare files that all collide.
 size_t hashOf(const QByteArray &content)
@@ -31,21 +31,23 @@ ContentPartition::ContentPartition(const FileTable &table, qint64 size, Sha256 &
 {
 }
 
-qint64 ContentPartition::headLength() const
+qint64 ContentPartition::headLength(qint64 size)
 {
-    return size_ > largestReadWhole ? sampleSize : std::min(size_, headSize);
+    return size > largestReadWhole ? sampleSize : std::min(size, headSize);
 }
 
-bool ContentPartition::readHead(const files::FileReader &reader, QByteArray &content) const
+/// All that is compared of a file.
+bool ContentPartition::readAll(const files::FileReader &reader, QByteArray &content) const
 {
-    return reader.read(0, headLength(), content);
+    return reader.isOpen() && reader.read(0, headLength(size_), content)
+           && (isWholeInHead() || readOn(reader, content));
 }
 
 /// From the head to the end of what is compared. A file that has shrunk gives less, which is its content then.
 bool ContentPartition::readOn(const files::FileReader &reader, QByteArray &content) const
 {
     if (size_ <= largestReadWhole)
-        return reader.read(headLength(), size_ - headLength(), content);
+        return reader.read(headLength(size_), size_ - headLength(size_), content);
     if (!reader.read(size_ - sampleSize, sampleSize, content))
         return false;
     const qint64 littleEndianSize = qToLittleEndian(size_);
@@ -53,25 +55,22 @@ bool ContentPartition::readOn(const files::FileReader &reader, QByteArray &conte
     return true;
 }
 
-bool ContentPartition::add(quint32 file)
+bool ContentPartition::add(quint32 file, const files::FileReader &reader, QByteArray head)
 {
-    const FileTable::File &entry = table_.files()[file];
-    const files::FileReader reader(table_.nativePath(entry));
-    QByteArray content;
-    if (!reader.isOpen() || !readHead(reader, content))
-        return false;
     const Member member{file, reader.modified()};
     if (isWholeInHead()) {
-        addContent(member, content);
+        addContent(member, head);
         return true;
     }
-    const auto [found, isNew] = heads_.try_emplace(hashOf(content), Head{member});
-    if (isNew)
+    const auto [found, isNew] = heads_.try_emplace(hashOf(head), Head{member, std::nullopt});
+    if (isNew) {
+        found->second.kept = keptIfRoom(head);
         return true;
+    }
     addFirst(found->second);
-    if (!readOn(reader, content))
+    if (!readOn(reader, head))
         return false;
-    addContent(member, content);
+    addContent(member, head);
     return true;
 }
 
@@ -82,7 +81,14 @@ void ContentPartition::addFirst(Head &head)
         return;
     const files::FileReader reader(table_.nativePath(table_.files()[head.first.file]));
     QByteArray content;
-    if (reader.isOpen() && readHead(reader, content) && readOn(reader, content))
+    if (head.kept) {
+        content = *head.kept;
+        keptBytes_ -= content.size();
+        head.kept.reset();
+    }
+    const bool isRead =
+        content.isEmpty() ? readAll(reader, content) : reader.isOpen() && readOn(reader, content);
+    if (isRead)
         addContent({head.first.file, reader.modified()}, content);
     else
         ++lostFiles_;
@@ -97,8 +103,7 @@ void ContentPartition::addContent(const Member &member, const QByteArray &conten
         known->equal.members.push_back(member);
         return;
     }
-    Content made{{{}, {member}}, content.size(), std::nullopt, -1};
-    keep(made, content);
+    Content made{{{}, {member}}, content.size(), keptIfRoom(content), -1};
     const auto index = static_cast<qsizetype>(contents_.size());
     const auto [first, isNew] = firstOfHash_.try_emplace(hash, index);
     if (!isNew)
@@ -129,16 +134,16 @@ bool ContentPartition::holds(const Content &known, const QByteArray &content)
     const quint32 file = known.equal.members.front().file;
     const files::FileReader reader(table_.nativePath(table_.files()[file]));
     QByteArray again;
-    return reader.isOpen() && readHead(reader, again) && (isWholeInHead() || readOn(reader, again))
-           && again == content;
+    return readAll(reader, again) && again == content;
 }
 
-void ContentPartition::keep(Content &known, const QByteArray &content)
+/// The content where it still fits into what may be kept, and counts it there.
+std::optional<QByteArray> ContentPartition::keptIfRoom(const QByteArray &content)
 {
     if (keptBytes_ + content.size() > mostKept)
-        return;
+        return std::nullopt;
     keptBytes_ += content.size();
-    known.kept = content;
+    return content;
 }
 
 std::vector<ContentPartition::Class> ContentPartition::takeShared()

@@ -43,14 +43,17 @@ public:
     /// For files of `size` bytes out of `table`. The arguments outlive it.
     ContentPartition(const FileTable &table, qint64 size, Sha256 &sha256);
 
-    /// Reads the file with that index in the table and puts it to those that are equal to it. False when it can't be
-    /// read, or is no regular file. Blocks for as long as the disk does.
-    bool add(quint32 file);
+    /// How much of the beginning of a file of `size` bytes decides whether it is read on.
+    static qint64 headLength(qint64 size);
+
+    /// Puts the file with that index in the table to those that are equal to it, reading on from its head where another
+    /// begins alike. False when it can't be read. Blocks for as long as the disk does.
+    bool add(quint32 file, const files::FileReader &reader, QByteArray head);
 
     /// How many files that were read once could not be read a second time.
     int lostFiles() const { return lostFiles_; }
 
-    /// Those with two members or more, each in the order of its second member. To be called once, at the end.
+    /// Those with two members or more, in the order of their first members. To be called once, at the end.
     std::vector<Class> takeShared();
 
 private:
@@ -58,6 +61,7 @@ private:
     struct Head
     {
         Member first;
+        std::optional<QByteArray> kept; ///< how they begin, as long as there is room for it
         bool isFirstAdded = false;
     };
 
@@ -71,14 +75,13 @@ private:
     };
 
     bool isWholeInHead() const { return size_ <= headSize; }
-    qint64 headLength() const;
-    bool readHead(const files::FileReader &reader, QByteArray &content) const;
+    bool readAll(const files::FileReader &reader, QByteArray &content) const;
     bool readOn(const files::FileReader &reader, QByteArray &content) const;
     void addFirst(Head &head);
     void addContent(const Member &member, const QByteArray &content);
     Content *equalContent(size_t hash, const QByteArray &content);
     bool holds(const Content &known, const QByteArray &content);
-    void keep(Content &known, const QByteArray &content);
+    std::optional<QByteArray> keptIfRoom(const QByteArray &content);
 
     const FileTable &table_;
     const qint64 size_;

@@ -2,6 +2,7 @@
 
 #include "duplicates/DuplicateFileEntry.h"
 
+#include <QtNumeric>
 #include <QUuid>
 
 #include <vector>

@@ -10,6 +10,8 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -41,7 +43,10 @@ DuplicateFinderView::DuplicateFinderView(const Platform &platform, DuplicateServ
 
 void DuplicateFinderView::observeService()
 {
-    connect(&service_, &DuplicateService::groupsChanged, this, &DuplicateFinderView::showGroups);
+    connect(&service_, &DuplicateService::groupsChanged, this, [this] {
+        setShowDeleteConfirm(false); // it has asked about files that are no longer what is set to go
+        showGroups();
+    });
     connect(&service_, &DuplicateService::groupsShrunk, this, [this] {
         rows_.shrink(filteredGroups());
         takeFigures();
@@ -195,7 +200,7 @@ QString DuplicateFinderView::percentText() const
 
 QString DuplicateFinderView::currentPathText() const
 {
-    return paths::display(paths::withTilde(service_.currentPath(), platform_.home));
+    return paths::display(service_.currentPath());
 }
 
 QString DuplicateFinderView::groupsFigure() const

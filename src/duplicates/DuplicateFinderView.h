@@ -9,7 +9,6 @@
 
 #include <QObject>
 
-#include <functional>
 #include <map>
 #include <optional>
 #include <vector>

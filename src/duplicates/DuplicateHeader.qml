@@ -9,8 +9,7 @@ Item {
 
     readonly property int lineHeight: Theme.unit * 10
     // In a narrow window the figures have a line of their own.
-    readonly property bool isNarrow: view.hasFigures
-                                     && title.width + figures.width + buttons.width + Theme.unit * 16 > width
+    readonly property bool isNarrow: title.width + figures.width + buttons.width + Theme.unit * 16 > width
 
     implicitHeight: isNarrow ? lineHeight * 2 + Theme.unit : lineHeight
 
@@ -36,7 +35,6 @@ Item {
         x: header.isNarrow ? 0 : title.width + Theme.unit * 8
         y: (header.lineHeight - height) / 2 + (header.isNarrow ? header.lineHeight + Theme.unit : 0)
         spacing: Theme.unit * 6
-        visible: header.view.hasFigures
 
         Figure {
             label: header.view.texts.groups

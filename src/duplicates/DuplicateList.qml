@@ -30,6 +30,10 @@ FocusScope {
                 currentIndex = 0;
         }
 
+        function closeMenus() {
+            copyMenu.close();
+            groupMenu.close();
+        }
         function openMenu(index, item) {
             if (index >= 0)
                 (holder.view.isFile(index) ? copyMenu : groupMenu).openAt(index, item);
@@ -57,6 +61,16 @@ FocusScope {
         function onRowsWillChange() {
             list.currentIndex = -1;
             list.contentY = 0;
+        }
+    }
+    // A menu is for the row that it was opened on; numbers of rows change when some go.
+    Connections {
+        target: holder.view.rows
+        function onRowsAboutToBeRemoved() {
+            list.closeMenus();
+        }
+        function onModelAboutToBeReset() {
+            list.closeMenus();
         }
     }
     CopyMenu {

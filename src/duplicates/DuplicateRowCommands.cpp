@@ -73,8 +73,9 @@ void DuplicateFinderView::quickLook(int row)
     const DuplicateFileEntry *file = fileAt(row);
     if (!file)
         return;
-    platform_.workspace.reveal(file->path);
-    platform_.workspace.quickLook(file->path);
+    const QString path = file->path; // the desktop may let the event loop turn
+    platform_.workspace.reveal(path);
+    platform_.workspace.quickLook(path);
 }
 
 void DuplicateFinderView::reveal(int row)

@@ -5,7 +5,6 @@
 #include <QAbstractListModel>
 #include <QString>
 
-#include <functional>
 #include <vector>
 
 /// The result of a scan as one flat list for QML: a row for the head of each group, then one for each of its files. All

@@ -1,22 +1,19 @@
 #include "duplicates/DuplicateScan.h"
 
 #include "base/Files.h"
+#include "base/Ids.h"
 #include "base/Paths.h"
 #include "duplicates/ContentPartition.h"
 #include "duplicates/DuplicateWalk.h"
-
-#include <QRandomGenerator>
+#include "duplicates/HeadReader.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
-#include <span>
+#include <utility>
 
 namespace duplicatescan {
 namespace {
 
-/// Files of one size, by their place in the table.
-using Bucket = std::pair<size_t, size_t>; // the first and the one behind the last
+using Bucket = HeadReader::Bucket;
 
 /// The sizes that more than one file has, the largest first, so that a run that is stopped has seen what is worth most.
 std::vector<Bucket> bucketsOf(const FileTable &table)
@@ -42,31 +39,11 @@ Date modificationDate(const FileTable::File &file, const ContentPartition::Membe
     return own ? own->modified : dates::distantPast;
 }
 
-/// Random ids out of a generator of the run's own, which the system seeds: to ask the system itself for each of them
-/// takes a part of a scan that shows.
-class IdSource
-{
-public:
-    QUuid next()
-    {
-        std::array<quint32, 4> words{};
-        random_.fillRange(words.data(), static_cast<qsizetype>(words.size()));
-        std::array<uchar, sizeof words> bytes{};
-        memcpy(bytes.data(), words.data(), bytes.size());
-        bytes[6] = (bytes[6] & 0x0F) | 0x40; // version 4: random
-        bytes[8] = (bytes[8] & 0x3F) | 0x80; // and the variant that has versions
-        return QUuid::fromRfc4122(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-    }
-
-private:
-    QRandomGenerator64 random_{QRandomGenerator64::securelySeeded()};
-};
-
 DuplicateFileGroup makeGroup(const FileTable &table, const ContentPartition::Class &equal,
-                             const QSet<QString> &marked, IdSource &ids)
+                             const QSet<QString> &marked)
 {
     DuplicateFileGroup group;
-    group.id = ids.next();
+    group.id = ids::fresh();
     group.hash = equal.digest;
     group.files.reserve(equal.members.size());
     bool hasMarked = false;
@@ -74,7 +51,7 @@ DuplicateFileGroup makeGroup(const FileTable &table, const ContentPartition::Cla
         const FileTable::File &file = table.files()[member.file];
         const QString path = paths::fromBytes(table.nativePath(file));
         group.size = file.size;
-        group.files.push_back({ids.next(), paths::lastComponent(path), path,
+        group.files.push_back({ids::fresh(), paths::lastComponent(path), path,
                                modificationDate(file, member, path), group.files.empty()});
         hasMarked = hasMarked || marked.contains(path);
     }
@@ -98,8 +75,9 @@ public:
     Result run()
     {
         const std::vector<Bucket> buckets = bucketsOf(table_);
+        HeadReader heads(table_, buckets);
         for (size_t done = 0; done < buckets.size() && !hooks_.isCancelled();) {
-            compare(buckets[done]);
+            compare(buckets[done], heads);
             hooks_.bucketDone(++done, buckets.size());
         }
         result_.wasCancelled = hooks_.isCancelled();
@@ -107,23 +85,23 @@ public:
     }
 
 private:
-    void compare(const Bucket &bucket)
+    void compare(const Bucket &bucket, HeadReader &heads)
     {
         ContentPartition partition(table_, table_.files()[bucket.first].size, sha256_);
         for (size_t file = bucket.first; file < bucket.second && !hooks_.isCancelled(); ++file) {
-            if (!partition.add(static_cast<quint32>(file)))
+            HeadReader::Head head = heads.next();
+            if (!head.isRead || !partition.add(head.file, head.reader, std::move(head.content)))
                 ++result_.hashFailureCount;
         }
         result_.hashFailureCount += partition.lostFiles();
         for (const ContentPartition::Class &equal : partition.takeShared())
-            result_.groups.push_back(makeGroup(table_, equal, request_.markedForDeletion, ids_));
+            result_.groups.push_back(makeGroup(table_, equal, request_.markedForDeletion));
     }
 
     const FileTable &table_;
     const Request &request_;
     const Hooks &hooks_;
     Sha256 sha256_;
-    IdSource ids_;
     Result result_;
 };
 
@@ -137,8 +115,12 @@ void sortByWaste(std::vector<DuplicateFileGroup> &groups)
 
 } // namespace
 
-Result run(const Request &request, const Hooks &hooks)
+Result run(const Request &request, const Hooks &given)
 {
+    // A run that has once seen that it is cancelled is, whatever becomes of the flag.
+    bool isCancelled = false;
+    Hooks hooks = given;
+    hooks.isCancelled = [&] { return isCancelled = isCancelled || given.isCancelled(); };
     FileTable table;
     const DuplicateWalk::Hooks walkHooks{hooks.isCancelled, hooks.entered};
     DuplicateWalk walk(table, request.minFileSize, walkHooks);

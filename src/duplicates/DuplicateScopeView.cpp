@@ -86,7 +86,7 @@ QString DuplicateScopeView::ruleSymbol(const QString &rule) const
 {
     if (service_.isOverridden(rule))
         return QStringLiteral("lock.open.fill");
-    return service_.isBuiltIn(rule) ? QStringLiteral("lock.fill") : QString();
+    return service_.isBuiltIn(rule) ? QStringLiteral("lock.fill") : QStringLiteral("folder.badge.minus");
 }
 
 QString DuplicateScopeView::ruleTip(const QString &rule) const
@@ -125,20 +125,21 @@ QString DuplicateScopeView::minSizeText() const
     return index < 0 ? sizeText(service_.minFileSize()) : minSizeOptions()[static_cast<size_t>(index)].label;
 }
 
-void DuplicateScopeView::chooseFolder(const QString &message, const QString &start,
-                                      void (DuplicateService::*use)(const QString &folder))
+void DuplicateScopeView::chooseFolder(
+    const QString &message, const QString &start,
+    const std::function<void(DuplicateService &service, const QString &folder)> &use)
 {
     platform_.workspace.chooseFolder(
         {message, start}, [service = QPointer(&service_), use](const std::optional<QString> &folder) {
             if (service && folder)
-                (service->*use)(*folder);
+                use(*service, *folder);
         });
 }
 
 void DuplicateScopeView::addFolder()
 {
     chooseFolder(QStringLiteral("Select a directory to scan for duplicates"), {},
-                 &DuplicateService::addScanPath);
+                 std::mem_fn(&DuplicateService::addScanPath));
 }
 
 void DuplicateScopeView::dropFolders(const QList<QUrl> &urls)
@@ -160,12 +161,9 @@ void DuplicateScopeView::changeScanPath(int row)
     const QString old = at(scanPathRows_, row);
     if (old.isEmpty())
         return;
-    platform_.workspace.chooseFolder(
-        {QStringLiteral("Choose a different folder to scan"), old},
-        [service = QPointer(&service_), old](const std::optional<QString> &folder) {
-            if (service && folder)
-                service->replaceScanPath(old, *folder);
-        });
+    chooseFolder(
+        QStringLiteral("Choose a different folder to scan"), old,
+        [old](DuplicateService &service, const QString &folder) { service.replaceScanPath(old, folder); });
 }
 
 void DuplicateScopeView::removeScanPath(int row)
@@ -178,7 +176,7 @@ void DuplicateScopeView::removeScanPath(int row)
 void DuplicateScopeView::addExclusion()
 {
     chooseFolder(QStringLiteral("Select a directory to exclude from scanning"), {},
-                 &DuplicateService::addIgnorePath);
+                 std::mem_fn(&DuplicateService::addIgnorePath));
 }
 
 void DuplicateScopeView::removeExclusion(int row)

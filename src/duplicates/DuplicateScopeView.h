@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <functional>
 #include <vector>
 
 /// The panel of the Duplicate Finder that says what a scan looks at: the folders, the rules that keep it out of some, and
@@ -36,7 +37,7 @@ public:
 
     /// Rows: pathText.
     QAbstractItemModel *scanPaths() { return &scanPathRows_; }
-    /// Rows: ruleText, symbol and tip (both empty for a rule of the user's own), isOverridden, canBeRemoved.
+    /// Rows: ruleText, symbol, tip (empty for a rule of the user's own), isOverridden, canBeRemoved.
     QAbstractItemModel *rules() { return &ruleRows_; }
     bool hasScanPaths() const { return !service_.scanPaths().isEmpty(); }
     QStringList minSizeLabels() const;
@@ -64,7 +65,7 @@ private:
     QString ruleTip(const QString &rule) const;
     bool canBeRemoved(const QString &rule) const;
     void chooseFolder(const QString &message, const QString &start,
-                      void (DuplicateService::*use)(const QString &folder));
+                      const std::function<void(DuplicateService &service, const QString &folder)> &use);
 
     const Platform &platform_;
     DuplicateService &service_;

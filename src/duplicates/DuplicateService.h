@@ -57,7 +57,10 @@ public:
         return currentPath_;
     } ///< the folder being walked, or a stage's text
     const QSet<QString> &markedForDeletion() const { return markedForDeletion_; } ///< marked one by one
-    int hashFailureCount() const { return hashFailureCount_; } ///< unreadable files of the last finished scan
+    int hashFailureCount() const
+    {
+        return hashFailureCount_;
+    } ///< files not opened or read in the last finished scan
     const QStringList &scanPaths() const { return scanPaths_; }
     const QStringList &ignorePaths() const { return ignorePaths_; }
     qint64 minFileSize() const { return minFileSize_; }
@@ -91,7 +94,8 @@ public:
     /// A built-in rule that a scan path leads into, so that its folder is scanned after all.
     bool isOverridden(const QString &rule) const;
 
-    // Which copies stay. Those of groups know them by id or index; one that is not there is passed over.
+    // Which copies stay. A group is known by its index in `groups`, not in a filtered list, or by its id; what is not
+    // there is passed over.
 
     /// The index of a group in `groups`; none when it is not there (any more).
     std::optional<size_t> indexOf(const QUuid &group) const;

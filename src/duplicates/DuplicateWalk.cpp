@@ -19,15 +19,16 @@ Visit visitOf(const files::Extent &own)
     return {own.isDirectory() ? Visit::As::folder : Visit::As::file, own.size, false};
 }
 
-/// A link is what it leads to, yet has its own size; one that leads nowhere is nothing.
-Visit visitOfLink(const files::DirectoryReader &reader)
+/// A link is what it leads to, yet has its own size; one that leads nowhere is nothing. `own` may be known already.
+Visit visitOfLink(const files::DirectoryReader &reader, std::optional<files::Extent> own)
 {
     const auto target = reader.followedExtent();
     if (!target)
         return {};
     if (target->isDirectory())
         return {Visit::As::folder, 0, true};
-    const auto own = reader.extent();
+    if (!own)
+        own = reader.extent();
     return {Visit::As::file, own ? own->size : 0, true};
 }
 
@@ -38,15 +39,11 @@ Visit visitOf(const files::DirectoryReader &reader)
     if (listed == files::Kind::directory)
         return {Visit::As::folder, 0, false};
     if (listed == files::Kind::link)
-        return visitOfLink(reader);
+        return visitOfLink(reader, std::nullopt);
     const auto own = reader.extent();
     if (!own) // it has just gone
         return {};
-    if (listed || own->kind != files::Kind::link)
-        return visitOf(*own);
-    const auto target = reader.followedExtent();
-    return target ? Visit{target->isDirectory() ? Visit::As::folder : Visit::As::file, own->size, true}
-                  : Visit{};
+    return own->kind == files::Kind::link ? visitOfLink(reader, own) : visitOf(*own);
 }
 
 } // namespace

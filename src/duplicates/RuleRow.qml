@@ -30,7 +30,7 @@ Item {
         id: icon
         x: Theme.unit * 2
         anchors.verticalCenter: parent.verticalCenter
-        name: row.symbol.length > 0 ? row.symbol : "folder.badge.minus"
+        name: row.symbol
         size: 13
         color: row.isOverridden ? Theme.amber : Theme.secondText
     }

@@ -1,13 +1,10 @@
 #include "filesystem/FileSystemService.h"
 
 #include "base/Files.h"
+#include "base/Ids.h"
 #include "base/Paths.h"
 
-#include <QRandomGenerator>
-
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <limits>
 #include <memory>
 
@@ -62,21 +59,9 @@ private:
     qint64 smallestKept_ = std::numeric_limits<qint64>::min();
 };
 
-/// A random identifier. QUuid's own function asks the processor's source of randomness for each, which takes longer
-/// than reading the attributes of the entry that it is for.
-QUuid freshId()
-{
-    std::array<quint32, 4> words{};
-    QRandomGenerator::global()->fillRange(words.data(), words.size());
-    auto bytes = std::bit_cast<std::array<char, 16>>(words);
-    bytes[6] = static_cast<char>((bytes[6] & 0x0F) | 0x40); // of the kind "random"
-    bytes[8] = static_cast<char>((bytes[8] & 0x3F) | 0x80); // in the usual layout
-    return QUuid::fromRfc4122({bytes.data(), bytes.size()});
-}
-
 FileEntry folderEntry(const QString &path, qint64 size)
 {
-    return {freshId(), paths::lastComponent(path), path, size, true, std::nullopt};
+    return {ids::fresh(), paths::lastComponent(path), path, size, true, std::nullopt};
 }
 
 void addChecked(qint64 &total, qint64 size)
@@ -95,7 +80,8 @@ std::vector<FileEntry> entriesOf(const QString &folder, std::vector<Candidate> c
             continue;
         }
         const QString name = paths::fromBytes(candidate.name);
-        children.push_back({freshId(), name, paths::join(folder, name), candidate.size, false, std::nullopt});
+        children.push_back(
+            {ids::fresh(), name, paths::join(folder, name), candidate.size, false, std::nullopt});
     }
     return children;
 }
@@ -103,7 +89,7 @@ std::vector<FileEntry> entriesOf(const QString &folder, std::vector<Candidate> c
 FileItem itemFrom(const QString &path, const QString &name, const files::Attributes &attributes)
 {
     FileItem item;
-    item.id = freshId();
+    item.id = ids::fresh();
     item.name = name;
     item.path = path;
     item.size = attributes.size;

@@ -22,7 +22,7 @@ public:
     std::map<QString, int> questions; ///< for attributes, by path
     QStringList listed;               ///< folders, in order
     QStringList opened;               ///< files, in order
-    int reads = 0;
+    QStringList readFiles;            ///< likewise, each read of them
 
 private:
     void count(files::Operation operation, const QString &path)
@@ -34,7 +34,7 @@ private:
         if (operation == files::Operation::open)
             opened << path;
         if (operation == files::Operation::read)
-            ++reads;
+            readFiles << path;
     }
 
     InjectedFaults faults_;

@@ -1,5 +1,6 @@
 #include "duplicates/ContentPartition.h"
 
+#include "base/Files.h"
 #include "base/Paths.h"
 #include "CallCounts.h"
 #include "Contents.h"
@@ -55,6 +56,16 @@ protected:
 
     void remove(quint32 index) { ASSERT_EQ(unlink(paths::toBytes(at(index)).constData()), 0); }
 
+    /// A file of the table, opened and handed over with its head.
+    bool add(ContentPartition &parts, quint32 index)
+    {
+        const FileTable::File &file = table.files()[index];
+        const files::FileReader reader(table.nativePath(file));
+        QByteArray head;
+        return reader.isOpen() && reader.read(0, ContentPartition::headLength(file.size), head)
+               && parts.add(index, reader, head);
+    }
+
     /// All files of the table, which are of one size, put to their likes.
     std::vector<ContentPartition::Class> partition(const std::function<void(quint32)> &before = {})
     {
@@ -63,7 +74,7 @@ protected:
         for (quint32 index = 0; index < table.files().size(); ++index) {
             if (before)
                 before(index);
-            failures += parts.add(index) ? 0 : 1;
+            failures += add(parts, index) ? 0 : 1;
         }
         lost = parts.lostFiles();
         return parts.takeShared();
@@ -177,7 +188,7 @@ TEST_F(ContentPartitionTest, readsAFileWhoseBeginningNoOtherHasNoFurther)
     const CallCounts calls;
     EXPECT_TRUE(partition().empty());
     EXPECT_EQ(calls.opened, QStringList({at(0), at(1), at(2)}));
-    EXPECT_EQ(calls.reads, 3) << "of the first 4 KiB";
+    EXPECT_EQ(calls.readFiles.size(), 3) << "of the first 4 KiB";
 }
 
 TEST_F(ContentPartitionTest, readsOnWhereFilesBeginAlike)
@@ -187,7 +198,7 @@ TEST_F(ContentPartitionTest, readsOnWhereFilesBeginAlike)
     const CallCounts calls;
     EXPECT_EQ(byDigest(partition()), (Members{{contents::sha256(content), {0, 3}}}));
     EXPECT_EQ(calls.opened, QStringList({at(0), at(1), at(2), at(0), at(3)})) << "the first one again, once";
-    EXPECT_EQ(calls.reads, 4 + 1 + 3) << "four beginnings, the first one again, three ends";
+    EXPECT_EQ(calls.readFiles.size(), 4 + 3) << "four beginnings, three ends";
 }
 
 TEST_F(ContentPartitionTest, readsALargeFileTwiceAtMostWhateverItsSize)
@@ -199,7 +210,7 @@ TEST_F(ContentPartitionTest, readsALargeFileTwiceAtMostWhateverItsSize)
     const CallCounts calls;
     ASSERT_EQ(partition().size(), 1U);
     EXPECT_EQ(calls.opened.size(), 5);
-    EXPECT_EQ(calls.reads, 4 * 2 + 1) << "both ends of each, and the first one's beginning again";
+    EXPECT_EQ(calls.readFiles.size(), 4 * 2) << "both ends of each";
 }
 
 TEST_F(ContentPartitionTest, readsASmallFileOnce)
@@ -208,7 +219,7 @@ TEST_F(ContentPartitionTest, readsASmallFileOnce)
     const CallCounts calls;
     ASSERT_EQ(partition().size(), 1U);
     EXPECT_EQ(calls.opened.size(), 3);
-    EXPECT_EQ(calls.reads, 3);
+    EXPECT_EQ(calls.readFiles.size(), 3);
 }
 
 TEST_F(ContentPartitionTest, findsEqualFilesAmongMoreContentThanItKeeps)
@@ -281,10 +292,10 @@ TEST_F(ContentPartitionTest, countsAFileOnceThatVanishesBeforeItIsReadOn)
 TEST_F(ContentPartitionTest, countsAFileOnceThatFailsToBeRead)
 {
     const QByteArray content = filled(10000);
-    for (const int failing : {1, 2, 3, 4, 5}) {
+    for (const int failing : {1, 2, 3, 4}) {
         restart();
         addFiles({content, content});
-        int reads = 0; // 0's beginning, 1's, 0's again, 0's end, 1's end
+        int reads = 0; // 0's beginning, 1's, 0's end, 1's end
         const InjectedFaults fault([&](files::Operation operation, const QString &) {
             return operation == files::Operation::read && ++reads == failing ? EIO : 0;
         });

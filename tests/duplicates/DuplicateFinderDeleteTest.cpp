@@ -222,6 +222,17 @@ TEST_F(DuplicateFinderDelete, disablesItsCommandsUntilItEnds)
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
+TEST_F(DuplicateFinderDelete, isNoLongerAskedAboutOnceAScanHasReplacedTheGroups)
+{
+    view->askToDelete();
+    test.notifications.post(notifications::rescan);
+    test.settle();
+    EXPECT_FALSE(view->showDeleteConfirm());
+    view->confirmDelete();
+    test.settle();
+    EXPECT_TRUE(test.recycler.recycled.isEmpty());
+}
+
 TEST_F(DuplicateFinderDelete, isStartedOnceByTwoClicksOnTheDialog)
 {
     view->askToDelete();

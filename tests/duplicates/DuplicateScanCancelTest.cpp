@@ -84,14 +84,14 @@ TEST(DuplicateScan, givesTheGroupsAmongWhatWasComparedWhenItIsCancelledWithinASi
     bool isCancelled = false;
     run.isCancelled = [&isCancelled] { return isCancelled; };
     const CallCounts calls([&](files::Operation operation, const QString &path) {
-        isCancelled = isCancelled || (operation == files::Operation::open && path == home.files[2]);
+        isCancelled = isCancelled || (operation == files::Operation::read && path == home.files[2]);
         return 0;
     });
     const auto result = run.run();
     EXPECT_TRUE(result.wasCancelled);
     EXPECT_FALSE(result.wasCancelledInWalk);
     EXPECT_EQ(ScanRun::paths(result), Groups{home.files.first(3)}) << "the file under way is read";
-    EXPECT_EQ(calls.opened, home.files.first(3));
+    EXPECT_EQ(calls.readFiles, home.files.first(3));
     EXPECT_EQ(run.done, (Done{{1, 1}}));
 }
 

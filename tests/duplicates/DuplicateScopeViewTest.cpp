@@ -120,7 +120,7 @@ TEST_F(DuplicateScopeViewTest, tellsAViewOfTheLockThatOpens)
 TEST_F(DuplicateScopeViewTest, hasNoLockOnARuleOfTheUsersOwn)
 {
     duplicates.addIgnorePath(home); // and a scan path as well, which is no override
-    EXPECT_EQ(rule(u"~"_s, "symbol"), QString());
+    EXPECT_EQ(rule(u"~"_s, "symbol"), u"folder.badge.minus"_s);
     EXPECT_EQ(rule(u"~"_s, "tip"), QString());
     EXPECT_EQ(rule(u"~"_s, "isOverridden"), false);
     EXPECT_EQ(rule(u"~"_s, "canBeRemoved"), true);

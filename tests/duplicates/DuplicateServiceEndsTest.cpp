@@ -58,7 +58,7 @@ TEST_F(DuplicateServiceEnds, cancelInTheHashPassLeavesWhatItFoundSorted)
     services.file("one/seven", QByteArray(7, 'x'));
     services.file("two/seven", QByteArray(7, 'x'));
     services.useScanPaths({"one", "two", "three"});
-    const auto cancel = cancelOn(files::Operation::open, "one/eight");
+    const auto cancel = cancelOn(files::Operation::read, "one/eight");
     runJob();
     const QStringList seen = stepped();
     // The bucket in which the cancel came counts as done, and the last one is not begun.
@@ -77,7 +77,7 @@ TEST_F(DuplicateServiceEnds, cancelInABucketKeepsTheGroupsOfWhatWasHashedOfIt)
     for (const char *folder : {"one", "two", "three"})
         services.file(QStringLiteral("%1/x").arg(folder));
     services.useScanPaths({"one", "two", "three"});
-    const auto cancel = cancelOn(files::Operation::open, "two/x");
+    const auto cancel = cancelOn(files::Operation::read, "two/x");
     services.scan();
     EXPECT_EQ(fields(), "rests 0 'Cancelled' groups 1 failures 0");
     EXPECT_EQ(services.shown(), QStringList{"5: one/x two/x-"});
@@ -88,7 +88,7 @@ TEST_F(DuplicateServiceEnds, cancelAtTheLastFileIsOneAllTheSame)
     services.file("one/x");
     services.file("two/x");
     services.useScanPaths({"one", "two"});
-    const auto cancel = cancelOn(files::Operation::open, "two/x");
+    const auto cancel = cancelOn(files::Operation::read, "two/x");
     services.scan();
     EXPECT_EQ(fields(), "rests 0 'Cancelled' groups 1 failures 0");
 }

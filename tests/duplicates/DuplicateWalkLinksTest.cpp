@@ -1,8 +1,11 @@
 #include "duplicates/DuplicateWalk.h"
 
+#include "filesystem/InjectedFaults.h"
 #include "support/TempHome.h"
 #include "Walk.h"
 
+#include <cerrno>
+#include <map>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -67,4 +70,32 @@ TEST(DuplicateWalk, passesLinksOverThatLeadNowhere)
     const Walk walk(temp.path());
     EXPECT_EQ(walk.found(), QStringList());
     EXPECT_EQ(walk.entered, QStringList(temp.path()));
+}
+
+// Some file systems tell nothing of an entry but its name.
+TEST(DuplicateWalk, findsTheSameWhereAListingTellsNoKinds)
+{
+    const TempHome temp;
+    temp.file(u"home/plain"_s, "12345");
+    temp.file(u"home/folder/inside"_s, "1");
+    temp.link(u"home/toFile"_s, u"plain"_s);
+    temp.link(u"home/toFolder"_s, u"folder"_s);
+    temp.link(u"home/toNothing"_s, u"missing"_s);
+    const Walk told(temp.at(u"home"_s));
+    std::map<QString, int> questions;
+    const InjectedFaults silent([&questions](files::Operation operation, const QString &path) {
+        if (operation == files::Operation::attributes)
+            ++questions[path];
+        return operation == files::Operation::kind ? ENOTSUP : 0;
+    });
+    const Walk untold(temp.at(u"home"_s));
+    EXPECT_EQ(untold.found(), told.found());
+    EXPECT_EQ(untold.entered, told.entered);
+    EXPECT_EQ(told.found().size(), 4);
+    for (size_t i = 0; i < told.table.files().size(); ++i) {
+        EXPECT_EQ(untold.table.files()[i].size, told.table.files()[i].size);
+        EXPECT_EQ(untold.table.files()[i].isLink, told.table.files()[i].isLink);
+    }
+    for (const auto &[path, count] : questions)
+        EXPECT_LE(count, path.contains(u"/to"_s) ? 2 : 1) << path.toStdString();
 }

@@ -5,7 +5,7 @@
 DiskGate::DiskGate()
 {
     files::injectFaults([this](files::Operation operation, const QString &path) {
-        if (operation == files::Operation::list || operation == files::Operation::open)
+        if (operation == files::Operation::list || operation == files::Operation::read)
             pass(path);
         return 0;
     });

@@ -5,7 +5,7 @@
 #include <condition_variable>
 #include <mutex>
 
-/// A disk that can be slow at one place: while the gate is shut there, whoever lists that folder or opens that file waits.
+/// A disk that can be slow at one place: while the gate is shut there, whoever lists that folder or reads that file waits.
 /// Never to be shut where the main thread looks. One a process, and made before any work begins on the disk.
 class DiskGate
 {

@@ -11,7 +11,7 @@ ScopeCase {
         compare(scanButton().text, "Start Scan");
         verify(scanButton().enabled);
         verify(!list() && !foot() && !progress() && !Program.named("stopButton"));
-        compare(figure("Groups"), null);
+        compare(figure("Groups"), "0");
         for (const text of ["Select All Duplicates", "Select None", "Keep Newest", "Keep Oldest"])
             verify(!Program.itemWith("text", screen(), text).enabled, text);
     }

@@ -21,7 +21,7 @@ DuplicatesCase {
         compare(texts(), ["0%", path("b")]);
         verify(!list());
         verify(!foot());
-        compare(figure("Groups"), null);
+        compare(figure("Groups"), "0");
         compare(scanButton().text, "Start Scan");
         verify(!scanButton().enabled);
         Program.picture("duplicates-scanning");

@@ -102,7 +102,7 @@ ScopeCase {
         compare(Program.folderMessage(), "Select a directory to exclude from scanning");
         compare(rules().length, 9);
         const row = rule("~/Movies");
-        compare(row.symbol, "");
+        compare(row.symbol, "folder.badge.minus");
         mouseMove(Program.named("removeExclusion", row));
         find("Remove exclusion");
         Program.picture("scope-exclusion");

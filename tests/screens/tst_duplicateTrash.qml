@@ -132,6 +132,17 @@ DuplicatesCase {
         compare(gone(), usuallyGoing);
     }
 
+    // Numbers of rows change when some go, so a menu of before would be for another file.
+    function test_menuThatIsOpenAsTheRunEndsCloses() {
+        whileRecycling(beginRun, () => {
+            list().forceActiveFocus();
+            list().currentIndex = 1;
+            openContextMenu(() => press(Qt.Key_Menu));
+        });
+        tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
+        compare(gone(), usuallyGoing);
+    }
+
     function test_nothingElseCanBeDoneMeanwhile() {
         whileRecycling(beginRun, () => {
             clickFile("a/film.mov");

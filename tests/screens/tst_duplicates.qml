@@ -57,7 +57,7 @@ DuplicatesCase {
         compare(scanButton().text, "Start Scan");
         verify(!list());
         verify(!foot());
-        compare(figure("Groups"), null);
+        compare(figure("Groups"), "0");
         verify(!Program.itemWith("text", screen(), "Select None").enabled);
         Program.picture("duplicates-start");
     }

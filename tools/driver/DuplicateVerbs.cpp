@@ -54,6 +54,7 @@ void duplicates(const Arguments &arguments)
     DuplicateService service(
         platform.platform(), platform.fileSystem(), platform.access(),
         [&platform]() -> HistoryService & { return HistoryService::shared(platform.platform()); });
+    // A scan records nothing, so that no log is made in the home folder.
     service.setMinFileSize(arguments.integer(minOption));
     if (!arguments.operands().isEmpty())
         service.removeScanPath(platform.platform().home);

@@ -86,6 +86,12 @@ Date modificationDate(const struct stat &status)
     return dates::fromUnix(status.st_mtim.tv_sec, status.st_mtim.tv_nsec);
 }
 
+void expectReading(int descriptor, qint64 offset, qint64 count)
+{
+    posix_fadvise(descriptor, offset, count,
+                  POSIX_FADV_WILLNEED); // advice: whether it is taken does not matter
+}
+
 int renameWithoutReplacing(const char *from, const char *to)
 {
     if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0)
