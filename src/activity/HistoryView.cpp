@@ -76,7 +76,7 @@ QStringList shownPaths(const HistoryEntry &entry)
 {
     QStringList shown;
     for (const QString &path : entry.paths.first(std::min(entry.paths.size(), mostShownPaths)))
-        shown << paths::display(path);
+        shown << paths::inOneLine(path);
     return shown;
 }
 

@@ -127,6 +127,9 @@ private:
 class FileReader
 {
 public:
+    /// Nothing open.
+    FileReader() = default;
+
     /// `path` as the file system's own bytes (see paths::toBytes).
     explicit FileReader(const QByteArray &path);
     FileReader(FileReader &&other) noexcept;

@@ -97,6 +97,23 @@ QString display(const QString &text)
     return shown;
 }
 
+QString inOneLine(const QString &text)
+{
+    constexpr char16_t controlPictures = 0x2400; // plus the control character
+    QString line = display(text);
+    for (QChar &character : line) {
+        const char16_t code = character.unicode();
+        const bool isDirection = (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+        if (code < 0x20)
+            character = QChar(static_cast<char16_t>(controlPictures + code));
+        else if (code == 0x7F)
+            character = QChar(u'\u2421');
+        else if ((code >= 0x80 && code < 0xA0) || code == 0x2028 || code == 0x2029 || isDirection)
+            character = QChar::ReplacementCharacter;
+    }
+    return line;
+}
+
 QString parent(const QString &path)
 {
     QStringView text = path;

@@ -21,6 +21,10 @@ QByteArray toBytes(QStringView path);
 /// becomes U+FFFD.
 QString display(const QString &text);
 
+/// The same for one line on a screen: characters that would break it, or change the order of what stands around them,
+/// show as signs of their own, so that two names never look alike for them.
+QString inOneLine(const QString &text);
+
 /// "/a/b" of "/a/b/c". "/" of "/c" and of "/"; empty for a relative name.
 QString parent(const QString &path);
 

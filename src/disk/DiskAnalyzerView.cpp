@@ -33,10 +33,10 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
     , fileSystem_(fileSystem)
     , tickClock_(platform.clock.now())
     , ticker_(platform.mainQueue)
-    , breadcrumbRows_({{"entryName", [](const Entry &entry) { return paths::display(entry->name); }}})
+    , breadcrumbRows_({{"entryName", [](const Entry &entry) { return paths::inOneLine(entry->name); }}})
     , contentRows_({
           {"symbol", [](const Row &row) { return analyzer::rowSymbol(*row.entry); }},
-          {"entryName", [](const Row &row) { return paths::display(row.entry->name); }},
+          {"entryName", [](const Row &row) { return paths::inOneLine(row.entry->name); }},
           {"sizeText", [](const Row &row) { return sizeText(row.entry->size); }},
           {"shareText", [](const Row &row) { return analyzer::shareText(row.share); }},
           {"share", [](const Row &row) { return row.share; }},
@@ -79,13 +79,13 @@ QString DiskAnalyzerView::refreshSequence() const
 
 QString DiskAnalyzerView::progressText() const
 {
-    return QStringLiteral("Scanning %1").arg(paths::display(diskService_.analyzerScanPath()));
+    return QStringLiteral("Scanning %1").arg(paths::inOneLine(diskService_.analyzerScanPath()));
 }
 
 QString DiskAnalyzerView::location() const
 {
     const Entry entry = currentEntry();
-    return entry ? paths::display(entry->path) : QString();
+    return entry ? paths::inOneLine(entry->path) : QString();
 }
 
 LastScannedPill DiskAnalyzerView::pill() const
@@ -130,8 +130,9 @@ QString DiskAnalyzerView::parentRowText() const
 {
     if (breadcrumb_.empty())
         return {};
-    const QString parent = breadcrumb_.size() > 1 ? paths::display(breadcrumb_[breadcrumb_.size() - 2]->name)
-                                                  : QStringLiteral("Home");
+    const QString parent = breadcrumb_.size() > 1
+                               ? paths::inOneLine(breadcrumb_[breadcrumb_.size() - 2]->name)
+                               : QStringLiteral("Home");
     return QStringLiteral("..  ") + parent;
 }
 

@@ -40,7 +40,7 @@ bool hasLabel(const TreemapItem &item)
 TreemapView::TreemapView(QObject *parent)
     : QObject(parent)
     , tiles_({
-          {"tileName", [](const TreemapItem &item) { return paths::display(item.name); }},
+          {"tileName", [](const TreemapItem &item) { return paths::inOneLine(item.name); }},
           {"sizeText", [](const TreemapItem &item) { return tileSizeText(item.size); }},
           {"tileColor", [](const TreemapItem &item) { return colorText(item.color); }},
           {"labelColor", [](const TreemapItem &item) { return labelColor(item.color); }},

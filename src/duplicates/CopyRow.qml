@@ -82,7 +82,7 @@ T.ItemDelegate {
     }
     Tip {
         control: row
-        isDue: row.hovered && !row.down && !reveal.hovered
+        isDue: row.enabled && row.hovered && !row.down && !reveal.hovered
         text: row.tip
     }
     // No TapHandler: it would make the row take the right button for a click of its own.

@@ -190,7 +190,7 @@ QString DuplicateFinderView::emptyText() const
 
 QString DuplicateFinderView::endText() const
 {
-    return isScanning() ? QString() : paths::display(service_.currentPath());
+    return isScanning() ? QString() : paths::inOneLine(service_.currentPath());
 }
 
 QString DuplicateFinderView::percentText() const
@@ -200,7 +200,7 @@ QString DuplicateFinderView::percentText() const
 
 QString DuplicateFinderView::currentPathText() const
 {
-    return paths::display(service_.currentPath());
+    return paths::inOneLine(service_.currentPath());
 }
 
 QString DuplicateFinderView::groupsFigure() const

@@ -82,7 +82,7 @@ Item {
             enabled: header.view.canStop
             text: header.view.stopText
             symbol: "xmark"
-            tip: header.view.texts.stopTip
+            tip: enabled ? header.view.texts.stopTip : ""
             onClicked: header.view.stop()
         }
         ActionButton {

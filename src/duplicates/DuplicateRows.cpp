@@ -63,7 +63,7 @@ QString summary(const DuplicateFileGroup &group)
 
 QString headTitle(const DuplicateFileGroup &group)
 {
-    return group.files.empty() ? QStringLiteral("Unknown") : paths::display(group.files.front().name);
+    return group.files.empty() ? QStringLiteral("Unknown") : paths::inOneLine(group.files.front().name);
 }
 
 QString badge(const DuplicateFileEntry &file)
@@ -203,9 +203,9 @@ QVariant DuplicateRows::fileData(const Row &row, int role) const
     const DuplicateFileEntry &file = groups_[row.group].files[static_cast<size_t>(row.file)];
     switch (role) {
     case titleRole:
-        return paths::display(file.name);
+        return paths::inOneLine(file.name);
     case detailRole:
-        return paths::display(paths::withTilde(file.path, home_));
+        return paths::inOneLine(paths::withTilde(file.path, home_));
     case trailingRole:
         return datetexts::mediumDay(file.modified);
     case keepRole:
@@ -218,7 +218,7 @@ QVariant DuplicateRows::fileData(const Row &row, int role) const
         return file.keep ? QStringLiteral("Click to mark this copy for deletion")
                          : QStringLiteral("Click to keep this copy");
     case spokenRole:
-        return badge(file) + QStringLiteral(", ") + paths::display(paths::withTilde(file.path, home_))
+        return badge(file) + QStringLiteral(", ") + paths::inOneLine(paths::withTilde(file.path, home_))
                + QStringLiteral(", ") + datetexts::mediumDay(file.modified);
     default:
         return {};

@@ -79,7 +79,7 @@ void DuplicateScopeView::takeScope()
 
 QString DuplicateScopeView::ruleText(const QString &rule) const
 {
-    return paths::display(paths::withTilde(rule, platform_.home));
+    return paths::inOneLine(paths::withTilde(rule, platform_.home));
 }
 
 QString DuplicateScopeView::ruleSymbol(const QString &rule) const

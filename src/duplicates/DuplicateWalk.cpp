@@ -12,11 +12,13 @@ struct Visit
     As as = As::nothing;
     qint64 size = 0;
     bool isLink = false;
+    bool isRegular = true; // of a file, links followed
 };
 
 Visit visitOf(const files::Extent &own)
 {
-    return {own.isDirectory() ? Visit::As::folder : Visit::As::file, own.size, false};
+    return {own.isDirectory() ? Visit::As::folder : Visit::As::file, own.size, false,
+            own.kind == files::Kind::file};
 }
 
 /// A link is what it leads to, yet has its own size; one that leads nowhere is nothing. `own` may be known already.
@@ -29,7 +31,7 @@ Visit visitOfLink(const files::DirectoryReader &reader, std::optional<files::Ext
         return {Visit::As::folder, 0, true};
     if (!own)
         own = reader.extent();
-    return {Visit::As::file, own ? own->size : 0, true};
+    return {Visit::As::file, own ? own->size : 0, true, target->kind == files::Kind::file};
 }
 
 /// At most one question to the disk, two for a link.
@@ -86,6 +88,6 @@ void DuplicateWalk::visitEntries(files::DirectoryReader &reader, const QString &
         if (visit.as == Visit::As::folder)
             visitFolder(path + u'/' + paths::fromBytes(name), depth + 1);
         else if (visit.as == Visit::As::file && visit.size >= minFileSize_)
-            files_.add(folder, name, visit.size, visit.isLink);
+            files_.add(folder, name, visit.size, visit.isLink, visit.isRegular);
     }
 }

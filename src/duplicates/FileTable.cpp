@@ -11,9 +11,9 @@ quint32 FileTable::addFolder(const QString &path)
     return static_cast<quint32>(folders_.size() - 1);
 }
 
-void FileTable::add(quint32 folder, QByteArrayView name, qint64 size, bool isLink)
+void FileTable::add(quint32 folder, QByteArrayView name, qint64 size, bool isLink, bool isRegular)
 {
-    files_.push_back({size, static_cast<quint64>(names_.size()), folder, isLink});
+    files_.push_back({size, static_cast<quint64>(names_.size()), folder, isLink, isRegular});
     names_.append(name.data(), name.size()).append('\0');
 }
 

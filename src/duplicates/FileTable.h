@@ -17,6 +17,7 @@ public:
         quint64 name = 0;   ///< where the name begins among all names; grows in the order of discovery
         quint32 folder = 0; ///< index of the folder
         bool isLink = false;
+        bool isRegular = true; ///< links followed; false of a pipe, a socket, a device
     };
 
     /// Where the table ends, to go back to.
@@ -29,7 +30,7 @@ public:
     /// Gives the folder's index.
     quint32 addFolder(const QString &path);
 
-    void add(quint32 folder, QByteArrayView name, qint64 size, bool isLink);
+    void add(quint32 folder, QByteArrayView name, qint64 size, bool isLink, bool isRegular = true);
 
     Mark mark() const { return {files_.size(), names_.size()}; }
 

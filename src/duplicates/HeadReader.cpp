@@ -31,8 +31,11 @@ void HeadReader::openAhead()
 {
     const size_t wanted = isDiskSlow() ? mostAhead : 1;
     while (opened_.size() < wanted && !buckets_.empty()) {
-        opened_.push_back(
-            {static_cast<quint32>(file_), files::FileReader(table_.nativePath(table_.files()[file_]))});
+        const FileTable::File &file = table_.files()[file_];
+        // Not even opened is what the walk has seen to be a pipe or a device, where an opening alone has effects.
+        opened_.push_back({static_cast<quint32>(file_), file.isRegular
+                                                            ? files::FileReader(table_.nativePath(file))
+                                                            : files::FileReader()});
         if (isDiskSlow())
             expect(opened_.back());
         if (++file_ < buckets_.front().second)

@@ -78,7 +78,7 @@ SidebarView::SidebarView(const Platform &platform, DiskService &diskService, Con
 
 QString SidebarView::volumeName() const
 {
-    return paths::display(diskUsage_.name);
+    return paths::inOneLine(diskUsage_.name);
 }
 
 QString SidebarView::usedText() const

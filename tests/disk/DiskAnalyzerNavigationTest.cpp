@@ -292,13 +292,15 @@ TEST_F(DiskAnalyzerNavigationTest, tellsApartNamesThatLookTheSame)
     EXPECT_EQ(names(), QStringLiteral("nine"));
 }
 
-TEST_F(DiskAnalyzerNavigationTest, takesNamesAsTheyStand)
+TEST_F(DiskAnalyzerNavigationTest, takesNamesAsTheyStandAndShowsThemInOneLine)
 {
     const QString name = QStringLiteral("100%1 &\n<b>%2");
     test.temp.sparseFile(QStringLiteral("odd/") + name + QStringLiteral("/f"), 9);
     disk.setAnalyzerScanPath(test.temp.at(QStringLiteral("odd")));
     makeScanned();
-    EXPECT_EQ(names(), name);
+    const QString shown = QStringLiteral("100%1 &␊<b>%2");
+    EXPECT_EQ(names(), shown);
     view->openRow(0);
-    EXPECT_EQ(view->location(), test.temp.at(QStringLiteral("odd/")) + name);
+    EXPECT_EQ(view->location(), test.temp.at(QStringLiteral("odd/")) + shown);
+    EXPECT_EQ(view->currentEntry()->name, name);
 }

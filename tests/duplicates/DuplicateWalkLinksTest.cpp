@@ -1,5 +1,6 @@
 #include "duplicates/DuplicateWalk.h"
 
+#include "base/Paths.h"
 #include "filesystem/InjectedFaults.h"
 #include "support/TempHome.h"
 #include "Walk.h"
@@ -9,6 +10,7 @@
 #include <set>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -98,4 +100,22 @@ TEST(DuplicateWalk, findsTheSameWhereAListingTellsNoKinds)
     }
     for (const auto &[path, count] : questions)
         EXPECT_LE(count, path.contains(u"/to"_s) ? 2 : 1) << path.toStdString();
+}
+
+TEST(DuplicateWalk, tellsWhatIsNoRegularFileLinksFollowed)
+{
+    const TempHome temp;
+    temp.file(u"home/plain"_s);
+    temp.folder(u"home"_s);
+    ASSERT_EQ(mkfifo(paths::toBytes(temp.at(u"home/pipe"_s)).constData(), 0600), 0);
+    temp.link(u"home/toPipe"_s, u"pipe"_s);
+    temp.link(u"home/toPlain"_s, u"plain"_s);
+    const Walk walk(temp.at(u"home"_s));
+    std::map<QString, bool> regular;
+    for (size_t i = 0; i < walk.table.files().size(); ++i)
+        regular[walk.found()[static_cast<qsizetype>(i)].sliced(temp.at(u"home/"_s).size())] =
+            walk.table.files()[i].isRegular;
+    EXPECT_EQ(regular,
+              (std::map<QString, bool>{
+                  {u"pipe"_s, false}, {u"plain"_s, true}, {u"toPipe"_s, false}, {u"toPlain"_s, true}}));
 }

@@ -106,3 +106,15 @@ TEST_F(HeadReaderTest, opensEachFileOnceAndNoOther)
     EXPECT_EQ(calls.opened, expected);
     EXPECT_EQ(calls.readFiles, expected);
 }
+
+TEST_F(HeadReaderTest, doesNotOpenWhatIsNoRegularFile)
+{
+    addFile("one");
+    table.add(folder, "pipe", 3, false, false);
+    addFile("two");
+    const CallCounts calls;
+    const auto read = heads({{0, 2}});
+    EXPECT_TRUE(read[0].isRead);
+    EXPECT_FALSE(read[1].isRead);
+    EXPECT_EQ(calls.opened, QStringList(at(0)));
+}

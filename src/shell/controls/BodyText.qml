@@ -7,6 +7,7 @@ Text {
     font.pixelSize: Theme.bodySize
     textFormat: Text.PlainText
     elide: Text.ElideRight
+    horizontalAlignment: Text.AlignLeft // of names that are written from the right as well
     maximumLineCount: wrapMode === Text.NoWrap ? 1 : 100 // a name may hold line breaks, its row has one line
     verticalAlignment: Text.AlignVCenter
 }
