@@ -13,20 +13,24 @@
 namespace {
 
 /// Beyond this, contents are read a second time where one of them turns up again.
-constexpr qsizetype mostKept = 4 << 20; // bytes, of all contents and heads of one size
+constexpr qsizetype mostKept = 4 << 20; // bytes, of all contents of one size
+
+/// Files of one size up to which all their heads are kept: 4 MiB of them, 8 for large files.
+constexpr size_t mostHeadsKept = 1024;
 
 /// Only to find candidates: what decides is the content. Seeded, so that nobody can prepare files that all collide.
-size_t hashOf(const QByteArray &content)
+size_t hashOf(QByteArrayView content)
 {
     static const quint64 seed = QRandomGenerator::system()->generate64();
-    return XXH3_64bits_withSeed(content.constData(), static_cast<size_t>(content.size()), seed);
+    return XXH3_64bits_withSeed(content.data(), static_cast<size_t>(content.size()), seed);
 }
 
 } // namespace
 
-ContentPartition::ContentPartition(const FileTable &table, qint64 size, Sha256 &sha256)
+ContentPartition::ContentPartition(const FileTable &table, qint64 size, size_t count, Sha256 &sha256)
     : table_(table)
     , size_(size)
+    , keepsHeads_(count <= mostHeadsKept)
     , sha256_(sha256)
 {
 }
@@ -62,16 +66,37 @@ bool ContentPartition::add(quint32 file, const files::FileReader &reader, QByteA
         addContent(member, head);
         return true;
     }
-    const auto [found, isNew] = heads_.try_emplace(hashOf(head), Head{member, std::nullopt});
-    if (isNew) {
-        found->second.kept = keptIfRoom(head);
+    const size_t key = headKey(head);
+    Head *known = knownHead(key, head);
+    if (!known) {
+        heads_.emplace(key, Head{member, keepsHeads_ ? head : QByteArray()});
         return true;
     }
-    addFirst(found->second);
+    addFirst(*known);
     if (!readOn(reader, head))
         return false;
     addContent(member, head);
     return true;
+}
+
+/// By what a head is looked up. Where heads are kept the bytes decide, and a glance at both ends finds candidates well
+/// enough; else nothing but the key is known of a head.
+size_t ContentPartition::headKey(const QByteArray &head) const
+{
+    constexpr qsizetype glance = 64; // bytes
+    if (!keepsHeads_ || head.size() <= 2 * glance)
+        return hashOf(head);
+    const QByteArrayView bytes = head;
+    return hashOf(bytes.first(glance)) ^ (hashOf(bytes.last(glance)) << 1U);
+}
+
+/// The head of those that begin so; null while there is none.
+ContentPartition::Head *ContentPartition::knownHead(size_t key, const QByteArray &head)
+{
+    const auto [first, end] = heads_.equal_range(key);
+    const auto known = std::find_if(
+        first, end, [&](const auto &entry) { return !keepsHeads_ || entry.second.kept == head; });
+    return known == end ? nullptr : &known->second;
 }
 
 /// Reads the rest of the first file of a head, now that a second one begins like it.
@@ -80,15 +105,8 @@ void ContentPartition::addFirst(Head &head)
     if (std::exchange(head.isFirstAdded, true))
         return;
     const files::FileReader reader(table_.nativePath(table_.files()[head.first.file]));
-    QByteArray content;
-    if (head.kept) {
-        content = *head.kept;
-        keptBytes_ -= content.size();
-        head.kept.reset();
-    }
-    const bool isRead =
-        content.isEmpty() ? readAll(reader, content) : reader.isOpen() && readOn(reader, content);
-    if (isRead)
+    QByteArray content = head.kept;
+    if (keepsHeads_ ? reader.isOpen() && readOn(reader, content) : readAll(reader, content))
         addContent({head.first.file, reader.modified()}, content);
     else
         ++lostFiles_;
@@ -96,7 +114,7 @@ void ContentPartition::addFirst(Head &head)
 
 void ContentPartition::addContent(const Member &member, const QByteArray &content)
 {
-    const size_t hash = hashOf(content);
+    const size_t hash = isWholeInHead() ? headKey(content) : hashOf(content);
     if (Content *known = equalContent(hash, content)) {
         if (known->equal.members.size() == 1)
             known->equal.digest = sha256_.hex(content);

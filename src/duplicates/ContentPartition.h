@@ -40,8 +40,8 @@ public:
         std::vector<Member> members;
     };
 
-    /// For files of `size` bytes out of `table`. The arguments outlive it.
-    ContentPartition(const FileTable &table, qint64 size, Sha256 &sha256);
+    /// For `count` files of `size` bytes out of `table`. Table and digest outlive it.
+    ContentPartition(const FileTable &table, qint64 size, size_t count, Sha256 &sha256);
 
     /// How much of the beginning of a file of `size` bytes decides whether it is read on.
     static qint64 headLength(qint64 size);
@@ -61,7 +61,7 @@ private:
     struct Head
     {
         Member first;
-        std::optional<QByteArray> kept; ///< how they begin, as long as there is room for it
+        QByteArray kept; ///< how they begin, where the beginnings are kept
         bool isFirstAdded = false;
     };
 
@@ -75,6 +75,8 @@ private:
     };
 
     bool isWholeInHead() const { return size_ <= headSize; }
+    size_t headKey(const QByteArray &head) const;
+    Head *knownHead(size_t key, const QByteArray &head);
     bool readAll(const files::FileReader &reader, QByteArray &content) const;
     bool readOn(const files::FileReader &reader, QByteArray &content) const;
     void addFirst(Head &head);
@@ -85,8 +87,9 @@ private:
 
     const FileTable &table_;
     const qint64 size_;
+    const bool keepsHeads_; ///< there are so few files that how each of them begins can stay in memory
     Sha256 &sha256_;
-    std::unordered_map<size_t, Head> heads_;
+    std::unordered_multimap<size_t, Head> heads_;       // by key
     std::unordered_map<size_t, qsizetype> firstOfHash_; // index in contents_
     std::vector<Content> contents_;
     qsizetype keptBytes_ = 0;

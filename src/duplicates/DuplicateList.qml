@@ -35,8 +35,10 @@ FocusScope {
             groupMenu.close();
         }
         function openMenu(index, item) {
-            if (index >= 0)
-                (holder.view.isFile(index) ? copyMenu : groupMenu).openAt(index, item);
+            if (holder.view.isFile(index))
+                copyMenu.openAt(index, item);
+            else if (index >= 0)
+                groupMenu.openAt(index, item);
         }
 
         T.ScrollBar.vertical: ScrollHandle { }

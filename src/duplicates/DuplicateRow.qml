@@ -22,7 +22,7 @@ Item {
     signal taken
     signal menuRequested
 
-    implicitHeight: 46
+    implicitHeight: 48
 
     // The card reaches beyond the slice where it goes on above or below, so that only its true ends are round.
     Item {

@@ -87,7 +87,8 @@ public:
 private:
     void compare(const Bucket &bucket, HeadReader &heads)
     {
-        ContentPartition partition(table_, table_.files()[bucket.first].size, sha256_);
+        ContentPartition partition(table_, table_.files()[bucket.first].size, bucket.second - bucket.first,
+                                   sha256_);
         for (size_t file = bucket.first; file < bucket.second && !hooks_.isCancelled(); ++file) {
             HeadReader::Head head = heads.next();
             if (!head.isRead || !partition.add(head.file, head.reader, std::move(head.content)))

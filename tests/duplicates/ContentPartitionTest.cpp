@@ -30,8 +30,9 @@ protected:
     FileTable table;
     Sha256 sha256;
     quint32 folder = table.addFolder(temp.path());
-    int failures = 0; ///< of the last partition
-    int lost = 0;     ///< likewise
+    int failures = 0;      ///< of the last partition
+    int lost = 0;          ///< likewise
+    bool isOfMany = false; ///< the partition takes the files for part of so many that no head is kept
 
     QString at(quint32 index) const { return temp.at(QString::number(index)); }
 
@@ -69,7 +70,8 @@ protected:
     /// All files of the table, which are of one size, put to their likes.
     std::vector<ContentPartition::Class> partition(const std::function<void(quint32)> &before = {})
     {
-        ContentPartition parts(table, table.files().front().size, sha256);
+        const size_t count = isOfMany ? 100000 : table.files().size();
+        ContentPartition parts(table, table.files().front().size, count, sha256);
         failures = 0;
         for (quint32 index = 0; index < table.files().size(); ++index) {
             if (before)
@@ -105,7 +107,7 @@ using Members = std::map<QString, std::vector<quint32>>;
 
 TEST_F(ContentPartitionTest, givesNothingOfNoFiles)
 {
-    ContentPartition parts(table, 10, sha256);
+    ContentPartition parts(table, 10, 0, sha256);
     EXPECT_EQ(parts.lostFiles(), 0);
     EXPECT_TRUE(parts.takeShared().empty());
 }
@@ -199,6 +201,37 @@ TEST_F(ContentPartitionTest, readsOnWhereFilesBeginAlike)
     EXPECT_EQ(byDigest(partition()), (Members{{contents::sha256(content), {0, 3}}}));
     EXPECT_EQ(calls.opened, QStringList({at(0), at(1), at(2), at(0), at(3)})) << "the first one again, once";
     EXPECT_EQ(calls.readFiles.size(), 4 + 3) << "four beginnings, three ends";
+}
+
+TEST_F(ContentPartitionTest, readsTheFirstBeginningAgainWhereThereAreTooManyToKeep)
+{
+    isOfMany = true;
+    const QByteArray content = filled(10000, 1);
+    addFiles({content, filled(10000, 2), changedAt(content, 5000), content});
+    const CallCounts calls;
+    EXPECT_EQ(byDigest(partition()), (Members{{contents::sha256(content), {0, 3}}}));
+    EXPECT_EQ(calls.opened, QStringList({at(0), at(1), at(2), at(0), at(3)}));
+    EXPECT_EQ(calls.readFiles.size(), 4 + 1 + 3) << "four beginnings, the first one again, three ends";
+}
+
+TEST_F(ContentPartitionTest, tellsBeginningsApartThatAreAlikeAtBothTheirEnds)
+{
+    const QByteArray content = filled(10000);
+    addFiles({content, changedAt(content, 2000), changedAt(content, 2001), changedAt(content, 2001)});
+    const CallCounts calls;
+    EXPECT_EQ(byDigest(partition()), (Members{{contents::sha256(changedAt(content, 2001)), {2, 3}}}));
+    EXPECT_EQ(calls.readFiles.size(), 4 + 2) << "only what begins alike is read on";
+}
+
+TEST_F(ContentPartitionTest, tellsSmallFilesApartThatAreAlikeAtBothTheirEnds)
+{
+    const QByteArray content = filled(500);
+    for (const bool areMany : {false, true}) {
+        restart();
+        isOfMany = areMany;
+        addFiles({content, changedAt(content, 250), content, changedAt(content, 251)});
+        EXPECT_EQ(byDigest(partition()), (Members{{contents::sha256(content), {0, 2}}}));
+    }
 }
 
 TEST_F(ContentPartitionTest, readsALargeFileTwiceAtMostWhateverItsSize)

@@ -113,6 +113,10 @@ DemoHome::DemoHome()
                           + "/quillmere-demo-XXXXXX";
     require(mkdtemp(pattern.data()) != nullptr, pattern);
     root_ = paths::fromBytes(pattern);
+}
+
+void DemoHome::fill() const
+{
     for (const DemoFile &file : demoFiles)
         makeFile(native(paths::join(root_, QString::fromUtf8(file.path))), file);
     for (const char *folder : {"Users/robin/Documents/Empty Folder", "Users/robin/Library/Safari"})

@@ -7,11 +7,14 @@
 class DemoHome
 {
 public:
-    /// Fills a new folder. Throws std::system_error when the disk does not let it.
+    /// An empty folder. Throws std::system_error when the disk does not let it.
     DemoHome();
     ~DemoHome();
     DemoHome(const DemoHome &) = delete;
     DemoHome &operator=(const DemoHome &) = delete;
+
+    /// Makes the content. Throws likewise.
+    void fill() const;
 
     /// Takes it all away, as the destructor does where a process ends without one.
     void remove();

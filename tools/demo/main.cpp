@@ -128,6 +128,7 @@ int main(int argc, char *argv[])
         // What goes to the Trash stays inside the demo as well; set before the desktop's library first looks.
         qputenv("XDG_DATA_HOME", paths::toBytes(demo.home() + QStringLiteral("/.local/share")));
         QGuiApplication application(argc, argv);
+        demo.fill(); // not before: without a display the line above ends the program
         program::describe();
         return runDemo(demo);
     } catch (const std::exception &error) {
