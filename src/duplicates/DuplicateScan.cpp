@@ -116,25 +116,25 @@ void sortByWaste(std::vector<DuplicateFileGroup> &groups)
 
 } // namespace
 
-Result run(const Request &request, const Hooks &given)
+Result run(const Request &request, const Hooks &hooks)
 {
     // A run that has once seen that it is cancelled is, whatever becomes of the flag.
     bool isCancelled = false;
-    Hooks hooks = given;
-    hooks.isCancelled = [&] { return isCancelled = isCancelled || given.isCancelled(); };
+    Hooks own = hooks;
+    own.isCancelled = [&] { return isCancelled = isCancelled || hooks.isCancelled(); };
     FileTable table;
-    const DuplicateWalk::Hooks walkHooks{hooks.isCancelled, hooks.entered};
+    const DuplicateWalk::Hooks walkHooks{own.isCancelled, own.entered};
     DuplicateWalk walk(table, request.minFileSize, walkHooks);
     for (const QString &scanPath : request.scanPaths) {
-        if (hooks.isCancelled())
+        if (own.isCancelled())
             break;
         walk.run(scanPath, request.ignorePaths);
     }
-    if (hooks.isCancelled())
+    if (own.isCancelled())
         return {{}, 0, true, true};
-    hooks.comparing();
+    own.comparing();
     table.sortBySize();
-    Result result = Comparison(table, request, hooks).run();
+    Result result = Comparison(table, request, own).run();
     sortByWaste(result.groups);
     return result;
 }
