@@ -121,7 +121,10 @@ void ContentPartition::addContent(const Member &member, const QByteArray &conten
         known->equal.members.push_back(member);
         return;
     }
-    Content made{{{}, {member}}, content.size(), keptIfRoom(content), -1};
+    Content made;
+    made.equal.members.push_back(member);
+    made.length = content.size();
+    made.kept = keptIfRoom(content);
     const auto index = static_cast<qsizetype>(contents_.size());
     const auto [first, isNew] = firstOfHash_.try_emplace(hash, index);
     if (!isNew)
