@@ -48,7 +48,8 @@ void DuplicateFinderView::observeService()
         showGroups();
     });
     connect(&service_, &DuplicateService::groupsShrunk, this, [this] {
-        rows_.shrink(filteredGroups());
+        filteredGroups_ = groupsPassingFilter();
+        rows_.shrink(filteredGroups_);
         takeFigures();
     });
     connect(&service_, &DuplicateService::fileChanged, this, [this](size_t group, size_t file) {
@@ -108,7 +109,7 @@ const std::map<QString, QStringList> &DuplicateFinderView::extMap()
     return map;
 }
 
-std::vector<size_t> DuplicateFinderView::filteredGroups() const
+std::vector<size_t> DuplicateFinderView::groupsPassingFilter() const
 {
     const auto extensions = extMap().find(filter_);
     const auto passes = [&](const DuplicateFileGroup &group) {
@@ -127,14 +128,15 @@ std::vector<size_t> DuplicateFinderView::filteredGroups() const
 void DuplicateFinderView::showGroups()
 {
     emit rowsWillChange();
-    rows_.show(filteredGroups());
+    filteredGroups_ = groupsPassingFilter();
+    rows_.show(filteredGroups_);
     takeFigures();
 }
 
 void DuplicateFinderView::takeFigures()
 {
     figures_ = {};
-    for (const size_t index : filteredGroups()) {
+    for (const size_t index : filteredGroups_) {
         const DuplicateFileGroup &group = service_.groups()[index];
         const auto going = std::count_if(group.files.begin(), group.files.end(),
                                          [](const DuplicateFileEntry &file) { return !file.keep; });

@@ -72,7 +72,7 @@ public:
 
     const QString &filter() const { return filter_; }
     /// The groups that pass the filter, by index in the service's list. A group is judged by its first file alone.
-    std::vector<size_t> filteredGroups() const;
+    const std::vector<size_t> &filteredGroups() const { return filteredGroups_; }
 
     bool showSettings() const { return showSettings_; }
     QString settingsText() const;
@@ -150,6 +150,7 @@ private:
     };
 
     void observeService();
+    std::vector<size_t> groupsPassingFilter() const;
     void showGroups();
     void takeFigures();
     void announceProgress();
@@ -165,6 +166,7 @@ private:
     bool showSettings_ = true;
     bool showDeleteConfirm_ = false;
     std::optional<qint64> deleteResult_;
+    std::vector<size_t> filteredGroups_; // taken anew with the groups and with the filter, not at each click
     Figures figures_;
     bool isProgressDue_ = false;
     FDABanner banner_;
