@@ -3,7 +3,7 @@
 #include "Benchmarks.h"
 #include "Commands.h"
 #include "DuplicatePeer.h"
-#include "duplicates/DuplicateScan.h"
+#include "duplicates/scan/DuplicateScan.h"
 #include "DuplicateTree.h"
 #include "Measurement.h"
 #include "platform/Locations.h"

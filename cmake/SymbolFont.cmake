@@ -46,7 +46,7 @@ endfunction()
 
 # Adds the build step and the target quillmere_symbol_font. The two variables are set to the font and to the
 # C++ table of its symbols, which stands below ${PROJECT_BINARY_DIR}/generated and is included as
-# "shell/controls/symbols/SymbolTable.h". A target of another directory that uses either must depend on
+# "controls/symbols/SymbolTable.h". A target of another directory that uses either must depend on
 # quillmere_symbol_font.
 function(quillmere_add_symbol_font out_font out_header)
     if(NOT QUILLMERE_BOOTSTRAP_ICONS_DIR)
@@ -57,8 +57,8 @@ function(quillmere_add_symbol_font out_font out_header)
     quillmere_require_font_python(python)
 
     set(tools "${PROJECT_SOURCE_DIR}/tools/symbols")
-    set(symbols "${PROJECT_SOURCE_DIR}/src/shell/controls/symbols")
-    set(generated "${PROJECT_BINARY_DIR}/generated/shell/controls/symbols")
+    set(symbols "${PROJECT_SOURCE_DIR}/src/controls/symbols")
+    set(generated "${PROJECT_BINARY_DIR}/generated/controls/symbols")
     set(font "${generated}/QuillmereSymbols.ttf")
     set(header "${generated}/SymbolTable.h")
 

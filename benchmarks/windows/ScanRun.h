@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Composition.h"
+#include "program/Composition.h"
 #include "TimedMainQueue.h"
 
 #include <QElapsedTimer>

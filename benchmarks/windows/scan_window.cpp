@@ -3,9 +3,9 @@
 
 #include "platform/Appearance.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "program/Composition.h"
+#include "program/ProgramInfo.h"
 #include "ScanRun.h"
-#include "shell/Composition.h"
-#include "shell/ProgramInfo.h"
 #include "TimedMainQueue.h"
 
 #include <QDBusConnection>

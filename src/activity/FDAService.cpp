@@ -2,7 +2,7 @@
 
 #include "base/ChildProcess.h"
 #include "base/Files.h"
-#include "shell/common/NotificationNames.h"
+#include "common/NotificationNames.h"
 
 #include <QPointer>
 

@@ -3,8 +3,8 @@
 #include "activity/HistoryService.h"
 #include "base/Files.h"
 #include "base/Paths.h"
-#include "shell/common/DateTexts.h"
-#include "shell/common/Formatters.h"
+#include "common/DateTexts.h"
+#include "common/Formatters.h"
 
 #include <algorithm>
 #include <functional>

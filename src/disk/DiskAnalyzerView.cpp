@@ -2,10 +2,10 @@
 
 #include "base/Error.h"
 #include "base/Paths.h"
+#include "common/Formatters.h"
+#include "common/KeySigns.h"
 #include "disk/AnalyzerContents.h"
 #include "filesystem/FileSystemService.h"
-#include "shell/common/Formatters.h"
-#include "shell/common/KeySigns.h"
 
 #include <QPointer>
 

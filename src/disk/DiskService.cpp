@@ -1,8 +1,8 @@
 #include "disk/DiskService.h"
 
 #include "activity/FDAService.h"
+#include "common/SettingsKeys.h"
 #include "filesystem/FileSystemService.h"
-#include "shell/common/SettingsKeys.h"
 
 #include <QPointer>
 

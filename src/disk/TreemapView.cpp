@@ -1,7 +1,7 @@
 #include "disk/TreemapView.h"
 
 #include "base/Paths.h"
-#include "shell/common/Formatters.h"
+#include "common/Formatters.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "duplicates/DuplicateService.h"
 
 #include "activity/FDAService.h"
-#include "duplicates/ScanScope.h"
-#include "shell/common/SettingsKeys.h"
+#include "common/SettingsKeys.h"
+#include "duplicates/scan/ScanScope.h"
 
 #include <algorithm>
 #include <utility>

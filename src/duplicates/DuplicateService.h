@@ -1,7 +1,7 @@
 #pragma once
 
 #include "duplicates/DuplicateFileGroup.h"
-#include "duplicates/DuplicateScan.h"
+#include "duplicates/scan/DuplicateScan.h"
 #include "platform/Platform.h"
 
 #include <QObject>

@@ -1,6 +1,6 @@
 #include "shell/MainContentView.h"
 
-#include "shell/common/KeySigns.h"
+#include "common/KeySigns.h"
 
 #include <utility>
 

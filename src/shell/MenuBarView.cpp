@@ -1,7 +1,7 @@
 #include "shell/MenuBarView.h"
 
-#include "shell/common/KeySigns.h"
-#include "shell/common/NotificationNames.h"
+#include "common/KeySigns.h"
+#include "common/NotificationNames.h"
 #include "shell/Sheet.h"
 
 namespace {

@@ -1,9 +1,9 @@
 #include "shell/SidebarView.h"
 
 #include "base/Paths.h"
-#include "shell/common/Formatters.h"
-#include "shell/common/KeySigns.h"
-#include "shell/common/NotificationNames.h"
+#include "common/Formatters.h"
+#include "common/KeySigns.h"
+#include "common/NotificationNames.h"
 
 #include <QPointer>
 

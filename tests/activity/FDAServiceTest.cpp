@@ -2,7 +2,7 @@
 
 #include "activity/FDABanner.h"
 #include "base/Files.h"
-#include "shell/common/NotificationNames.h"
+#include "common/NotificationNames.h"
 #include "support/TestPlatform.h"
 
 #include <QScopeGuard>

@@ -5,7 +5,7 @@
 #include "activity/HistoryService.h"
 #include "base/Files.h"
 #include "base/Paths.h"
-#include "shell/common/Rows.h"
+#include "support/Rows.h"
 #include "support/TestPlatform.h"
 
 #include <QAbstractItemModelTester>

@@ -16,16 +16,16 @@ struct Layer
     int height = 0; ///< a folder may include what is lower
 };
 
-const QString entry = u"shell/main.cpp"_s;
+const QString entry = u"program/main.cpp"_s;
 const QStringList adapters = {u"platform/linux/"_s, u"platform/macos/"_s};
 
 /// The first folder that a path begins with is its own, so the deeper ones stand first.
 const std::vector<Layer> allLayers = {
-    {u"base/"_s, 0},       {u"platform/linux/"_s, 2}, {u"platform/macos/"_s, 2}, {u"platform/"_s, 1},
-    {u"filesystem/"_s, 3}, {u"disk/"_s, 4},           {u"duplicates/"_s, 4},     {u"cleanup/"_s, 4},
-    {u"apps/"_s, 4},       {u"rename/"_s, 4},         {u"organizer/"_s, 4},      {u"search/"_s, 4},
-    {u"browser/"_s, 4},    {u"activity/"_s, 4},       {u"shell/common/"_s, 2},   {u"shell/controls/"_s, 2},
-    {u"shell/"_s, 5},
+    {u"base/"_s, 0},      {u"platform/linux/"_s, 2}, {u"platform/macos/"_s, 2}, {u"platform/"_s, 1},
+    {u"common/"_s, 2},    {u"controls/"_s, 3},       {u"filesystem/"_s, 4},     {u"activity/"_s, 5},
+    {u"disk/"_s, 6},      {u"duplicates/"_s, 6},     {u"cleanup/"_s, 6},        {u"apps/"_s, 6},
+    {u"rename/"_s, 6},    {u"organizer/"_s, 6},      {u"search/"_s, 6},         {u"browser/"_s, 6},
+    {u"dashboard/"_s, 7}, {u"shell/"_s, 8},          {u"program/"_s, 9},
 };
 
 std::optional<Layer> layerOf(const QString &path)

@@ -10,11 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The features that a feature builds on. Whoever adds a line here says that one tool needs the other's service.
-const layers::BuildsOn featuresBuildOn = {
-    {u"disk"_s, {u"activity"_s}}, // a scan tells the access monitor whether protected folders could be read
-    {u"duplicates"_s, {u"activity"_s}}, // likewise; and a delete run goes into the activity log
-};
+/// No folder builds on another of its floor.
+const layers::BuildsOn featuresBuildOn = {};
 
 std::string joined(const QStringList &lines)
 {
@@ -57,12 +54,6 @@ TEST(Layers, filesIncludeEachOtherInNoCircle)
     EXPECT_TRUE(circle.isEmpty()) << joined(circle);
 }
 
-TEST(Layers, featuresBuildOnEachOtherInNoCircle)
-{
-    const QStringList circle = layers::circle(featuresBuildOn);
-    EXPECT_TRUE(circle.isEmpty()) << joined(circle);
-}
-
 TEST(Layers, servicesKnowNoScreens)
 {
     const QStringList broken = layers::servicesThatKnowScreens(realTree());
@@ -79,7 +70,7 @@ TEST(Layers, onlyPlatformIsConditionalOnTheSystem)
 TEST(Layers, areCheckedOnTheWholeTree)
 {
     for (const QString &path : {u"base/Paths.cpp"_s, u"platform/linux/LinuxPlatform.h"_s,
-                                u"disk/DiskService.h"_s, u"shell/main.cpp"_s}) {
+                                u"disk/DiskService.h"_s, u"program/main.cpp"_s}) {
         const auto file = std::ranges::find(realTree(), path, &SourceFile::path);
         ASSERT_NE(file, realTree().end()) << path.toStdString();
         EXPECT_FALSE(file->includes().empty()) << path.toStdString();
@@ -121,15 +112,15 @@ TEST(LayerRules, letIncludesPointDown)
         {u"platform/A.h"_s, u"base/B.h"_s},
         {u"platform/linux/A.h"_s, u"platform/B.h"_s},
         {u"platform/linux/A.h"_s, u"platform/linux/B.h"_s},
-        {u"shell/common/A.h"_s, u"platform/B.h"_s},
-        {u"shell/controls/A.h"_s, u"base/B.h"_s},
-        {u"filesystem/A.h"_s, u"shell/common/B.h"_s},
+        {u"common/A.h"_s, u"platform/B.h"_s},
+        {u"controls/A.h"_s, u"base/B.h"_s},
+        {u"filesystem/A.h"_s, u"common/B.h"_s},
         {u"disk/A.h"_s, u"filesystem/B.h"_s},
-        {u"disk/A.h"_s, u"shell/controls/B.h"_s},
+        {u"disk/A.h"_s, u"controls/B.h"_s},
         {u"shell/A.h"_s, u"disk/B.h"_s},
-        {u"shell/A.h"_s, u"shell/common/B.h"_s},
-        {u"shell/main.cpp"_s, u"platform/linux/B.h"_s},
-        {u"shell/main.cpp"_s, u"platform/macos/B.h"_s},
+        {u"shell/A.h"_s, u"common/B.h"_s},
+        {u"program/main.cpp"_s, u"platform/linux/B.h"_s},
+        {u"program/main.cpp"_s, u"platform/macos/B.h"_s},
     };
     for (const auto &[from, to] : allowed)
         EXPECT_EQ(objections(from, to), QStringList()) << from.toStdString();
@@ -138,11 +129,12 @@ TEST(LayerRules, letIncludesPointDown)
 TEST(LayerRules, refuseIncludesThatPointUp)
 {
     const std::vector<std::pair<QString, QString>> refused = {
-        {u"base/A.h"_s, u"platform/B.h"_s},       {u"platform/A.h"_s, u"shell/common/B.h"_s},
+        {u"base/A.h"_s, u"platform/B.h"_s},       {u"platform/A.h"_s, u"common/B.h"_s},
         {u"platform/A.h"_s, u"filesystem/B.h"_s}, {u"platform/linux/A.h"_s, u"disk/B.h"_s},
-        {u"shell/common/A.h"_s, u"disk/B.h"_s},   {u"shell/controls/A.h"_s, u"shell/B.h"_s},
+        {u"common/A.h"_s, u"disk/B.h"_s},         {u"controls/A.h"_s, u"shell/B.h"_s},
         {u"filesystem/A.h"_s, u"disk/B.h"_s},     {u"disk/A.h"_s, u"shell/B.h"_s},
-        {u"browser/A.h"_s, u"shell/B.h"_s},
+        {u"browser/A.h"_s, u"shell/B.h"_s},       {u"activity/A.h"_s, u"disk/B.h"_s},
+        {u"common/A.h"_s, u"controls/B.h"_s},     {u"shell/A.h"_s, u"program/B.h"_s},
     };
     for (const auto &[from, to] : refused)
         EXPECT_EQ(objections(from, to), QStringList(u"%1:1 includes %2: above it"_s.arg(from, to)));
@@ -151,10 +143,9 @@ TEST(LayerRules, refuseIncludesThatPointUp)
 TEST(LayerRules, refuseIncludesBetweenFoldersOfOneHeight)
 {
     for (const auto &[from, to] :
-         std::vector<std::pair<QString, QString>>{{u"disk/A.h"_s, u"activity/B.h"_s},
-                                                  {u"activity/A.h"_s, u"disk/B.h"_s},
-                                                  {u"shell/common/A.h"_s, u"shell/controls/B.h"_s},
-                                                  {u"platform/linux/A.h"_s, u"shell/common/B.h"_s}})
+         std::vector<std::pair<QString, QString>>{{u"disk/A.h"_s, u"duplicates/B.h"_s},
+                                                  {u"duplicates/A.h"_s, u"disk/B.h"_s},
+                                                  {u"platform/linux/A.h"_s, u"common/B.h"_s}})
         EXPECT_EQ(objections(from, to), QStringList(u"%1:1 includes %2: beside it"_s.arg(from, to)));
 }
 
@@ -170,8 +161,8 @@ TEST(LayerRules, letAFeatureIncludeWhatItIsToldToBuildOn)
 
 TEST(LayerRules, refuseASystemsAdaptersElsewhereThanAtTheEntry)
 {
-    for (const QString &from : {u"platform/A.h"_s, u"shell/Composition.cpp"_s, u"disk/A.h"_s, u"base/A.h"_s,
-                                u"platform/macos/A.h"_s, u"shell/main.h"_s})
+    for (const QString &from : {u"platform/A.h"_s, u"program/Composition.cpp"_s, u"disk/A.h"_s, u"base/A.h"_s,
+                                u"platform/macos/A.h"_s, u"program/main.h"_s})
         EXPECT_EQ(objections(from, u"platform/linux/B.h"_s),
                   QStringList(u"%1:1 includes platform/linux/B.h: a system's adapters"_s.arg(from)));
 }

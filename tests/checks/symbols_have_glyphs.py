@@ -23,7 +23,7 @@ import tempfile
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-TABLE = Path("src/shell/controls/symbols/symbols.tsv")
+TABLE = Path("src/controls/symbols/symbols.tsv")
 SUFFIXES = {".cpp", ".h", ".qml"}
 EXEMPTION = "not a symbol"
 

@@ -3,7 +3,7 @@
 #include "base/Paths.h"
 #include "disk/DiskAnalyzerView.h"
 #include "filesystem/FileSystemService.h"
-#include "shell/common/Rows.h"
+#include "support/Rows.h"
 #include "support/TestPlatform.h"
 
 #include <functional>

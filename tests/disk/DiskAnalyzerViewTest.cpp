@@ -1,7 +1,7 @@
 #include "disk/DiskAnalyzerView.h"
 
+#include "common/SettingsKeys.h"
 #include "disk/DiskAnalyzerHome.h"
-#include "shell/common/SettingsKeys.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

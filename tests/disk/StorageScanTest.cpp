@@ -1,5 +1,5 @@
+#include "common/SettingsKeys.h"
 #include "disk/DiskServices.h"
-#include "shell/common/SettingsKeys.h"
 
 #include <QSet>
 

@@ -1,7 +1,7 @@
 #include "disk/TreemapView.h"
 
 #include "base/Paths.h"
-#include "shell/common/Rows.h"
+#include "support/Rows.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

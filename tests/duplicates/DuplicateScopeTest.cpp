@@ -1,6 +1,6 @@
+#include "common/SettingsKeys.h"
 #include "duplicates/DuplicateServices.h"
 #include "duplicates/HeardSignals.h"
-#include "shell/common/SettingsKeys.h"
 
 #include <gtest/gtest.h>
 

@@ -2,10 +2,10 @@
 
 #include "base/EventLoopMainQueue.h"
 #include "base/ThreadWorkQueue.h"
+#include "program/Composition.h"
 #include "screens/DiskGate.h"
 #include "screens/GatedDu.h"
 #include "screens/TrashFolder.h"
-#include "shell/Composition.h"
 #include "support/Fakes.h"
 #include "support/TempHome.h"
 

@@ -1,7 +1,7 @@
 #include "screens/ScreenSetup.h"
 
+#include "program/ProgramInfo.h"
 #include "screens/Warnings.h"
-#include "shell/ProgramInfo.h"
 
 #include <QQmlEngine>
 

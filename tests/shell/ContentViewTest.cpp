@@ -1,7 +1,7 @@
 #include "shell/ContentView.h"
 
-#include "shell/common/NotificationNames.h"
-#include "shell/common/SettingsKeys.h"
+#include "common/NotificationNames.h"
+#include "common/SettingsKeys.h"
 #include "support/TestPlatform.h"
 
 #include <QSignalSpy>

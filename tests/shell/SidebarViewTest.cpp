@@ -1,9 +1,9 @@
 #include "shell/SidebarView.h"
 
 #include "base/Paths.h"
+#include "common/NotificationNames.h"
 #include "filesystem/FileSystemService.h"
-#include "shell/common/NotificationNames.h"
-#include "shell/common/Rows.h"
+#include "support/Rows.h"
 #include "support/TestPlatform.h"
 
 #include <QAbstractItemModelTester>

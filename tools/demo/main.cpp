@@ -1,6 +1,7 @@
 #include "base/EventLoopMainQueue.h"
 #include "base/Paths.h"
 #include "base/ThreadWorkQueue.h"
+#include "common/NotificationNames.h"
 #include "DemoHome.h"
 #include "platform/Appearance.h"
 #include "platform/linux/LinuxRecycler.h"
@@ -9,10 +10,9 @@
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QuitSignals.h"
-#include "shell/common/NotificationNames.h"
-#include "shell/Composition.h"
-#include "shell/FallbackPanel.h"
-#include "shell/ProgramInfo.h"
+#include "program/Composition.h"
+#include "program/FallbackPanel.h"
+#include "program/ProgramInfo.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>

@@ -3,8 +3,8 @@
 #include "Arguments.h"
 #include "base/Files.h"
 #include "base/Paths.h"
+#include "common/SettingsKeys.h"
 #include "platform/LinuxEnvironment.h"
-#include "shell/common/SettingsKeys.h"
 #include "UsageError.h"
 
 namespace {

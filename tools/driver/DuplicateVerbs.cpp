@@ -2,10 +2,10 @@
 
 #include "activity/HistoryService.h"
 #include "Arguments.h"
+#include "common/SettingsKeys.h"
 #include "DriverPlatform.h"
 #include "duplicates/DuplicateService.h"
 #include "Json.h"
-#include "shell/common/SettingsKeys.h"
 #include "UsageError.h"
 #include "Verbs.h"
 

@@ -1,9 +1,9 @@
 // Verbs of the formatters and the settings.
 
 #include "Arguments.h"
+#include "common/Formatters.h"
+#include "common/SettingsKeys.h"
 #include "Json.h"
-#include "shell/common/Formatters.h"
-#include "shell/common/SettingsKeys.h"
 #include "UsageError.h"
 #include "Verbs.h"
 

@@ -1,0 +1,176 @@
+#pragma once
+
+#include "activity/FDABanner.h"
+#include "base/RecordListModel.h"
+#include "duplicates/DuplicateService.h"
+#include "duplicates/screen/DuplicateRows.h"
+#include "duplicates/screen/DuplicateScopeView.h"
+#include "duplicates/screen/DuplicateTexts.h"
+
+#include <QObject>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+/// The Duplicate Finder's screen: the scope, the scan, the groups with a filter by file type, the choice of the copies that
+/// go, and the confirmed delete run. The result and the choice live in the service; the filter lives here and is lost with
+/// the screen. Main thread.
+class DuplicateFinderView final : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString symbol READ symbol CONSTANT)
+    Q_PROPERTY(DuplicateTexts texts READ texts CONSTANT)
+    Q_PROPERTY(FDABanner *banner READ banner CONSTANT)
+    Q_PROPERTY(DuplicateScopeView *scope READ scope CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *filterRows READ filterRows CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT)
+    Q_PROPERTY(bool showSettings READ showSettings NOTIFY showSettingsChanged)
+    Q_PROPERTY(QString settingsText READ settingsText NOTIFY showSettingsChanged)
+    Q_PROPERTY(bool isScanning READ isScanning NOTIFY stateChanged)
+    Q_PROPERTY(bool isDeleting READ isDeleting NOTIFY stateChanged)
+    Q_PROPERTY(bool canScan READ canScan NOTIFY stateChanged)
+    Q_PROPERTY(bool canChoose READ canChoose NOTIFY stateChanged)
+    Q_PROPERTY(bool canDelete READ canDelete NOTIFY stateChanged)
+    Q_PROPERTY(bool canStop READ canStop NOTIFY stateChanged)
+    Q_PROPERTY(QString stopText READ stopText NOTIFY stateChanged)
+    Q_PROPERTY(QString scanText READ scanText NOTIFY stateChanged)
+    Q_PROPERTY(QString emptyText READ emptyText NOTIFY stateChanged)
+    Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+    Q_PROPERTY(QString percentText READ percentText NOTIFY progressChanged)
+    Q_PROPERTY(QString currentPathText READ currentPathText NOTIFY progressChanged)
+    Q_PROPERTY(QString endText READ endText NOTIFY stateChanged)
+    Q_PROPERTY(bool hasFigures READ hasFigures NOTIFY figuresChanged)
+    Q_PROPERTY(QString groupsFigure READ groupsFigure NOTIFY figuresChanged)
+    Q_PROPERTY(QString filesFigure READ filesFigure NOTIFY figuresChanged)
+    Q_PROPERTY(QString wastedFigure READ wastedFigure NOTIFY figuresChanged)
+    Q_PROPERTY(QString toDeleteFigure READ toDeleteFigure NOTIFY figuresChanged)
+    Q_PROPERTY(QString footText READ footText NOTIFY figuresChanged)
+    Q_PROPERTY(QString deletingText READ deletingText NOTIFY deletingChanged)
+    Q_PROPERTY(bool showDeleteConfirm READ showDeleteConfirm NOTIFY showDeleteConfirmChanged)
+    Q_PROPERTY(QString confirmText READ confirmText NOTIFY showDeleteConfirmChanged)
+
+public:
+    DuplicateFinderView(const Platform &platform, DuplicateService &service, FileSystemService &fileSystem,
+                        FDAService &access);
+
+    /// The type filters in their order, "all" first, and the extensions of each of the others in lower case.
+    static const QStringList &filters();
+    static const std::map<QString, QStringList> &extMap();
+
+    QString title() const { return QStringLiteral("Duplicate Finder"); }
+    QString symbol() const { return QStringLiteral("doc.on.doc"); }
+    DuplicateTexts texts() const { return {}; }
+    FDABanner *banner() { return &banner_; }
+    DuplicateScopeView *scope() { return &scope_; }
+
+    /// The chips. Rows: label, countText (always empty), isSelected.
+    QAbstractItemModel *filterRows() { return &filterRows_; }
+    /// Rows: see DuplicateRows.
+    QAbstractItemModel *rows() { return &rows_; }
+
+    const QString &filter() const { return filter_; }
+    /// The groups that pass the filter, by index in the service's list. A group is judged by its first file alone.
+    const std::vector<size_t> &filteredGroups() const { return filteredGroups_; }
+
+    bool showSettings() const { return showSettings_; }
+    QString settingsText() const;
+    bool isScanning() const { return service_.isScanning(); }
+    bool isDeleting() const { return service_.isDeleting(); }
+    bool canScan() const;
+    bool canChoose() const; ///< there are copies, and nothing is at work on them
+    bool canDelete() const; ///< a copy on view is set to go
+    bool canStop() const { return isScanning() && !service_.cancelRequested(); }
+    QString stopText() const;
+    QString scanText() const;
+    QString emptyText() const; ///< what stands in the place of the groups; empty while there are some on view
+    QString endText() const;   ///< how the last scan ended, where it was stopped
+    double progress() const { return service_.progress(); }
+    QString percentText() const;
+    QString currentPathText() const;
+
+    // Figures over the filtered groups.
+
+    qint64 filesToDelete() const { return figures_.filesToDelete; }
+    qint64 bytesToDelete() const { return figures_.bytesToDelete; }
+    bool hasFigures() const { return figures_.groups > 0; }
+    QString groupsFigure() const;
+    QString filesFigure() const;
+    QString wastedFigure() const;
+    QString toDeleteFigure() const; ///< empty while nothing is set to go
+    QString footText() const;
+    QString deletingText() const; ///< how far the delete run is
+
+    bool showDeleteConfirm() const { return showDeleteConfirm_; }
+    QString confirmText() const;
+    /// The bytes that the last delete run freed; none after a partial failure.
+    std::optional<qint64> deleteResult() const { return deleteResult_; }
+
+    Q_INVOKABLE void scan();
+    Q_INVOKABLE void stop();
+    Q_INVOKABLE void toggleSettings();
+    Q_INVOKABLE void chooseFilter(int chip);
+    Q_INVOKABLE void selectAllDuplicates();
+    Q_INVOKABLE void selectNone();
+    Q_INVOKABLE void keepNewest();
+    Q_INVOKABLE void keepOldest();
+    // Of a row of the list; nothing on a row that is no head, or no file.
+    Q_INVOKABLE void keepNewestOf(int row);
+    Q_INVOKABLE void keepOldestOf(int row);
+    Q_INVOKABLE void toggleKeep(int row);
+    Q_INVOKABLE void keepOnly(int row);
+    Q_INVOKABLE QString toggleText(int row) const; ///< how the menu calls `toggleKeep`
+    Q_INVOKABLE bool isFile(int row) const;
+    Q_INVOKABLE void open(int row);
+    Q_INVOKABLE void quickLook(int row);
+    Q_INVOKABLE void reveal(int row);
+    Q_INVOKABLE void copyPath(int row);
+    Q_INVOKABLE void askToDelete();
+    Q_INVOKABLE void cancelDelete();
+    Q_INVOKABLE void confirmDelete(); ///< begins the run in a later turn of the main loop
+
+signals:
+    void showSettingsChanged();
+    void stateChanged();
+    void progressChanged();
+    void figuresChanged();
+    void deletingChanged();
+    void showDeleteConfirmChanged();
+    void rowsWillChange(); ///< the list is about to show others, from its top
+
+private:
+    struct Figures
+    {
+        qint64 groups = 0;
+        qint64 files = 0;
+        qint64 wasted = 0; // bytes
+        qint64 filesToDelete = 0;
+        qint64 bytesToDelete = 0;
+    };
+
+    void observeService();
+    std::vector<size_t> groupsPassingFilter() const;
+    void showGroups();
+    void takeFigures();
+    void announceProgress();
+    void runDelete();
+    void setShowDeleteConfirm(bool isUp);
+    const DuplicateFileEntry *fileAt(int row) const;
+    QString amountText(const QString &pattern) const;
+
+    const Platform &platform_;
+    DuplicateService &service_;
+    FileSystemService &fileSystem_;
+    QString filter_;
+    bool showSettings_ = true;
+    bool showDeleteConfirm_ = false;
+    std::optional<qint64> deleteResult_;
+    std::vector<size_t> filteredGroups_; // taken anew with the groups and with the filter, not at each click
+    Figures figures_;
+    bool isProgressDue_ = false;
+    FDABanner banner_;
+    DuplicateScopeView scope_;
+    RecordListModel<QString> filterRows_;
+    DuplicateRows rows_;
+};

@@ -1,0 +1,157 @@
+#include "program/Composition.h"
+
+#include "common/NotificationNames.h"
+#include "common/SettingsKeys.h"
+#include "disk/DiskAnalyzerView.h"
+#include "duplicates/screen/DuplicateFinderView.h"
+#include "shell/UpcomingView.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(QuillmerePlugin)
+
+namespace {
+
+/// Registered ahead of everything that reads a setting when it is made.
+const Platform &withRegisteredDefaults(const Platform &platform)
+{
+    platform.defaults.registerDefaults(settings::registeredDefaults());
+    return platform;
+}
+
+} // namespace
+
+Composition::Composition(const Platform &platform, Appearance &appearance, feedback::Program program,
+                         const std::function<void()> &exitNow, Relaunch relaunch)
+    : platform_(withRegisteredDefaults(platform))
+    , appearance_(appearance)
+    , relaunch_(std::move(relaunch))
+    , content_(platform, std::move(program))
+    , quit_(platform, content_, exitNow)
+    , sidebar_(platform, disk(), content_)
+    , main_(platform, content_, screens())
+    , sheets_(content_, [this] { return std::make_unique<HistoryView>(platform_, history()); })
+    , menuBar_(platform, main_, [this] { quit_.requestQuit(); })
+    , editCommands_(menuBar_)
+{
+}
+
+Composition::~Composition() = default;
+
+FileSystemService &Composition::fileSystem()
+{
+    // The file system service need not know the disk service, which itself builds on it.
+    const auto probeSize = [this](const QString &path) {
+        return disk().probeSize(path, ProbeContext::generic);
+    };
+    return FileSystemService::shared(platform_, probeSize);
+}
+
+DiskService &Composition::disk()
+{
+    return DiskService::shared(platform_, fileSystem(), access());
+}
+
+DuplicateService &Composition::duplicates()
+{
+    return DuplicateService::shared(platform_, fileSystem(), access(),
+                                    [this]() -> HistoryService & { return history(); });
+}
+
+FDAService &Composition::access()
+{
+    return FDAService::shared(platform_, {relaunch_.executable,
+                                          [this] {
+                                              if (relaunch_.letGo)
+                                                  relaunch_.letGo();
+                                          },
+                                          [this] { quit_.requestQuit(); }});
+}
+
+HistoryService &Composition::history()
+{
+    return HistoryService::shared(platform_);
+}
+
+MainContentView::Screen Composition::upcoming(SidebarItem item)
+{
+    return {QStringLiteral("shell/UpcomingScreen.qml"),
+            [item] { return std::make_unique<UpcomingView>(item); },
+            {}};
+}
+
+MainContentView::Screens Composition::screens()
+{
+    MainContentView::Screens screens;
+    for (const SidebarSection section : sidebar::sections) {
+        for (const SidebarItem item : sidebar::items(section))
+            screens.emplace(item, upcoming(item));
+    }
+    screens[SidebarItem::diskAnalyzer] = {
+        QStringLiteral("disk/DiskAnalyzerScreen.qml"),
+        [this] { return std::make_unique<DiskAnalyzerView>(platform_, disk(), fileSystem(), access()); },
+        {QStringLiteral("⌘R")},
+    };
+    screens[SidebarItem::duplicates] = {
+        QStringLiteral("duplicates/screen/DuplicateFinderScreen.qml"),
+        [this] {
+            return std::make_unique<DuplicateFinderView>(platform_, duplicates(), fileSystem(), access());
+        },
+        {},
+    };
+    return screens;
+}
+
+bool Composition::show()
+{
+    QFontDatabase::addApplicationFont(
+        QStringLiteral(":/qt/qml/Quillmere/controls/symbols/QuillmereSymbols.ttf"));
+    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine_.setInitialProperties({
+        {QStringLiteral("content"), QVariant::fromValue(&content_)},
+        {QStringLiteral("sidebar"), QVariant::fromValue(&sidebar_)},
+        {QStringLiteral("main"), QVariant::fromValue(&main_)},
+        {QStringLiteral("sheets"), QVariant::fromValue(&sheets_)},
+        {QStringLiteral("commands"), QVariant::fromValue(&menuBar_)},
+        {QStringLiteral("appearance"), QVariant::fromValue(&appearance_)},
+        {QStringLiteral("quit"), QVariant::fromValue(&quit_)},
+    });
+    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/shell/Main.qml")));
+    if (engine_.rootObjects().isEmpty())
+        return false;
+    window_ = qobject_cast<QQuickWindow *>(engine_.rootObjects().constFirst());
+    // What the window's appearance sets going waits for its first picture.
+    QObject::connect(
+        window_, &QQuickWindow::frameSwapped, &content_, [this] { windowAppeared(); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    return true;
+}
+
+void Composition::windowAppeared()
+{
+    content_.appear();
+    sidebar_.appear();
+    QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &sidebar_,
+                     [this](Qt::ApplicationState state) {
+                         if (state != Qt::ApplicationActive)
+                             return;
+                         sidebar_.sceneActivated();
+                         platform_.notifications.post(notifications::becameActive);
+                     });
+}
+
+void Composition::activate(const QByteArray &token)
+{
+    if (!window_)
+        return;
+    // Wayland takes the token from the environment at the next request for the focus.
+    if (!token.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", token);
+    if (window_->visibility() == QWindow::Minimized)
+        window_->showNormal();
+    window_->raise();
+    window_->requestActivate();
+}

@@ -1,0 +1,221 @@
+#include "program/FallbackPanel.h"
+
+#include "support/TempHome.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtTest>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int patience = 10'000; // milliseconds; each wait ends as soon as it may
+
+/// What is drawn below `item` and passes `isWanted`; null when nothing does.
+QQuickItem *findVisible(QQuickItem *item, const std::function<bool(QQuickItem *)> &isWanted)
+{
+    if (!item->isVisible())
+        return nullptr;
+    if (isWanted(item))
+        return item;
+    for (QQuickItem *child : item->childItems()) {
+        if (QQuickItem *found = findVisible(child, isWanted))
+            return found;
+    }
+    return nullptr;
+}
+
+/// The toolkit's own dialogs, in a window that nobody sees.
+class FallbackPanelTest : public ::testing::Test
+{
+public:
+    ~FallbackPanelTest() override
+    {
+        panel_.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // dialogs before their engine
+    }
+
+protected:
+    static void SetUpTestSuite() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+    FallbackPanelTest()
+    {
+        window_ = std::make_unique<QQuickWindow>();
+        window_->resize(900, 700);
+        window_->show();
+        window_->requestActivate(); // or it gets no keys
+        panel_ = std::make_unique<FallbackPanel>();
+        panel_->attach(engine_, *window_, home_.path());
+    }
+    Workspace::PathChosen taker()
+    {
+        return [this](const std::optional<QString> &path) {
+            ++answers_;
+            path_ = path;
+        };
+    }
+
+    /// Waits for a button to be drawn, and clicks it.
+    bool click(const QString &text)
+    {
+        const auto isButton = [&](QQuickItem *item) {
+            return item->inherits("QQuickAbstractButton") && item->property("text") == text
+                   && item->isEnabled();
+        };
+        QQuickItem *button = nullptr;
+        if (!waitFor([&] { return (button = findVisible(window_->contentItem(), isButton)) != nullptr; }))
+            return false;
+        QTest::mouseClick(window_.get(), Qt::LeftButton, {},
+                          button->mapToScene({button->width() / 2, button->height() / 2}).toPoint());
+        return true;
+    }
+
+    /// True once a text is to be read in a label, a title or a field.
+    bool shows(const QString &text) const
+    {
+        return waitFor([&] {
+            return findVisible(window_->contentItem(),
+                               [&](QQuickItem *item) { return item->property("text") == text; })
+                   != nullptr;
+        });
+    }
+
+    /// Types over the file's name in the panel for saving.
+    void typeName(const QString &name)
+    {
+        QQuickItem *field = findVisible(window_->contentItem(), [](QQuickItem *item) {
+            return item->objectName() == u"fileNameTextField"_s;
+        });
+        ASSERT_NE(field, nullptr);
+        field->forceActiveFocus();
+        QMetaObject::invokeMethod(field, "selectAll");
+        for (const QChar character : name)
+            QTest::keyClick(window_.get(), character.toLatin1());
+        EXPECT_EQ(field->property("text"), name);
+    }
+
+    bool waitForAnswer() const
+    {
+        return waitFor([this] { return answers_ > 0; });
+    }
+    static bool waitFor(const std::function<bool()> &isTrue) { return QTest::qWaitFor(isTrue, patience); }
+
+    TempHome home_;
+    QQmlEngine engine_;
+    std::unique_ptr<QQuickWindow> window_;
+    std::unique_ptr<FallbackPanel> panel_;
+    int answers_ = 0;
+    std::optional<QString> path_;
+};
+
+} // namespace
+
+TEST_F(FallbackPanelTest, savesUnderTheSuggestedNameInTheFolderToBeginWith)
+{
+    panel_->chooseSavePath({u"Export"_s, u"a b%.csv"_s, home_.folder(u"out"_s)}, taker());
+    ASSERT_TRUE(shows(u"Export"_s));
+    EXPECT_TRUE(shows(u"a b%.csv"_s));
+    EXPECT_EQ(answers_, 0);
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, home_.at(u"out/a b%.csv"_s));
+}
+
+TEST_F(FallbackPanelTest, savesInTheHomeFolderWhereNoneIsNamed)
+{
+    panel_->chooseSavePath({u"Export"_s, u"a.csv"_s, {}}, taker());
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, home_.at(u"a.csv"_s));
+}
+
+TEST_F(FallbackPanelTest, givesNoPathWhenSavingIsCancelled)
+{
+    panel_->chooseSavePath({u"Export"_s, u"a.csv"_s, {}}, taker());
+    ASSERT_TRUE(click(u"Cancel"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, std::nullopt);
+}
+
+TEST_F(FallbackPanelTest, replacesAFileOnlyOnceTheUserAgrees)
+{
+    home_.file(u"a.csv"_s, "old");
+    panel_->chooseSavePath({u"Export"_s, u"a.csv"_s, {}}, taker());
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(shows(u"“a.csv” already exists."_s));
+    EXPECT_EQ(answers_, 0);
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, home_.at(u"a.csv"_s));
+}
+
+TEST_F(FallbackPanelTest, asksForAnotherNameWhenTheUserKeepsTheFile)
+{
+    home_.file(u"a.csv"_s, "old");
+    panel_->chooseSavePath({u"Export"_s, u"a.csv"_s, {}}, taker());
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(shows(u"“a.csv” already exists."_s));
+    ASSERT_TRUE(click(u"Cancel"_s));
+    ASSERT_TRUE(shows(u"a.csv"_s));
+    EXPECT_EQ(answers_, 0);
+    typeName(u"b #1? 5%.csv"_s);
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, home_.at(u"b #1? 5%.csv"_s));
+}
+
+TEST_F(FallbackPanelTest, goesIntoAFolderWhoseNameIsTyped)
+{
+    home_.folder(u"inner"_s);
+    panel_->chooseSavePath({u"Export"_s, u"a.csv"_s, {}}, taker());
+    ASSERT_TRUE(shows(u"a.csv"_s));
+    typeName(u"inner"_s);
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(shows(u"a.csv"_s));
+    EXPECT_EQ(answers_, 0);
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, home_.at(u"inner/a.csv"_s));
+}
+
+TEST_F(FallbackPanelTest, givesTheFolderHighlightedInTheOneToBeginWith)
+{
+    home_.folder(u"start/inner"_s);
+    panel_->chooseFolder({u"Choose a folder"_s, home_.at(u"start"_s)}, taker());
+    ASSERT_TRUE(shows(u"Choose a folder"_s));
+    ASSERT_TRUE(click(u"Open"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, home_.at(u"start/inner"_s)); // the toolkit highlights the first one in it
+}
+
+TEST_F(FallbackPanelTest, givesNoFolderWhenItIsCancelled)
+{
+    panel_->chooseFolder({u"Choose"_s, {}}, taker());
+    ASSERT_TRUE(click(u"Cancel"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, std::nullopt);
+}
+
+TEST_F(FallbackPanelTest, putsASecondPanelInThePlaceOfTheFirst)
+{
+    panel_->chooseFolder({u"First"_s, {}}, [](const auto &) { ADD_FAILURE() << "The first one answered."; });
+    ASSERT_TRUE(shows(u"First"_s));
+    panel_->chooseSavePath({u"Second"_s, u"a.csv"_s, {}}, taker());
+    ASSERT_TRUE(shows(u"Second"_s));
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, home_.at(u"a.csv"_s));
+    EXPECT_EQ(answers_, 1);
+}
+
+TEST_F(FallbackPanelTest, givesNoPathBeforeThereIsAWindow)
+{
+    FallbackPanel early;
+    early.chooseFolder({u"Choose"_s, {}}, taker());
+    EXPECT_EQ(answers_, 1);
+    EXPECT_EQ(path_, std::nullopt);
+}
