@@ -10,7 +10,7 @@
 #include <optional>
 
 /// What one destructive run of a tool did, as the activity log keeps it. The caller builds it whole: a fresh id, the
-/// moment, and at most 200 paths.
+/// moment, and at most `mostPaths` paths.
 struct HistoryEntry
 {
     enum class Kind {
@@ -25,11 +25,14 @@ struct HistoryEntry
     static constexpr std::array allKinds = {Kind::uninstall, Kind::duplicateDelete, Kind::cleanup,
                                             Kind::organize,  Kind::ghostClean,      Kind::undo};
 
+    /// How many paths a record holds at most.
+    static constexpr qsizetype mostPaths = 200;
+
     QUuid id;
     Date timestamp = dates::distantPast;
     Kind kind = Kind::cleanup;
     QString title;                 ///< one line
-    QStringList paths;             ///< touched by the run, the first 200
+    QStringList paths;             ///< touched by the run, the first `mostPaths`
     qint64 bytesAffected = 0;      ///< freed or moved
     bool success = true;           ///< nothing in the run failed
     std::optional<QString> detail; ///< failures or a note

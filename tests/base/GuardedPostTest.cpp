@@ -1,0 +1,89 @@
+#include "base/GuardedPost.h"
+
+#include "support/SteppedQueues.h"
+
+#include <QObject>
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Model : QObject, std::enable_shared_from_this<Model>
+{
+    int calls = 0;
+};
+
+} // namespace
+
+TEST(GuardedPost, runsItsBlockOnTheOwner)
+{
+    SteppedMainQueue queue;
+    Model model;
+    guarded::post(queue, QPointer(&model), [](Model &owner) { ++owner.calls; });
+    EXPECT_EQ(model.calls, 0);
+    queue.run();
+    EXPECT_EQ(model.calls, 1);
+}
+
+TEST(GuardedPost, dropsTheBlockWhenTheOwnerHasGone)
+{
+    SteppedMainQueue queue;
+    auto model = std::make_unique<Model>();
+    int calls = 0;
+    guarded::post(queue, QPointer(model.get()), [&calls](Model &) { ++calls; });
+    guarded::postAfter(queue, 1, QPointer(model.get()), [&calls](Model &) { ++calls; });
+    model.reset();
+    queue.run();
+    queue.advance(2);
+    EXPECT_EQ(calls, 0);
+}
+
+TEST(GuardedPost, waitsForItsTime)
+{
+    SteppedMainQueue queue;
+    Model model;
+    guarded::postAfter(queue, 2, QPointer(&model), [](Model &owner) { ++owner.calls; });
+    queue.advance(1.9);
+    EXPECT_EQ(model.calls, 0);
+    queue.advance(0.1);
+    EXPECT_EQ(model.calls, 1);
+}
+
+TEST(LaterCommand, beginsInALaterTurn)
+{
+    SteppedMainQueue queue;
+    const auto model = std::make_shared<Model>();
+    guarded::runLater(queue, *model, [](Model &owner) { ++owner.calls; });
+    EXPECT_EQ(model->calls, 0);
+    queue.run();
+    EXPECT_EQ(model->calls, 1);
+}
+
+TEST(LaterCommand, keepsItsModelUntilItHasEnded)
+{
+    SteppedMainQueue queue;
+    auto model = std::make_shared<Model>();
+    const std::weak_ptr<Model> weak = model;
+    bool wasThere = false;
+    guarded::runLater(queue, *model, [&](Model &owner) {
+        model.reset(); // another screen was chosen from within
+        wasThere = !weak.expired();
+        ++owner.calls;
+    });
+    queue.run();
+    EXPECT_TRUE(wasThere);
+    EXPECT_TRUE(weak.expired());
+}
+
+TEST(LaterCommand, doesNotBeginForAModelThatHasGone)
+{
+    SteppedMainQueue queue;
+    auto model = std::make_shared<Model>();
+    int calls = 0;
+    guarded::runLater(queue, *model, [&calls](Model &) { ++calls; });
+    model.reset();
+    queue.run();
+    EXPECT_EQ(calls, 0);
+}
