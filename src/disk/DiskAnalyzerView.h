@@ -5,7 +5,7 @@
 #include "base/Ticker.h"
 #include "disk/AnalyzerTexts.h"
 #include "disk/DiskService.h"
-#include "disk/LastScannedPill.h"
+#include "common/LastScannedPill.h"
 #include "disk/TreemapView.h"
 #include "filesystem/FileEntry.h"
 

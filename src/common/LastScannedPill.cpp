@@ -1,4 +1,4 @@
-#include "disk/LastScannedPill.h"
+#include "common/LastScannedPill.h"
 
 #include <algorithm>
 
