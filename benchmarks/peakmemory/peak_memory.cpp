@@ -1,6 +1,7 @@
 // quillmere-peak-memory COMMAND ARGUMENT...: runs a command, its output thrown away, and prints the most memory that it
 // had resident at once, in bytes. A process of its own, because the system counts for a child what its parent had
-// resident before the child became another program; this one is small.
+// resident before the child became another program; this one is small. RESIDENT_UNIT is the bytes in which the system
+// counts them, as the build knows.
 
 #include <cstdio>
 #include <cstdlib>
@@ -12,16 +13,6 @@
 #include <unistd.h>
 
 extern char **environ; // NOLINT(readability-redundant-declaration): macOS declares it nowhere
-
-namespace {
-
-#ifdef __APPLE__
-constexpr long unit = 1; // bytes
-#else
-constexpr long unit = 1024;
-#endif
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -38,6 +29,6 @@ int main(int argc, char *argv[])
     if (failure != 0 || wait4(child, &status, 0, &usage) == -1 || !WIFEXITED(status)
         || WEXITSTATUS(status) != 0)
         return EXIT_FAILURE;
-    printf("%ld\n", usage.ru_maxrss * unit);
+    printf("%ld\n", usage.ru_maxrss * RESIDENT_UNIT);
     return EXIT_SUCCESS;
 }

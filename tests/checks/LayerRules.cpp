@@ -10,58 +10,74 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Layer
-{
-    QString folder; ///< with the slash at its end
-    int height = 0; ///< a folder may include what is lower
-};
-
 const QString entry = u"program/main.cpp"_s;
-const QStringList adapters = {u"platform/linux/"_s, u"platform/macos/"_s};
+const QString composition = u"program/Composition.cpp"_s;
+const QStringList adapters = {u"platform/linux"_s, u"platform/macos"_s};
 
-/// The first folder that a path begins with is its own, so the deeper ones stand first.
-const std::vector<Layer> allLayers = {
-    {u"base/"_s, 0},      {u"platform/linux/"_s, 2}, {u"platform/macos/"_s, 2}, {u"platform/"_s, 1},
-    {u"common/"_s, 2},    {u"controls/"_s, 3},       {u"filesystem/"_s, 4},     {u"activity/"_s, 5},
-    {u"disk/"_s, 6},      {u"duplicates/"_s, 6},     {u"cleanup/"_s, 6},        {u"apps/"_s, 6},
-    {u"rename/"_s, 6},    {u"organizer/"_s, 6},      {u"search/"_s, 6},         {u"browser/"_s, 6},
-    {u"dashboard/"_s, 7}, {u"shell/"_s, 8},          {u"program/"_s, 9},
+/// The folders from the ground up; a file may include what lies below its own. The tools share one floor.
+const QStringList floorsBelowTools = {u"base"_s,     u"platform"_s,   u"common"_s,
+                                      u"controls"_s, u"filesystem"_s, u"activity"_s};
+const QStringList floorsAboveTools = {u"dashboard"_s, u"shell"_s, u"program"_s};
+
+/// A folder of the plan.
+struct Room
+{
+    QString folder;
+    qsizetype floor = 0;
 };
 
-std::optional<Layer> layerOf(const QString &path)
+/// None for what lies outside the plan, or is not named by its full and plain path.
+std::optional<Room> roomOf(const QString &path, const QStringList &tools)
 {
-    const auto found =
-        std::ranges::find_if(allLayers, [&](const Layer &layer) { return path.startsWith(layer.folder); });
-    const bool isPlain = !path.contains(u"./");
-    return found == allLayers.end() || !isPlain ? std::nullopt : std::optional(*found);
+    if (path.contains(u"./") || !path.contains(u'/'))
+        return std::nullopt;
+    for (const QString &adapter : adapters) {
+        if (path.startsWith(adapter + u'/'))
+            return Room{adapter, floorsBelowTools.indexOf(u"platform"_s) + 1};
+    }
+    const QString folder = path.section(u'/', 0, 0);
+    if (tools.contains(folder))
+        return Room{folder, floorsBelowTools.size()};
+    if (const qsizetype below = floorsBelowTools.indexOf(folder); below >= 0)
+        return Room{folder, below};
+    if (const qsizetype above = floorsAboveTools.indexOf(folder); above >= 0)
+        return Room{folder, floorsBelowTools.size() + 1 + above};
+    return std::nullopt;
 }
 
 /// Why `from` may not include `to`; empty when it may.
-QString objection(const QString &from, const QString &to, const layers::BuildsOn &buildsOn)
+QString objection(const QString &from, const QString &to, const QStringList &tools)
 {
-    const std::optional<Layer> own = layerOf(from);
-    const std::optional<Layer> other = layerOf(to);
+    const std::optional<Room> own = roomOf(from, tools);
+    const std::optional<Room> other = roomOf(to, tools);
     if (!own || !other)
         return u"no folder of the plan"_s;
     if (own->folder == other->folder)
         return {};
     if (adapters.contains(other->folder))
         return from == entry ? QString() : u"a system's adapters"_s;
-    if (other->height > own->height)
+    if (other->floor > own->floor)
         return u"above it"_s;
-    const auto sideways = buildsOn.find(own->folder.chopped(1));
-    const bool isTold = sideways != buildsOn.end() && sideways->second.contains(other->folder.chopped(1));
-    return other->height < own->height || isTold ? QString() : u"beside it"_s;
+    return other->floor < own->floor ? QString() : u"beside it"_s;
 }
 
-/// "DiskService" of "disk/DiskService.h".
-QString stem(const QString &path)
+QString told(const SourceFile &file, const SourceFile::Include &include)
 {
-    return path.section(u'/', -1).section(u'.', 0, 0);
+    return u"%1:%2 includes %3"_s.arg(file.path).arg(include.line).arg(include.path);
+}
+
+bool isService(const QString &name)
+{
+    return name.endsWith(u"Service") || name.endsWith(u"ViewModel");
+}
+
+bool isScreenModel(const QString &name)
+{
+    return name.endsWith(u"View");
 }
 
 /// Walks on from the last of `trail`. Gives the circle that it closes; empty when there is none.
-QStringList circleFrom(const layers::BuildsOn &graph, QStringList &trail, std::set<QString> &done)
+QStringList circleFrom(const layers::Graph &graph, QStringList &trail, std::set<QString> &done)
 {
     const auto node = graph.find(trail.last());
     for (const QString &next : node == graph.end() ? QStringList() : node->second) {
@@ -82,15 +98,32 @@ QStringList circleFrom(const layers::BuildsOn &graph, QStringList &trail, std::s
 
 namespace layers {
 
-QStringList brokenIncludes(const std::vector<SourceFile> &files, const BuildsOn &buildsOn)
+QStringList brokenIncludes(const std::vector<SourceFile> &files, const QStringList &tools)
 {
     QStringList broken;
     for (const SourceFile &file : files) {
         for (const SourceFile::Include &include : file.includes()) {
-            const QString reason = objection(file.path, include.path, buildsOn);
+            const QString reason = objection(file.path, include.path, tools);
             if (!reason.isEmpty())
-                broken
-                    << u"%1:%2 includes %3: %4"_s.arg(file.path).arg(include.line).arg(include.path, reason);
+                broken << told(file, include) + u": "_s + reason;
+        }
+    }
+    return broken;
+}
+
+QStringList brokenOuterIncludes(const std::vector<SourceFile> &files, const QStringList &tools)
+{
+    std::set<QString> ownNames;
+    for (const SourceFile &file : files)
+        ownNames.insert(file.path.section(u'/', -1));
+    QStringList broken;
+    for (const SourceFile &file : files) {
+        for (const SourceFile::Include &include : file.includes()) {
+            const std::optional<Room> room = roomOf(include.path, tools);
+            if (!room && !ownNames.contains(include.path))
+                broken << told(file, include) + u": no folder of the plan"_s;
+            else if (room && adapters.contains(room->folder) && !file.isEntry())
+                broken << told(file, include) + u": a system's adapters"_s;
         }
     }
     return broken;
@@ -98,17 +131,41 @@ QStringList brokenIncludes(const std::vector<SourceFile> &files, const BuildsOn 
 
 QStringList servicesThatKnowScreens(const std::vector<SourceFile> &files)
 {
+    std::set<QString> screenHeaders;
+    for (const SourceFile &file : files) {
+        if (std::ranges::any_of(file.declaredClasses(), isScreenModel))
+            screenHeaders.insert(file.path);
+    }
     QStringList broken;
     for (const SourceFile &file : files) {
-        const QString name = stem(file.path);
-        if (!name.endsWith(u"Service") && !name.endsWith(u"ViewModel"))
+        if (!std::ranges::any_of(file.classes(), isService))
             continue;
         for (const SourceFile::Include &include : file.includes()) {
-            if (stem(include.path).endsWith(u"View"))
-                broken << u"%1:%2 includes %3"_s.arg(file.path).arg(include.line).arg(include.path);
+            if (screenHeaders.contains(include.path))
+                broken << told(file, include);
         }
     }
     return broken;
+}
+
+QStringList sharedElsewhere(const std::vector<SourceFile> &files)
+{
+    static const QRegularExpression use(u"(\\w+)(?:::|\\.|->)shared\\("_s);
+    QStringList found;
+    for (const SourceFile &file : files) {
+        if (file.path == composition)
+            continue;
+        for (auto matches = use.globalMatch(file.code); matches.hasNext();) {
+            const QRegularExpressionMatch match = matches.next();
+            // A service's own file defines it.
+            const QString stem = file.path.section(u'/', -1).section(u'.', 0, 0);
+            if (match.captured(1) == stem)
+                continue;
+            const auto line = file.code.first(match.capturedStart()).count(u'\n') + 1;
+            found << u"%1:%2 %3"_s.arg(file.path).arg(line).arg(match.captured());
+        }
+    }
+    return found;
 }
 
 QStringList platformConditions(const std::vector<SourceFile> &files)
@@ -132,9 +189,9 @@ QStringList platformConditions(const std::vector<SourceFile> &files)
     return found;
 }
 
-BuildsOn includeGraph(const std::vector<SourceFile> &files)
+Graph includeGraph(const std::vector<SourceFile> &files)
 {
-    BuildsOn graph;
+    Graph graph;
     for (const SourceFile &file : files) {
         QStringList &included = graph[file.path];
         for (const SourceFile::Include &include : file.includes())
@@ -143,7 +200,7 @@ BuildsOn includeGraph(const std::vector<SourceFile> &files)
     return graph;
 }
 
-QStringList circle(const BuildsOn &graph)
+QStringList circle(const Graph &graph)
 {
     std::set<QString> done;
     for (const auto &[start, ignored] : graph) {

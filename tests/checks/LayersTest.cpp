@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// No folder builds on another of its floor.
-const layers::BuildsOn featuresBuildOn = {};
+/// As the build tells them.
+const QStringList tools = QStringLiteral(QUILLMERE_TOOL_FOLDERS).split(u' ');
 
 std::string joined(const QStringList &lines)
 {
@@ -25,6 +25,15 @@ const std::vector<SourceFile> &realTree()
     return files;
 }
 
+/// The programs that stand beside src/.
+std::vector<SourceFile> outerTree()
+{
+    std::vector<SourceFile> files = SourceFile::allBelow(QStringLiteral(QUILLMERE_SOURCE_DIR "/tools"));
+    for (const SourceFile &file : SourceFile::allBelow(QStringLiteral(QUILLMERE_SOURCE_DIR "/benchmarks")))
+        files.push_back(file);
+    return files;
+}
+
 /// A tree with one file of that content.
 std::vector<SourceFile> treeOf(const TempHome &temp, const QString &path, const QByteArray &content)
 {
@@ -33,18 +42,19 @@ std::vector<SourceFile> treeOf(const TempHome &temp, const QString &path, const 
 }
 
 /// What is wrong with one include of one file.
-QStringList objections(const QString &path, const QString &included, const layers::BuildsOn &buildsOn = {})
+QStringList objections(const QString &path, const QString &included)
 {
     const TempHome temp;
     const QByteArray line = "#include \"" + included.toUtf8() + "\"\n";
-    return layers::brokenIncludes(treeOf(temp, path, line), buildsOn);
+    return layers::brokenIncludes(treeOf(temp, path, line),
+                                  {u"disk"_s, u"duplicates"_s, u"search"_s, u"browser"_s});
 }
 
 } // namespace
 
 TEST(Layers, includesPointDown)
 {
-    const QStringList broken = layers::brokenIncludes(realTree(), featuresBuildOn);
+    const QStringList broken = layers::brokenIncludes(realTree(), tools);
     EXPECT_TRUE(broken.isEmpty()) << joined(broken);
 }
 
@@ -52,6 +62,27 @@ TEST(Layers, filesIncludeEachOtherInNoCircle)
 {
     const QStringList circle = layers::circle(layers::includeGraph(realTree()));
     EXPECT_TRUE(circle.isEmpty()) << joined(circle);
+}
+
+TEST(Layers, programsBesideTheTreeIncludeItByFullPaths)
+{
+    const QStringList broken = layers::brokenOuterIncludes(outerTree(), tools);
+    EXPECT_TRUE(broken.isEmpty()) << joined(broken);
+}
+
+TEST(Layers, onlyTheCompositionAsksForAServicesOneInstance)
+{
+    const QStringList found = layers::sharedElsewhere(realTree()) + layers::sharedElsewhere(outerTree());
+    EXPECT_TRUE(found.isEmpty()) << joined(found);
+}
+
+TEST(Layers, everyToolOfTheBuildHasItsFolder)
+{
+    for (const QString &tool : tools) {
+        EXPECT_TRUE(std::ranges::any_of(realTree(), [&tool](const SourceFile &file) {
+            return file.path.startsWith(tool + u'/');
+        })) << tool.toStdString();
+    }
 }
 
 TEST(Layers, servicesKnowNoScreens)
@@ -62,8 +93,8 @@ TEST(Layers, servicesKnowNoScreens)
 
 TEST(Layers, onlyPlatformIsConditionalOnTheSystem)
 {
-    QStringList found = layers::platformConditions(realTree());
-    found += layers::platformConditions(SourceFile::allBelow(QStringLiteral(QUILLMERE_SOURCE_DIR "/tools")));
+    const QStringList found =
+        layers::platformConditions(realTree()) + layers::platformConditions(outerTree());
     EXPECT_TRUE(found.isEmpty()) << joined(found);
 }
 
@@ -149,16 +180,6 @@ TEST(LayerRules, refuseIncludesBetweenFoldersOfOneHeight)
         EXPECT_EQ(objections(from, to), QStringList(u"%1:1 includes %2: beside it"_s.arg(from, to)));
 }
 
-TEST(LayerRules, letAFeatureIncludeWhatItIsToldToBuildOn)
-{
-    const layers::BuildsOn buildsOn = {{u"browser"_s, {u"search"_s}}};
-    EXPECT_EQ(objections(u"browser/A.h"_s, u"search/B.h"_s, buildsOn), QStringList());
-    EXPECT_EQ(objections(u"search/A.h"_s, u"browser/B.h"_s, buildsOn).size(), 1);
-    EXPECT_EQ(objections(u"browser/A.h"_s, u"disk/B.h"_s, buildsOn).size(), 1);
-    EXPECT_EQ(objections(u"base/A.h"_s, u"browser/B.h"_s, {{u"base"_s, {u"browser"_s}}}).size(), 1)
-        << "no list makes an include that points up right";
-}
-
 TEST(LayerRules, refuseASystemsAdaptersElsewhereThanAtTheEntry)
 {
     for (const QString &from : {u"platform/A.h"_s, u"program/Composition.cpp"_s, u"disk/A.h"_s, u"base/A.h"_s,
@@ -179,14 +200,40 @@ TEST(LayerRules, refuseIncludesByOtherThanTheFullPath)
 TEST(LayerRules, refuseAServiceThatIncludesAScreenModel)
 {
     const TempHome temp;
-    temp.file(u"disk/DiskService.cpp"_s,
-              "#include \"disk/DiskService.h\"\n#include \"disk/TreemapView.h\"\n");
-    temp.file(u"cleanup/CleanupViewModel.h"_s, "#include \"cleanup/SmartCleanupView.h\"\n");
-    temp.file(u"disk/TreemapView.cpp"_s,
-              "#include \"disk/TreemapView.h\"\n#include \"disk/DiskService.h\"\n");
+    temp.file(u"disk/DiskService.h"_s, "class DiskService final : public QObject\n{\n};\n");
+    temp.file(u"disk/DiskComputations.cpp"_s,
+              "#include \"disk/DiskService.h\"\n#include \"disk/Map.h\"\n\nint DiskService::sum()\n{\n}\n");
+    temp.file(u"disk/Map.h"_s, "class TreemapView final\n    : public QObject\n{\n};\n");
+    temp.file(u"disk/Other.cpp"_s, "#include \"disk/Map.h\"\n\nint other()\n{\n    DiskService::sum();\n}\n");
+    temp.file(u"cleanup/CleanupViewModel.h"_s,
+              "#include \"cleanup/SmartCleanupView.h\"\nclass CleanupViewModel : public QObject {\n};\n");
+    temp.file(u"cleanup/SmartCleanupView.h"_s,
+              "#include \"disk/DiskService.h\"\nclass CleanupViewModel;\nclass SmartCleanupView {\n};\n");
     const QStringList expected = {u"cleanup/CleanupViewModel.h:1 includes cleanup/SmartCleanupView.h"_s,
-                                  u"disk/DiskService.cpp:2 includes disk/TreemapView.h"_s};
+                                  u"disk/DiskComputations.cpp:2 includes disk/Map.h"_s};
     EXPECT_EQ(layers::servicesThatKnowScreens(SourceFile::allBelow(temp.path())), expected);
+}
+
+TEST(LayerRules, letProgramsBesideTheTreeIncludeAllOfItButAdaptersOutsideTheirEntries)
+{
+    const TempHome temp;
+    temp.file(u"demo/main.cpp"_s, "#include \"Home.h\"\n#include \"platform/linux/A.h\"\n"
+                                  "#include \"program/B.h\"\n\nint main(int argc)\n{\n}\n");
+    temp.file(u"demo/Home.h"_s, "#include \"platform/linux/A.h\"\n#include \"../src/base/C.h\"\n");
+    const QStringList expected = {u"demo/Home.h:1 includes platform/linux/A.h: a system's adapters"_s,
+                                  u"demo/Home.h:2 includes ../src/base/C.h: no folder of the plan"_s};
+    EXPECT_EQ(layers::brokenOuterIncludes(SourceFile::allBelow(temp.path()), {}), expected);
+}
+
+TEST(LayerRules, refuseAServicesOneInstanceOutsideTheComposition)
+{
+    const TempHome temp;
+    temp.file(u"disk/DiskService.cpp"_s, "DiskService &DiskService::shared(const Platform &)\n{\n}\n");
+    temp.file(u"program/Composition.cpp"_s, "void f()\n{\n    DiskService::shared(platform);\n}\n");
+    temp.file(u"driver/Verbs.cpp"_s, "// DiskService::shared(platform)\n\nint i = DiskService::shared(p).i;\n"
+                                     "const char *text = \"DiskService::shared(\";\n");
+    EXPECT_EQ(layers::sharedElsewhere(SourceFile::allBelow(temp.path())),
+              QStringList(u"driver/Verbs.cpp:3 DiskService::shared("_s));
 }
 
 TEST(LayerRules, findACircleOfFiles)
@@ -209,7 +256,7 @@ TEST(LayerRules, findAFileThatIncludesItself)
 
 TEST(LayerRules, takeTwoWaysToOneFileForNoCircle)
 {
-    const layers::BuildsOn diamond = {{u"a"_s, {u"b"_s, u"c"_s}}, {u"b"_s, {u"d"_s}}, {u"c"_s, {u"d"_s}}};
+    const layers::Graph diamond = {{u"a"_s, {u"b"_s, u"c"_s}}, {u"b"_s, {u"d"_s}}, {u"c"_s, {u"d"_s}}};
     EXPECT_EQ(layers::circle(diamond), QStringList());
 }
 

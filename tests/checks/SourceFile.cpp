@@ -41,7 +41,56 @@ std::vector<SourceFile::Directive> directivesOf(const QString &text)
     return directives;
 }
 
+/// Line breaks stay, so that a line's number is the same in both.
+QString withoutCommentsAndQuotes(const QString &text)
+{
+    static const QRegularExpression pattern(
+        u"//[^\n]*|/\\*.*?\\*/|R\"(\\w*)\\(.*?\\)\\1\"|\"(?:\\\\.|[^\"\\\\\n])*\"|'(?:\\\\.|[^'\\\\\n])+'"_s,
+        QRegularExpression::DotMatchesEverythingOption);
+    QString code;
+    qsizetype end = 0;
+    for (auto matches = pattern.globalMatch(text); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        code += QStringView(text).sliced(end, match.capturedStart() - end);
+        code += QString(match.captured().count(u'\n'), u'\n');
+        end = match.capturedEnd();
+    }
+    return code + text.sliced(end);
+}
+
+QStringList capturedIn(const QString &code, const QRegularExpression &pattern)
+{
+    QStringList names;
+    for (auto matches = pattern.globalMatch(code); matches.hasNext();)
+        names << matches.next().captured(1);
+    names.removeDuplicates();
+    return names;
+}
+
 } // namespace
+
+QStringList SourceFile::declaredClasses() const
+{
+    static const QRegularExpression pattern(
+        u"\\b(?:class|struct)\\s+(\\w+)(?:\\s+final)?(?:\\s*:[^;{]*)?\\s*\\{"_s);
+    return capturedIn(code, pattern);
+}
+
+QStringList SourceFile::classes() const
+{
+    // At the start of a line, where a definition stands and a call does not.
+    static const QRegularExpression members(u"^(?:\\w[^\n;(=]*[ &*])?(\\w+)::~?\\w+\\("_s,
+                                            QRegularExpression::MultilineOption);
+    QStringList names = declaredClasses() + capturedIn(code, members);
+    names.removeDuplicates();
+    return names;
+}
+
+bool SourceFile::isEntry() const
+{
+    static const QRegularExpression pattern(u"^int main\\("_s, QRegularExpression::MultilineOption);
+    return pattern.match(code).hasMatch();
+}
 
 std::vector<SourceFile::Include> SourceFile::includes() const
 {
@@ -63,8 +112,9 @@ std::vector<SourceFile> SourceFile::allBelow(const QString &root)
     for (const auto &entry : std::filesystem::recursive_directory_iterator(top)) {
         if (!entry.is_regular_file() || !endings.contains(entry.path().extension().string()))
             continue;
-        all.push_back({paths::fromBytes(entry.path().lexically_relative(top).string()),
-                       directivesOf(content(entry.path()))});
+        const QString text = content(entry.path());
+        all.push_back({paths::fromBytes(entry.path().lexically_relative(top).string()), directivesOf(text),
+                       withoutCommentsAndQuotes(text)});
     }
     std::ranges::sort(all, {}, &SourceFile::path);
     return all;

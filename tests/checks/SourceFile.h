@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
-/// What the checks of the source look at in one C++ file: its preprocessor directives.
+/// What the checks of the source look at in one C++ file.
 struct SourceFile
 {
     struct Directive
@@ -16,6 +17,16 @@ struct SourceFile
 
     QString path; ///< relative to the root of the tree
     std::vector<Directive> directives;
+    QString code; ///< without comments and without what stands in quotes
+
+    /// The classes that the file declares with a body.
+    QStringList declaredClasses() const;
+
+    /// The classes that the file declares with a body, and those of which it defines a member.
+    QStringList classes() const;
+
+    /// True when the program starts in this file.
+    bool isEntry() const;
 
     /// The paths that the file includes in quotes, each with its line.
     struct Include

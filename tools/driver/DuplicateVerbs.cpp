@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 
 #include <array>
+#include <optional>
 
 namespace {
 
@@ -51,10 +52,11 @@ void duplicates(const Arguments &arguments)
     std::array<char *, 2> words = {const_cast<char *>("quillmere-driver"), nullptr};
     const QCoreApplication application(argumentCount, words.data()); // for its event loop
     DriverPlatform platform(arguments, arguments.value(homeOption));
-    DuplicateService service(
-        platform.platform(), platform.fileSystem(), platform.access(),
-        [&platform]() -> HistoryService & { return HistoryService::shared(platform.platform()); });
-    // A scan records nothing, so that no log is made in the home folder.
+    std::optional<HistoryService> history; // a scan records nothing, so no log is made in the home folder
+    DuplicateService service(platform.platform(), platform.fileSystem(), platform.access(),
+                             [&platform, &history]() -> HistoryService & {
+                                 return history ? *history : history.emplace(platform.platform());
+                             });
     service.setMinFileSize(arguments.integer(minOption));
     if (!arguments.operands().isEmpty())
         service.removeScanPath(platform.platform().home);
