@@ -1,5 +1,7 @@
 #include "common/LastScannedPill.h"
 
+#include "common/CacheLifetime.h"
+
 #include <algorithm>
 
 namespace {
@@ -25,23 +27,27 @@ QString ageText(double age)
 
 double LastScannedPill::age() const
 {
-    return dates::secondsBetween(*date, now);
+    return date ? dates::secondsBetween(*date, now) : 0;
 }
 
 double LastScannedPill::remaining() const
 {
-    return std::max(cacheLifetime - age(), 0.0);
+    return date ? std::min(cacheLifetime - age(), longestCacheLifetime) : 0;
 }
 
 QString LastScannedPill::text() const
 {
-    return remaining() > 0 ? QStringLiteral("Cached · %1").arg(ageText(age()))
-                           : QStringLiteral("Stale · refreshing soon");
+    if (!isShown())
+        return {};
+    return isStale() ? QStringLiteral("Stale · refreshing soon")
+                     : QStringLiteral("Cached · %1").arg(ageText(age()));
 }
 
 QString LastScannedPill::tooltip() const
 {
-    if (remaining() <= 0)
+    if (!isShown())
+        return {};
+    if (isStale())
         return QStringLiteral("Cache expired — next view will re-scan automatically.");
     const auto left = static_cast<qint64>(remaining());
     return QStringLiteral("Last scanned %1. Auto-refresh in %2 min %3 sec, or click Refresh to update now.")

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// Tells how old a cached result is. The screen that shows it moves `now` along.
+/// Tells how old a cached result is. Whoever shows it moves `now` along.
 struct LastScannedPill
 {
     std::optional<Date> date;
@@ -14,9 +14,11 @@ struct LastScannedPill
     Date now;
 
     bool isShown() const { return date.has_value(); }
-    /// "Cached · 3 min ago" or "Stale · refreshing soon". Only with a date.
+    /// True from the lifetime's end on, and without a date.
+    bool isStale() const { return !(remaining() > 0); }
+    /// "Cached · 3 min ago" or "Stale · refreshing soon"; empty without a date.
     QString text() const;
-    QString tooltip() const;
+    QString tooltip() const; ///< empty without a date
 
 private:
     double age() const;

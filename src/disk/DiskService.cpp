@@ -1,15 +1,14 @@
 #include "disk/DiskService.h"
 
 #include "activity/FDAService.h"
-#include "common/SettingsKeys.h"
+#include "common/CacheLifetime.h"
 #include "filesystem/FileSystemService.h"
 
 #include <QPointer>
 
 namespace {
 
-constexpr qint64 usualLifetime = 5; // minutes
-constexpr int analyzerDepth = 2;    // the root and its folders are listed, what lies below is measured
+constexpr int analyzerDepth = 2; // the root and its folders are listed, what lies below is measured
 
 } // namespace
 
@@ -31,8 +30,7 @@ DiskService &DiskService::shared(const Platform &platform, FileSystemService &fi
 
 double DiskService::cacheLifetime() const
 {
-    const qint64 minutes = platform_.defaults.integer(settings::diskCacheLifetimeMinutes);
-    return static_cast<double>(minutes < 1 ? usualLifetime : minutes) * 60;
+    return ::cacheLifetime(platform_.defaults);
 }
 
 bool DiskService::isFresh(std::optional<Date> date) const

@@ -5,6 +5,7 @@
 #include "activity/FDABanner.h"
 #include "activity/HistoryTexts.h"
 #include "activity/HistoryView.h"
+#include "common/AgePillView.h"
 #include "disk/AnalyzerTexts.h"
 #include "disk/DiskAnalyzerView.h"
 #include "disk/TreemapView.h"
@@ -21,6 +22,14 @@
 #include "shell/UpcomingView.h"
 
 #include <QtQml/qqml.h>
+
+struct AgePillViewType
+{
+    Q_GADGET
+    QML_FOREIGN(AgePillView)
+    QML_NAMED_ELEMENT(AgePillView)
+    QML_UNCREATABLE("Handed in by the program")
+};
 
 struct AnalyzerTextsType
 {

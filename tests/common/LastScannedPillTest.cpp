@@ -1,5 +1,7 @@
 #include "common/LastScannedPill.h"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -18,6 +20,8 @@ LastScannedPill pillAt(double age, double lifetime = 300)
 TEST(LastScannedPill, isNotShownWithoutADate)
 {
     EXPECT_FALSE((LastScannedPill{std::nullopt, 300, scanned}).isShown());
+    EXPECT_EQ((LastScannedPill{std::nullopt, 300, scanned}).text(), QString());
+    EXPECT_EQ((LastScannedPill{std::nullopt, 300, scanned}).tooltip(), QString());
     EXPECT_TRUE(pillAt(0).isShown());
 }
 
@@ -59,6 +63,8 @@ TEST(LastScannedPill, ageTextChangesAtItsBounds)
 TEST(LastScannedPill, isStaleFromTheLifetimeOn)
 {
     EXPECT_EQ(pillAt(299.5).text(), "Cached · 4 min ago");
+    EXPECT_FALSE(pillAt(299.5).isStale());
+    EXPECT_TRUE(pillAt(300).isStale());
     EXPECT_EQ(pillAt(300).text(), "Stale · refreshing soon");
     EXPECT_EQ(pillAt(301).text(), "Stale · refreshing soon");
 }
@@ -76,4 +82,12 @@ TEST(LastScannedPill, tooltipTellsTheTimeLeft)
 TEST(LastScannedPill, tooltipOfAStaleResultPromisesTheNextView)
 {
     EXPECT_EQ(pillAt(300).tooltip(), "Cache expired — next view will re-scan automatically.");
+}
+
+TEST(LastScannedPill, countsALifetimeBeyond64BitsAsTheLongest)
+{
+    for (const double lifetime : {0x1p62, 60 * 0x1p63, HUGE_VAL})
+        EXPECT_EQ(pillAt(0, lifetime).tooltip(), "Last scanned just now. Auto-refresh in 76861433640456465 "
+                                                 "min 4 sec, or click Refresh to update now.");
+    EXPECT_TRUE(pillAt(0, std::nan("")).isStale());
 }
