@@ -2,7 +2,7 @@
 
 #include "base/Error.h"
 #include "base/Paths.h"
-#include "FifoLine.h"
+#include "support/FifoLine.h"
 #include "support/TempHome.h"
 
 #include <atomic>

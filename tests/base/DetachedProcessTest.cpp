@@ -1,6 +1,6 @@
 #include "base/ChildProcess.h"
 #include "base/Paths.h"
-#include "FifoLine.h"
+#include "support/FifoLine.h"
 #include "support/TempHome.h"
 
 #include <cstdlib>
