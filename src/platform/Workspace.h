@@ -11,11 +11,12 @@
 class Workspace
 {
 public:
-    /// What the folder panel shows. Folders only, a single one, hidden ones shown, packages as folders.
+    /// What the folder panel shows. Folders only, a single one.
     struct FolderRequest
     {
-        QString message; ///< what the folder is for
-        QString start;   ///< the folder to begin with; empty for the desktop's own choice
+        QString message;          ///< what the folder is for
+        QString start;            ///< the folder to begin with; empty for the desktop's own choice
+        bool showsHidden = false; ///< hidden folders too, and packages as the folders that they are
     };
 
     /// What the panel for saving shows.

@@ -225,6 +225,7 @@ TEST_F(DiskAnalyzerViewTest, asksForAFolderAndScansIt)
     view->changeFolder();
     EXPECT_EQ(test.workspace.folderRequest.message, QStringLiteral("Choose a folder to analyze"));
     EXPECT_EQ(test.workspace.folderRequest.start, test.home);
+    EXPECT_FALSE(test.workspace.folderRequest.showsHidden);
     EXPECT_EQ(disk.analyzerScanPath(), path("Documents"));
     EXPECT_FALSE(view->canGoBack());
     test.mainQueue.run();

@@ -1,6 +1,7 @@
 #include "duplicates/screen/DuplicateScopeView.h"
 
 #include "base/Files.h"
+#include "base/GuardedPost.h"
 #include "base/Paths.h"
 #include "common/Formatters.h"
 
@@ -129,8 +130,10 @@ void DuplicateScopeView::chooseFolder(
     const QString &message, const QString &start,
     const std::function<void(DuplicateService &service, const QString &folder)> &use)
 {
+    // Whoever looks for duplicates may look for them in hidden folders and inside packages too.
+    const Workspace::FolderRequest request{message, start, true};
     platform_.workspace.chooseFolder(
-        {message, start}, [service = QPointer(&service_), use](const std::optional<QString> &folder) {
+        request, [service = QPointer(&service_), use](const std::optional<QString> &folder) {
             if (service && folder)
                 use(*service, *folder);
         });
@@ -145,15 +148,13 @@ void DuplicateScopeView::addFolder()
 void DuplicateScopeView::dropFolders(const QList<QUrl> &urls)
 {
     // On a thread of its own: a folder of a mount that does not answer may be among them.
-    platform_.workQueue.post(WorkPriority::userInitiated,
-                             [service = QPointer(&service_), urls, &main = platform_.mainQueue] {
-                                 main.post([service, folders = foldersAmong(urls)] {
-                                     for (const QString &folder : folders) {
-                                         if (service)
-                                             service->addScanPath(folder);
-                                     }
-                                 });
-                             });
+    platform_.workQueue.post(
+        WorkPriority::userInitiated, [service = QPointer(&service_), urls, &main = platform_.mainQueue] {
+            guarded::post(main, service, [folders = foldersAmong(urls)](DuplicateService &living) {
+                for (const QString &folder : folders)
+                    living.addScanPath(folder);
+            });
+        });
 }
 
 void DuplicateScopeView::changeScanPath(int row)

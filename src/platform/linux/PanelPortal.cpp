@@ -63,6 +63,7 @@ PanelPortal::Request PanelPortal::requestFor(const Workspace::FolderRequest &req
     QVariantMap options = commonOptions(request.start);
     options.insert(QStringLiteral("directory"), true);
     options.insert(QStringLiteral("multiple"), false);
+    // The portal has no option for hidden folders: its panels show them at the user's word. Packages are folders here.
     return {QStringLiteral("OpenFile"), paths::display(request.message), options};
 }
 

@@ -154,6 +154,7 @@ TEST_F(DuplicateScopeViewTest, asksForAFolderToScan)
     view->addFolder();
     EXPECT_EQ(test.workspace.folderRequest.message, u"Select a directory to scan for duplicates"_s);
     EXPECT_EQ(test.workspace.folderRequest.start, QString());
+    EXPECT_TRUE(test.workspace.folderRequest.showsHidden);
     EXPECT_EQ(folderTexts(), u"~ /chosen"_s);
     view->addFolder();
     EXPECT_EQ(folderTexts(), u"~ /chosen"_s); // once
@@ -165,6 +166,7 @@ TEST_F(DuplicateScopeViewTest, asksForAFolderToExclude)
     view->addExclusion();
     EXPECT_EQ(test.workspace.folderRequest.message, u"Select a directory to exclude from scanning"_s);
     EXPECT_EQ(test.workspace.folderRequest.start, QString());
+    EXPECT_TRUE(test.workspace.folderRequest.showsHidden);
     EXPECT_EQ(ruleTexts(), builtInRules + u" ~/Private"_s);
 }
 
@@ -176,6 +178,7 @@ TEST_F(DuplicateScopeViewTest, asksForAnotherFolderInThePlaceOfOne)
     view->changeScanPath(1);
     EXPECT_EQ(test.workspace.folderRequest.message, u"Choose a different folder to scan"_s);
     EXPECT_EQ(test.workspace.folderRequest.start, u"/a"_s);
+    EXPECT_TRUE(test.workspace.folderRequest.showsHidden);
     EXPECT_EQ(folderTexts(), u"~ /chosen /b"_s);
     view->changeScanPath(1); // the same once more
     EXPECT_EQ(folderTexts(), u"~ /chosen /b"_s);

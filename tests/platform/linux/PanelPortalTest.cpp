@@ -106,13 +106,14 @@ TEST_F(FolderPanel, followsAPortalThatNamesItsRequestItself)
 TEST_F(FolderPanel, showsTheFallbackPanelWithoutAPortal)
 {
     PanelAnswer answer;
-    workspace().chooseFolder({u"Choose"_s, u"/start"_s}, answer.taker());
+    workspace().chooseFolder({u"Choose"_s, u"/start"_s, true}, answer.taker());
     EXPECT_EQ(answer.count, 0);
     ASSERT_TRUE(answer.waitFor());
     EXPECT_EQ(answer.path, u"/from the fallback"_s);
     ASSERT_EQ(panelRequests_.size(), 1U);
     EXPECT_EQ(panelRequests_[0].message, u"Choose"_s);
     EXPECT_EQ(panelRequests_[0].start, u"/start"_s);
+    EXPECT_TRUE(panelRequests_[0].showsHidden);
 }
 
 TEST_F(FolderPanel, showsTheFallbackPanelWithoutABus)
