@@ -79,7 +79,7 @@ HistoryService &Composition::history()
 MainContentView::Screen Composition::upcoming(SidebarItem item)
 {
     return {QStringLiteral("shell/UpcomingScreen.qml"),
-            [item] { return std::make_unique<UpcomingView>(item); },
+            [item] { return std::make_shared<UpcomingView>(item); },
             {}};
 }
 
@@ -92,13 +92,13 @@ MainContentView::Screens Composition::screens()
     }
     screens[SidebarItem::diskAnalyzer] = {
         QStringLiteral("disk/DiskAnalyzerScreen.qml"),
-        [this] { return std::make_unique<DiskAnalyzerView>(platform_, disk(), fileSystem(), access()); },
+        [this] { return std::make_shared<DiskAnalyzerView>(platform_, disk(), fileSystem(), access()); },
         {QStringLiteral("⌘R")},
     };
     screens[SidebarItem::duplicates] = {
         QStringLiteral("duplicates/screen/DuplicateFinderScreen.qml"),
         [this] {
-            return std::make_unique<DuplicateFinderView>(platform_, duplicates(), fileSystem(), access());
+            return std::make_shared<DuplicateFinderView>(platform_, duplicates(), fileSystem(), access());
         },
         {},
     };

@@ -5,8 +5,24 @@
 #include <utility>
 
 namespace {
+
 const QString searchKey = QStringLiteral("⌘K");
-}
+
+/// Keeps the model of a screen that was left until its QML, which goes in a later turn of the loop, looks at it no more.
+class LeftModel final : public QObject
+{
+public:
+    explicit LeftModel(std::shared_ptr<QObject> model)
+        : model_(std::move(model))
+    {
+        deleteLater();
+    }
+
+private:
+    const std::shared_ptr<QObject> model_;
+};
+
+} // namespace
 
 MainContentView::MainContentView(const Platform &platform, ContentView &content, Screens screens)
     : platform_(platform)
@@ -56,8 +72,9 @@ void MainContentView::openSearch()
 
 void MainContentView::showSelected()
 {
-    std::unique_ptr<QObject> old = std::exchange(screen_, selected().make());
+    std::shared_ptr<QObject> old = std::exchange(screen_, selected().make());
     emit screenChanged();
-    // The old screen's QML goes in a later turn of the loop and still looks at its model until then.
-    old.release()->deleteLater();
+    // After the signal: what goes later goes in the order of the requests, and the QML is the first to go. A command of
+    // the old model that is still under way keeps the model even longer.
+    new LeftModel(std::move(old));
 }

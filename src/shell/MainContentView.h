@@ -25,8 +25,9 @@ public:
     /// How a screen comes into being.
     struct Screen
     {
-        QString source;                                 ///< its QML file, relative to the look's folder
-        std::function<std::unique_ptr<QObject>()> make; ///< its model
+        QString source; ///< its QML file, relative to the look's folder
+        std::function<std::shared_ptr<QObject>()>
+            make;         ///< its model, which a command under way may keep alive
         QStringList keys; ///< the key equivalents that are its own while it is on view
     };
     using Screens = std::map<SidebarItem, Screen>;
@@ -57,5 +58,5 @@ private:
     const Platform &platform_;
     ContentView &content_;
     const Screens screens_;
-    std::unique_ptr<QObject> screen_;
+    std::shared_ptr<QObject> screen_;
 };

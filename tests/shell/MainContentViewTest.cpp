@@ -1,11 +1,14 @@
 #include "shell/MainContentView.h"
 
+#include "base/GuardedPost.h"
 #include "support/TestPlatform.h"
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QEventLoop>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -18,7 +21,7 @@ MainContentView::Screens namedScreens()
     for (const SidebarSection section : sidebar::sections) {
         for (const SidebarItem item : sidebar::items(section)) {
             const auto make = [item] {
-                auto model = std::make_unique<QObject>();
+                auto model = std::make_shared<QObject>();
                 model->setObjectName(sidebar::key(item));
                 return model;
             };
@@ -29,6 +32,11 @@ MainContentView::Screens namedScreens()
     screens[SidebarItem::diskAnalyzer].keys = {QStringLiteral("⌘R")};
     return screens;
 }
+
+/// A model with a command that lets the main loop turn while it waits.
+class WaitingModel final : public QObject, public std::enable_shared_from_this<WaitingModel>
+{
+};
 
 void turnTheLoop()
 {
@@ -99,6 +107,28 @@ TEST_F(MainContentViewTest, destroysTheOldModelInALaterTurnOfTheLoop)
     EXPECT_FALSE(old.isNull());
     turnTheLoop();
     EXPECT_TRUE(old.isNull());
+}
+
+TEST_F(MainContentViewTest, keepsTheModelOfACommandThatIsUnderWayUntilItEnds)
+{
+    MainContentView::Screens screens = namedScreens();
+    screens[SidebarItem::duplicates].make = [] { return std::make_shared<WaitingModel>(); };
+    MainContentView other(test.platform, content, screens);
+    content.setSelectedItem(SidebarItem::duplicates);
+    const QPointer<QObject> model = other.screen();
+    bool wasAliveAtTheEnd = false;
+    guarded::runLater(test.mainQueue, static_cast<WaitingModel &>(*model), [&](WaitingModel &) {
+        QEventLoop wait;
+        // Each in a turn of its own, so that what is to be deleted later has its turn inside of the wait.
+        QTimer::singleShot(0, &wait, [this] { content.setSelectedItem(SidebarItem::cleanup); });
+        QTimer::singleShot(1, &wait, [&wait] { QTimer::singleShot(1, &wait, &QEventLoop::quit); });
+        wait.exec();
+        wasAliveAtTheEnd = !model.isNull();
+    });
+    test.mainQueue.run();
+    EXPECT_TRUE(wasAliveAtTheEnd);
+    turnTheLoop();
+    EXPECT_TRUE(model.isNull());
 }
 
 TEST_F(MainContentViewTest, tellsSearchPillTextsInTheSystemsWords)
