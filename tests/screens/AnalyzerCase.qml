@@ -6,11 +6,11 @@ import Quillmere.Screens
 ScreenCase {
     id: base
 
-    readonly property string home: Program.at("home")
+    readonly property string home: Surroundings.at("home")
 
     function init() {
         clearAway();
-        Program.userWillCancel();
+        Surroundings.userWillCancel();
         open("Dashboard");
         open("Disk Analyzer");
         waitForScan();
@@ -26,25 +26,25 @@ ScreenCase {
     }
 
     function waitForScan() {
-        tryVerify(() => !Program.isScanning() && location() !== "", patience, "the scan has ended");
+        tryVerify(() => !Disk.isScanning() && location() !== "", patience, "the scan has ended");
         Program.settle();
     }
 
     // Changes to another folder, by the button and the panel.
     function analyze(folder) {
         verify(location() !== folder);
-        Program.userWillChoose(folder);
+        Surroundings.userWillChoose(folder);
         click("Change Folder");
-        Program.userWillCancel();
-        tryVerify(() => !Program.isScanning() && location() === folder, patience, `${folder} is on view`);
+        Surroundings.userWillCancel();
+        tryVerify(() => !Disk.isScanning() && location() === folder, patience, `${folder} is on view`);
         Program.settle();
     }
 
     // Starts a scan of the home folder whose first probe waits until `releaseProbes`.
     function holdScan() {
-        Program.holdProbes();
+        Surroundings.holdProbes();
         click("Rescan");
-        tryVerify(() => Program.probeCount() === 1, patience, "a probe is at work");
+        tryVerify(() => Disk.probeCount() === 1, patience, "a probe is at work");
     }
 
     function table() {

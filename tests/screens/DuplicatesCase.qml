@@ -21,9 +21,9 @@ ScreenCase {
     function init() {
         clearAway();
         Program.window.height = ampleHeight;
-        Program.userWillCancel();
-        twins = Program.makeTwins();
-        Program.scanOnly(["a", "b", "c"].map(folder => `${twins}/${folder}`), usualMinSize);
+        Surroundings.userWillCancel();
+        twins = Duplicates.makeTwins();
+        Duplicates.scanOnly(["a", "b", "c"].map(folder => `${twins}/${folder}`), usualMinSize);
         open("Dashboard");
         open("Duplicates");
         scan();
@@ -33,7 +33,7 @@ ScreenCase {
     }
 
     function cleanup() {
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         Program.window.width = usualWidth;
         Program.window.height = usualHeight;
         compare(Program.takeWarnings(), "");
@@ -59,9 +59,9 @@ ScreenCase {
 
     // Starts a scan that waits at the folder or file of that name until `releaseDisk`.
     function holdScan(name) {
-        Program.holdDisk(`${twins}/${name}`);
+        Surroundings.holdDisk(`${twins}/${name}`);
         clickOn(scanButton());
-        tryVerify(() => Program.isDiskHeld(), patience, `the scan waits at ${name}`);
+        tryVerify(() => Surroundings.isDiskHeld(), patience, `the scan waits at ${name}`);
         Program.settle();
     }
 

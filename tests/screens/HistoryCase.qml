@@ -6,7 +6,7 @@ import Quillmere.Screens
 ScreenCase {
     function init() {
         clearAway();
-        Program.emptyHistory();
+        Activity.emptyHistory();
         Program.forget();
     }
 
@@ -18,10 +18,10 @@ ScreenCase {
     }
 
     function fill() {
-        Program.record({ kind: "organize", title: "Moved 2 files", bytes: 4096,
+        Activity.record({ kind: "organize", title: "Moved 2 files", bytes: 4096,
                          paths: ["/home/some/a.txt", "/home/some/b.txt"] });
-        Program.record({ kind: "cleanup", title: "Cleaned nothing" });
-        Program.record({ kind: "cleanup", title: "Cleaned some", bytes: 2048, paths: ["/home/some/cache"], isFailed: true,
+        Activity.record({ kind: "cleanup", title: "Cleaned nothing" });
+        Activity.record({ kind: "cleanup", title: "Cleaned some", bytes: 2048, paths: ["/home/some/cache"], isFailed: true,
                          detail: "/home/some/locked: It is locked." });
     }
 

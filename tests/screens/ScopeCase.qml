@@ -4,14 +4,14 @@ import Quillmere.Screens
 
 // What the tests of the Duplicate Finder's scope share. Each begins with the default scope and a fresh folder of equal files.
 DuplicatesCase {
-    readonly property string home: Program.at("home")
+    readonly property string home: Surroundings.at("home")
 
     function init() {
         clearAway();
         Program.window.height = ampleHeight;
-        Program.userWillCancel();
-        twins = Program.makeTwins();
-        Program.scanOnly([], usualMinSize);
+        Surroundings.userWillCancel();
+        twins = Duplicates.makeTwins();
+        Duplicates.scanOnly([], usualMinSize);
         open("Dashboard");
         open("Duplicates");
         clickOn(Program.named("resetScope"));
@@ -51,14 +51,14 @@ DuplicatesCase {
     }
 
     function add(folder) {
-        Program.userWillChoose(folder);
+        Surroundings.userWillChoose(folder);
         click("Add Folder", screen());
-        Program.userWillCancel();
+        Surroundings.userWillCancel();
     }
 
     function exclude(folder) {
-        Program.userWillChoose(folder);
+        Surroundings.userWillChoose(folder);
         click("Add Exclusion", screen());
-        Program.userWillCancel();
+        Surroundings.userWillCancel();
     }
 }

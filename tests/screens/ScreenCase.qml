@@ -33,11 +33,11 @@ TestCase {
 
     // What a test that has failed may have left.
     function clearAway() {
-        Program.releaseProbes();
-        Program.releaseDisk();
-        Program.recycleAsEver();
+        Surroundings.releaseProbes();
+        Surroundings.releaseDisk();
+        Surroundings.recycleAsEver();
         Program.removeTextField();
-        Program.setDark(true);
+        Surroundings.setDark(true);
         for (let i = 0; i < 3 && Program.menuLines() !== ""; ++i)
             press(Qt.Key_Escape);
         restPointer();
@@ -154,7 +154,7 @@ TestCase {
     // that all of it happens inside of the call of `begin`.
     function whileRecycling(begin, doing) {
         let isDone = false;
-        Program.duringNextRecycle(() => {
+        Surroundings.duringNextRecycle(() => {
             doing();
             isDone = true;
         });

@@ -1,14 +1,17 @@
 #pragma once
 
 #include "screens/ProgramUnderTest.h"
+#include "screens/Surroundings.h"
 
 #include <QObject>
 
+#include <map>
 #include <memory>
 
 class QQmlEngine;
 
-/// What the test runner calls: composes the program once and hands it to the tests' QML as the singleton `Program`.
+/// What the test runner calls: composes the program once and hands it to the tests' QML as the singleton `Program`, beside
+/// its `Surroundings` and the helper of each tool.
 class ScreenSetup final : public QObject
 {
     Q_OBJECT
@@ -19,5 +22,7 @@ public slots:
     void cleanupTestCase();
 
 private:
+    std::unique_ptr<Surroundings> surroundings_;
     std::unique_ptr<ProgramUnderTest> program_;
+    std::map<QString, std::unique_ptr<QObject>> tools_; // by their names in QML
 };

@@ -8,8 +8,8 @@ ScreenCase {
 
     function init() {
         clearAway();
-        Program.setFullAccess(false);
-        Program.scanOnly([Program.at("hollow")], 1024);
+        Activity.setFullAccess(false);
+        Duplicates.scanOnly([Surroundings.at("hollow")], 1024);
         open("Dashboard");
         Program.forget();
     }
@@ -20,7 +20,7 @@ ScreenCase {
 
     function openAnalyzer() {
         open("Disk Analyzer");
-        tryVerify(() => !Program.isScanning() && banner(), patience, "the banner shows");
+        tryVerify(() => !Disk.isScanning() && banner(), patience, "the banner shows");
         Program.settle();
     }
 
@@ -51,7 +51,7 @@ ScreenCase {
     function test_buttonOpensTheSettings(data) {
         openAnalyzer();
         data.how();
-        compare(Program.settingsPage(), "x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles");
+        compare(Surroundings.settingsPage(), "x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles");
         verify(banner());
     }
 

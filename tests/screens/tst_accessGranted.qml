@@ -19,11 +19,11 @@ ScreenCase {
         open("Dashboard");
         if (!isGranted) {
             isGranted = true;
-            Program.setFullAccess(false);
+            Activity.setFullAccess(false);
             open("Disk Analyzer");
             find("Some folders couldn't be scanned", screen());
             clickOn(Program.named("bannerButton"));
-            Program.setFullAccess(true);
+            Activity.setFullAccess(true);
             find(title, screen());
         }
         Program.forget();
@@ -46,7 +46,7 @@ ScreenCase {
         mouseMove(Program.named("bannerButton"));
         find("Quit and reopen Quillmere so the new permission takes effect");
         clickOn(Program.named("bannerButton"));
-        tryVerify(() => Program.exists(Program.at("relaunched")), patience, "the shell is asked for the start");
+        tryVerify(() => Surroundings.exists(Surroundings.at("relaunched")), patience, "the shell is asked for the start");
         tryVerify(() => Program.exits() > 0, patience, "the program ends");
     }
 }

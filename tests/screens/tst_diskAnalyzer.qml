@@ -17,25 +17,25 @@ AnalyzerCase {
     }
 
     function test_keepsFreshTreeWhenScreenComesBack() {
-        Program.pass(120);
+        Surroundings.pass(120);
         open("Cleanup");
-        Program.holdProbes();
+        Surroundings.holdProbes();
         open("Disk Analyzer");
         find("Cached · 2 min ago");
         find("CONTENTS (6 items)");
-        compare(Program.probeCount(), 0);
-        Program.releaseProbes();
+        compare(Disk.probeCount(), 0);
+        Surroundings.releaseProbes();
         click("Rescan");
         find("Cached · just now");
     }
 
     function test_scansAgainWhenTreeIsStale() {
-        Program.pass(301);
+        Surroundings.pass(301);
         open("Cleanup");
-        Program.holdProbes();
+        Surroundings.holdProbes();
         open("Disk Analyzer");
-        tryVerify(() => Program.probeCount() === 1, patience, "a scan has begun");
-        Program.releaseProbes();
+        tryVerify(() => Disk.probeCount() === 1, patience, "a scan has begun");
+        Surroundings.releaseProbes();
         find("Cached · just now");
     }
 
@@ -57,7 +57,7 @@ AnalyzerCase {
         verify(!Program.textItem("Cached · just now"));
         verify(!Program.named("homeButton").enabled);
         Program.picture("analyzer-scanning");
-        Program.releaseProbes();
+        Surroundings.releaseProbes();
         find("CONTENTS (6 items)");
         tryGone("Scanning...");
         tryGone("Analyzing disk usage...");
@@ -67,10 +67,10 @@ AnalyzerCase {
         holdScan();
         click("Rescan");
         press(Qt.Key_R, Qt.ControlModifier);
-        compare(Program.probeCount(), 1);
-        Program.releaseProbes();
+        compare(Disk.probeCount(), 1);
+        Surroundings.releaseProbes();
         find("CONTENTS (6 items)");
-        verify(!Program.isScanning());
+        verify(!Disk.isScanning());
     }
 
     function test_cancelShowsWhatWasMeasured() {
@@ -81,12 +81,12 @@ AnalyzerCase {
         tryGone("Scanning...");
         find("CONTENTS (6 items)");
         find("Cached · just now");
-        compare(Program.probeCount(), 0);
+        compare(Disk.probeCount(), 0);
         verify(row("notes.txt"));
         drill("Documents", 2);
         compare(row("Invoices").sizeText, "0 B");
         compare(row("thesis.pdf").sizeText, "3.0 MB");
-        Program.releaseProbes();
+        Surroundings.releaseProbes();
         // What is there counts as the result until somebody asks for another.
         open("Cleanup");
         open("Disk Analyzer");
@@ -102,25 +102,25 @@ AnalyzerCase {
         tabTo("the Cancel button", item => item === Program.named("cancelButton"));
         press(Qt.Key_Return);
         find("CONTENTS (6 items)");
-        compare(Program.probeCount(), 0);
+        compare(Disk.probeCount(), 0);
         tabTo("the Rescan button", item => item === Program.named("rescanButton"));
     }
 
     function test_refreshKeyIsTheScreensOwn() {
         drill("Movies", 2);
-        Program.holdProbes();
+        Surroundings.holdProbes();
         press(Qt.Key_R, Qt.ControlModifier);
-        tryVerify(() => Program.probeCount() === 1, patience, "a scan has begun");
-        compare(Program.posted(), "");
-        Program.releaseProbes();
+        tryVerify(() => Disk.probeCount() === 1, patience, "a scan has begun");
+        compare(Surroundings.posted(), "");
+        Surroundings.releaseProbes();
         find("CONTENTS (6 items)");
         compare(breadcrumbs(), []);
     }
 
     function test_refreshLineOfTheMenuRefreshesTheWidgetOnly() {
         choose("Tools", "Refresh Current View");
-        compare(Program.posted(), "Quillmere.rescan");
-        verify(!Program.isScanning());
+        compare(Surroundings.posted(), "Quillmere.rescan");
+        verify(!Disk.isScanning());
     }
 
     function test_rescanGoesBackToTheTop() {
@@ -132,31 +132,31 @@ AnalyzerCase {
 
     function test_changesToChosenFolder() {
         drill("Movies", 2);
-        Program.userWillChoose(Program.at("home/Documents"));
+        Surroundings.userWillChoose(Surroundings.at("home/Documents"));
         click("Change Folder");
-        compare(Program.folderMessage(), "Choose a folder to analyze");
-        compare(Program.folderStart(), home);
-        tryVerify(() => location() === Program.at("home/Documents"), patience, "the folder is on view");
+        compare(Surroundings.folderMessage(), "Choose a folder to analyze");
+        compare(Surroundings.folderStart(), home);
+        tryVerify(() => location() === Surroundings.at("home/Documents"), patience, "the folder is on view");
         find("CONTENTS (2 items)");
         compare(breadcrumbs(), []);
         // The choice outlives the screen.
         open("Cleanup");
         open("Disk Analyzer");
-        compare(location(), Program.at("home/Documents"));
+        compare(location(), Surroundings.at("home/Documents"));
     }
 
     function test_staysWherePanelIsCancelled() {
         drill("Movies", 2);
-        Program.userWillCancel();
+        Surroundings.userWillCancel();
         click("Change Folder");
-        compare(Program.folderMessage(), "Choose a folder to analyze");
-        compare(location(), Program.at("home/Movies"));
+        compare(Surroundings.folderMessage(), "Choose a folder to analyze");
+        compare(location(), Surroundings.at("home/Movies"));
         compare(breadcrumbs(), ["Movies"]);
-        verify(!Program.isScanning());
+        verify(!Disk.isScanning());
     }
 
     function test_showsEmptyFolder() {
-        analyze(Program.at("hollow"));
+        analyze(Surroundings.at("hollow"));
         find("CONTENTS (0 items)");
         find("0 items · 0 B");
         compare(Program.texts(screen()).split("\n").filter(text => text === "Empty directory").length, 2);
@@ -164,7 +164,7 @@ AnalyzerCase {
     }
 
     function test_lightDesktopReachesTheScreen() {
-        Program.setDark(false);
+        Surroundings.setDark(false);
         compare(String(find("VISUAL MAP").color), "#59636e");
         Program.picture("analyzer-light");
     }

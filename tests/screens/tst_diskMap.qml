@@ -57,14 +57,14 @@ AnalyzerCase {
         clickOn(tile("Documents"));
         find("CONTENTS (2 items)");
         compare(breadcrumbs(), ["Documents"]);
-        compare(location(), Program.at("home/Documents"));
+        compare(location(), Surroundings.at("home/Documents"));
         verify(tile("thesis.pdf"));
     }
 
     function test_clickOnFileTileDoesNothing() {
         clickOn(tile("notes.txt"));
         compare(breadcrumbs(), []);
-        compare(Program.calls(), "");
+        compare(Surroundings.calls(), "");
     }
 
     function test_clickOnOthersDoesNothing() {
@@ -74,7 +74,7 @@ AnalyzerCase {
         compare(Program.texts(tile("8 others")).split("\n")[0], "8 others");
         clickOn(tile("8 others"));
         compare(breadcrumbs(), ["Equal"]);
-        compare(Program.calls(), "");
+        compare(Surroundings.calls(), "");
     }
 
     function test_twelveOfTwentyEqualChildrenAreShown() {
@@ -125,7 +125,7 @@ AnalyzerCase {
         Program.picture("analyzer-deep");
         click("Documents", Program.named("breadcrumbList"));
         compare(breadcrumbs(), ["Documents"]);
-        compare(location(), Program.at("home/Documents"));
+        compare(location(), Surroundings.at("home/Documents"));
     }
 
     function test_wayInWorksByKeyboard() {
@@ -142,10 +142,10 @@ AnalyzerCase {
 
     function test_openInFinderShowsTheEntryOnView() {
         click("Open in Finder");
-        compare(Program.calls(), `show ${home}`);
+        compare(Surroundings.calls(), `show ${home}`);
         Program.forget();
         drill("Movies", 2);
         click("Open in Finder");
-        compare(Program.calls(), `show ${home}/Movies`);
+        compare(Surroundings.calls(), `show ${home}/Movies`);
     }
 }

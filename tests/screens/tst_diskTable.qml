@@ -23,7 +23,7 @@ AnalyzerCase {
     function test_fileRowDoesNotOpenByClick() {
         click("notes.txt", table());
         compare(breadcrumbs(), []);
-        compare(Program.calls(), "");
+        compare(Surroundings.calls(), "");
     }
 
     function test_parentRowGoesBack() {
@@ -54,7 +54,7 @@ AnalyzerCase {
         mouseMove(button());
         find("Reveal in Finder");
         clickOn(button());
-        compare(Program.calls(), `reveal ${home}/notes.txt`);
+        compare(Surroundings.calls(), `reveal ${home}/notes.txt`);
     }
 
     function test_rowMenuHasItsLines_data() {
@@ -86,8 +86,8 @@ AnalyzerCase {
     function test_rowMenuDoesItsThing(data) {
         openRowMenu(data.row);
         chooseInContext(data.line);
-        compare(Program.calls(), (data.call ?? "").replace("HOME", home));
-        compare(Program.clipboard(), (data.clipboard ?? "").replace("HOME", home));
+        compare(Surroundings.calls(), (data.call ?? "").replace("HOME", home));
+        compare(Surroundings.clipboard(), (data.clipboard ?? "").replace("HOME", home));
         compare(breadcrumbs(), data.breadcrumbs ?? []);
     }
 
@@ -110,7 +110,7 @@ AnalyzerCase {
         press(Qt.Key_Down);
         press(Qt.Key_Return);
         tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
-        compare(Program.calls(), `reveal ${home}/Movies`);
+        compare(Surroundings.calls(), `reveal ${home}/Movies`);
         tryCompare(table(), "activeFocus", true, patience);
     }
 
@@ -128,7 +128,7 @@ AnalyzerCase {
         // The level had to be fetched; the keyboard is still the table's.
         walkTo("summary.txt");
         press(Qt.Key_Return);
-        compare(Program.calls(), `open ${home}/Documents/Invoices/summary.txt`);
+        compare(Surroundings.calls(), `open ${home}/Documents/Invoices/summary.txt`);
         press(Qt.Key_Left);
         compare(breadcrumbs(), ["Documents"]);
         press(Qt.Key_Left);
@@ -162,13 +162,13 @@ AnalyzerCase {
 
     function test_deeperLevelLoads() {
         drill("Documents", 2);
-        Program.holdProbes();
+        Surroundings.holdProbes();
         click("Invoices", table());
         find("Loading contents...");
         verify(!table());
         compare(breadcrumbs(), ["Documents"]);
         Program.picture("analyzer-loading");
-        Program.releaseProbes();
+        Surroundings.releaseProbes();
         tryGone("Loading contents...");
         compare(breadcrumbs(), ["Documents", "Invoices"]);
         verify(row("2026"));
@@ -186,12 +186,12 @@ AnalyzerCase {
 
     function test_screenMayGoWhileLevelLoads() {
         drill("Documents", 2);
-        Program.holdProbes();
+        Surroundings.holdProbes();
         click("Invoices", table());
         find("Loading contents...");
         open("Cleanup");
-        Program.releaseProbes();
-        tryVerify(() => Program.probeCount() === 0, patience, "the probe ends");
+        Surroundings.releaseProbes();
+        tryVerify(() => Disk.probeCount() === 0, patience, "the probe ends");
         open("Disk Analyzer");
         find("CONTENTS (6 items)");
         compare(breadcrumbs(), []);
@@ -200,8 +200,8 @@ AnalyzerCase {
     function test_screenMayGoWhileScanRuns() {
         holdScan();
         open("Cleanup");
-        Program.releaseProbes();
-        tryVerify(() => !Program.isScanning(), patience, "the scan ends");
+        Surroundings.releaseProbes();
+        tryVerify(() => !Disk.isScanning(), patience, "the scan ends");
         open("Disk Analyzer");
         find("CONTENTS (6 items)");
     }

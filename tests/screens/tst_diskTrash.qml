@@ -8,11 +8,11 @@ AnalyzerCase {
 
     function init() {
         clearAway();
-        Program.userWillCancel();
+        Surroundings.userWillCancel();
         open("Dashboard");
         open("Disk Analyzer");
         waitForScan();
-        const twins = Program.makeTwins();
+        const twins = Duplicates.makeTwins();
         analyze(twins + "/a");
         find("CONTENTS (6 items)");
         Program.forget();
@@ -26,8 +26,8 @@ AnalyzerCase {
     function test_movesTheEntry() {
         const path = location() + "/report.pdf";
         chooseTrash("report.pdf");
-        tryVerify(() => !Program.exists(path), patience, "the file is gone");
-        compare(Program.recycled(), path);
+        tryVerify(() => !Surroundings.exists(path), patience, "the file is gone");
+        compare(Surroundings.recycled(), path);
         click("Rescan");
         find("CONTENTS (5 items)");
         verify(!row("report.pdf"));
@@ -39,7 +39,7 @@ AnalyzerCase {
             open("Cleanup");
             open("Dashboard");
         });
-        tryVerify(() => !Program.exists(path), patience, "the file is gone");
+        tryVerify(() => !Surroundings.exists(path), patience, "the file is gone");
         compare(Program.selectedScreen(), "Dashboard");
         open("Disk Analyzer");
         waitForScan();
@@ -54,8 +54,8 @@ AnalyzerCase {
             verify(Program.menuLines().endsWith("Move to Trash off"));
             closeMenu();
         });
-        compare(Program.recycled(), folder + "/report.pdf");
-        verify(Program.exists(folder + "/plain"));
+        compare(Surroundings.recycled(), folder + "/report.pdf");
+        verify(Surroundings.exists(folder + "/plain"));
     }
 
     function test_anotherFolderMayBeAnalyzedMeanwhile() {
@@ -64,7 +64,7 @@ AnalyzerCase {
             analyze(home);
             find("CONTENTS (6 items)");
         });
-        tryVerify(() => !Program.exists(folder + "/report.pdf"), patience, "the file is gone");
+        tryVerify(() => !Surroundings.exists(folder + "/report.pdf"), patience, "the file is gone");
         verify(row("notes.txt"));
     }
 }

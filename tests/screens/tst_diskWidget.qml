@@ -26,7 +26,7 @@ ScreenCase {
     }
 
     function cleanup() {
-        Program.setVolume(500 * gigabyte, 200 * gigabyte, "Disk");
+        Surroundings.setVolume(500 * gigabyte, 200 * gigabyte, "Disk");
         clickOn(refreshButton());
         find("300 GB used", widget());
         compare(Program.takeWarnings(), "");
@@ -39,7 +39,7 @@ ScreenCase {
     }
 
     function test_clickRefreshes() {
-        Program.setVolume(500 * gigabyte, 25 * gigabyte, "Fuller");
+        Surroundings.setVolume(500 * gigabyte, 25 * gigabyte, "Fuller");
         clickOn(refreshButton());
         verify(Program.named("refreshDiskSpinner").isRunning);
         find("475 GB used", widget());
@@ -49,25 +49,25 @@ ScreenCase {
     }
 
     function test_keyboardRefreshes() {
-        Program.setVolume(500 * gigabyte, 100 * gigabyte, "Disk");
+        Surroundings.setVolume(500 * gigabyte, 100 * gigabyte, "Disk");
         tabTo("the refresh button", item => item === refreshButton());
         press(Qt.Key_Return);
         find("400 GB used", widget());
     }
 
     function test_barTurnsRedOnlyAbove85Percent() {
-        Program.setVolume(1000, 150, "Disk");
+        Surroundings.setVolume(1000, 150, "Disk");
         clickOn(refreshButton());
         find("850 B used", widget());
         compare(String(bar().fill), "#58a6ff");
-        Program.setVolume(1000, 149, "Disk");
+        Surroundings.setVolume(1000, 149, "Disk");
         clickOn(refreshButton());
         find("851 B used", widget());
         compare(String(bar().fill), "#f85149");
     }
 
     function test_volumeThatCannotBeAskedIsUnknown() {
-        Program.loseVolume();
+        Surroundings.loseVolume();
         clickOn(refreshButton());
         find("Unknown", widget());
         compare(Program.texts(widget()), "Unknown\n0 B used\n0 B free");
@@ -106,11 +106,11 @@ ScreenCase {
     function test_refreshCommandRefreshes() {
         open("Cleanup");
         Program.forget();
-        Program.setVolume(500 * gigabyte, 300 * gigabyte, "Disk");
+        Surroundings.setVolume(500 * gigabyte, 300 * gigabyte, "Disk");
         press(Qt.Key_R, Qt.ControlModifier);
-        compare(Program.posted(), "Quillmere.rescan");
+        compare(Surroundings.posted(), "Quillmere.rescan");
         find("200 GB used", widget());
-        Program.setVolume(500 * gigabyte, 400 * gigabyte, "Disk");
+        Surroundings.setVolume(500 * gigabyte, 400 * gigabyte, "Disk");
         choose("Tools", "Refresh Current View");
         find("100 GB used", widget());
     }

@@ -44,7 +44,7 @@ ScopeCase {
     }
 
     function test_folderMayBeDroppedWhileNothingElseIsThere() {
-        Program.scanOnly([], usualMinSize);
+        Duplicates.scanOnly([], usualMinSize);
         Program.drag("enter", [`file://${twins}/c`], panel());
         Program.drag("drop", [`file://${twins}/c`], panel());
         tryVerify(() => scanPaths().length === 1, patience, "the folder is added");

@@ -11,7 +11,7 @@ ScopeCase {
     }
 
     function test_minSizeIsPickedByMouse() {
-        Program.scanOnly([twins + "/a", twins + "/b", twins + "/c"], usualMinSize);
+        Duplicates.scanOnly([twins + "/a", twins + "/b", twins + "/c"], usualMinSize);
         clickOn(picker());
         find("10 MB", picker().popup.contentItem);
         compare(Program.texts(picker().popup.contentItem), "1 KB\n10 KB\n100 KB\n1 MB\n10 MB");
@@ -56,8 +56,8 @@ ScopeCase {
         open("Cleanup");
         open("Duplicates");
         compare(picker().displayText, "10 MB");
-        Program.scanOnly([], 3000); // as a setting made elsewhere may be
+        Duplicates.scanOnly([], 3000); // as a setting made elsewhere may be
         compare(picker().displayText, "2.9 KB");
-        Program.scanOnly([], usualMinSize);
+        Duplicates.scanOnly([], usualMinSize);
     }
 }

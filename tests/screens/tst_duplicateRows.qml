@@ -74,7 +74,7 @@ DuplicatesCase {
         mouseMove(button);
         find("Reveal in Finder");
         clickOn(button);
-        compare(Program.calls(), `reveal ${path("b/film.mov")}`);
+        compare(Surroundings.calls(), `reveal ${path("b/film.mov")}`);
         compare(going(), before);
     }
 
@@ -112,8 +112,8 @@ DuplicatesCase {
     function test_menuDoesItsThing(data) {
         const before = going();
         chooseForFile("b/report.pdf", data.tag);
-        compare(Program.calls(), (data.calls ?? "").replace(/FILE/g, path("b/report.pdf")));
-        compare(Program.clipboard(), (data.clipboard ?? "").replace("FILE", path("b/report.pdf")));
+        compare(Surroundings.calls(), (data.calls ?? "").replace(/FILE/g, path("b/report.pdf")));
+        compare(Surroundings.clipboard(), (data.clipboard ?? "").replace("FILE", path("b/report.pdf")));
         compare(going(), before);
     }
 
@@ -142,7 +142,7 @@ DuplicatesCase {
         chooseForFile("b/report.pdf", "Keep This One");
         compare(going(), ["a/report.pdf"]);
         chooseForFile("b/report.pdf", "Copy Path");
-        compare(Program.clipboard(), path("b/report.pdf"));
+        compare(Surroundings.clipboard(), path("b/report.pdf"));
         clickOn(chip("all"));
         compare(going(), ["b/photo.jpg", "c/photo.png", "b/film.mov", "c/film.mov", "a/report.pdf", "b/plain.zip"]);
     }
@@ -212,7 +212,7 @@ DuplicatesCase {
         press(Qt.Key_Down);
         press(Qt.Key_Return);
         tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
-        compare(Program.calls(), `open ${path("b/photo.jpg")}`);
+        compare(Surroundings.calls(), `open ${path("b/photo.jpg")}`);
         tryCompare(list(), "activeFocus", true, patience);
     }
 

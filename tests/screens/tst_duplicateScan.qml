@@ -25,7 +25,7 @@ DuplicatesCase {
         compare(scanButton().text, "Start Scan");
         verify(!scanButton().enabled);
         Program.picture("duplicates-scanning");
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
         compare(groups().length, 4);
         compare(scanButton().text, "Rescan");
@@ -36,7 +36,7 @@ DuplicatesCase {
         holdScan("a/photo.JPG");
         tryVerify(() => texts().includes("Comparing file hashes..."), patience, "the second stage is told");
         compare(texts(), ["40%", "Comparing file hashes..."]);
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
     }
 
@@ -44,7 +44,7 @@ DuplicatesCase {
         // The sizes with two files or more, from the largest on: photo, report, plain, film.
         holdScan("a/plain");
         tryVerify(() => texts().includes("70%"), patience, "half of the second stage is done");
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
     }
 
@@ -54,7 +54,7 @@ DuplicatesCase {
             verify(!Program.itemWith("text", screen(), text).enabled, text);
         click("Start Scan", screen());
         press(Qt.Key_R, Qt.ControlModifier);
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
         compare(groups().length, 4);
     }
@@ -69,7 +69,7 @@ DuplicatesCase {
         verify(!stopButton().enabled);
         verify(progress());
         Program.picture("duplicates-stopping");
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
         find("Configure scan directories above and click Start Scan", screen());
         verify(!Program.textItem("Cancelled", screen()));
@@ -81,7 +81,7 @@ DuplicatesCase {
     function test_stopInTheComparingSaysSo() {
         holdScan("a/photo.JPG");
         clickOn(stopButton());
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
         find("Configure scan directories above and click Start Scan", screen());
         find("Cancelled", screen());
@@ -93,7 +93,7 @@ DuplicatesCase {
     function test_stopShowsWhatWasFoundUntilThen() {
         holdScan("a/plain");
         clickOn(stopButton());
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
         compare(groups(), ["photo.JPG", "report.pdf"]);
     }
@@ -104,7 +104,7 @@ DuplicatesCase {
         verify(focusItem().visualFocus);
         press(Qt.Key_Return);
         compare(stopButton().text, "Stopping…");
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
         compare(scanButton().text, "Start Scan");
     }
@@ -120,7 +120,7 @@ DuplicatesCase {
         open("Duplicates");
         compare(stopButton().text, "Stopping…");
         open("Cleanup");
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         open("Duplicates");
         waitForScan();
         compare(scanButton().text, "Start Scan");
@@ -130,11 +130,11 @@ DuplicatesCase {
         holdScan("b");
         clickOn(Program.named("removeScanPath"));
         click("1 MB", choices());
-        Program.releaseDisk();
+        Surroundings.releaseDisk();
         waitForScan();
         compare(groups().length, 4); // the scan goes on with what it began with
         compare(Program.named("scanPathList").count, 2);
-        Program.scanOnly([path("a")], usualMinSize);
+        Duplicates.scanOnly([path("a")], usualMinSize);
     }
 
     // Opens the picker of the least size.
@@ -146,7 +146,7 @@ DuplicatesCase {
     }
 
     function test_scanButtonNeedsAFolder() {
-        Program.scanOnly([], usualMinSize);
+        Duplicates.scanOnly([], usualMinSize);
         Program.settle();
         verify(!scanButton().enabled);
         find("No folders selected — add one to start scanning.", screen());
@@ -159,7 +159,7 @@ DuplicatesCase {
     function test_thousandsOfGroupsAreMadeOnlyWhereTheyAreOnView() {
         const pairs = 5000;
         Program.window.height = usualHeight;
-        Program.scanOnly([Program.makePairs(pairs)], 1024);
+        Duplicates.scanOnly([Duplicates.makePairs(pairs)], 1024);
         clickOn(scanButton());
         tryVerify(() => !progress() && list(), 6 * patience, "the scan has ended");
         Program.settle();

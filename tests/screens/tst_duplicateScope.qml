@@ -38,7 +38,7 @@ ScopeCase {
 
     function test_addsChosenFolder() {
         add(twins + "/a");
-        compare(Program.folderMessage(), "Select a directory to scan for duplicates");
+        compare(Surroundings.folderMessage(), "Select a directory to scan for duplicates");
         compare(scanPaths(), ["~", twins + "/a"]);
         add(twins + "/a");
         compare(scanPaths(), ["~", twins + "/a"]); // it is there already
@@ -48,16 +48,16 @@ ScopeCase {
 
     function test_clickChangesFolder() {
         add(twins + "/a");
-        Program.userWillChoose(twins + "/b");
+        Surroundings.userWillChoose(twins + "/b");
         clickOn(scanPathRows()[1]);
-        compare(Program.folderMessage(), "Choose a different folder to scan");
-        compare(Program.folderStart(), twins + "/a");
+        compare(Surroundings.folderMessage(), "Choose a different folder to scan");
+        compare(Surroundings.folderStart(), twins + "/a");
         compare(scanPaths(), ["~", twins + "/b"]);
-        Program.userWillCancel();
+        Surroundings.userWillCancel();
         clickOn(scanPathRows()[0]);
-        compare(Program.folderStart(), home);
+        compare(Surroundings.folderStart(), home);
         compare(scanPaths(), ["~", twins + "/b"]);
-        Program.userWillChoose(home);
+        Surroundings.userWillChoose(home);
         clickOn(scanPathRows()[1]); // to one that is there already
         compare(scanPaths(), ["~"]);
     }
@@ -72,7 +72,7 @@ ScopeCase {
         compare(scanPaths(), []);
         find("No folders selected — add one to start scanning.", screen());
         verify(!scanButton().enabled);
-        compare(Program.folderMessage(), "Select a directory to scan for duplicates"); // the click was the button's alone
+        compare(Surroundings.folderMessage(), "Select a directory to scan for duplicates"); // the click was the button's alone
         Program.picture("scope-empty");
         add(home);
         verify(scanButton().enabled);
@@ -81,7 +81,7 @@ ScopeCase {
 
     function test_folderRowsWorkByKeyboard() {
         add(twins + "/a");
-        Program.userWillChoose(twins + "/c");
+        Surroundings.userWillChoose(twins + "/c");
         tabTo("the folder", item => item.pathText === twins + "/a");
         verify(focusItem().visualFocus);
         press(Qt.Key_Return);
@@ -99,7 +99,7 @@ ScopeCase {
 
     function test_exclusionIsAddedAndRemoved() {
         exclude(home + "/Movies");
-        compare(Program.folderMessage(), "Select a directory to exclude from scanning");
+        compare(Surroundings.folderMessage(), "Select a directory to exclude from scanning");
         compare(rules().length, 9);
         const row = rule("~/Movies");
         compare(row.symbol, "folder.badge.minus");
@@ -120,7 +120,7 @@ ScopeCase {
     }
 
     function test_exclusionKeepsTheScanOut() {
-        Program.scanOnly([twins], usualMinSize);
+        Duplicates.scanOnly([twins], usualMinSize);
         exclude(twins + "/b");
         scan();
         compare(fileRows().map(nameOf).sort(), ["a/film.mov", "a/photo.JPG", "c/film.mov", "c/photo.png"]);

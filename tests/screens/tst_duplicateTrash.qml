@@ -8,7 +8,7 @@ DuplicatesCase {
 
     function gone() {
         return usuallyGoing.concat(["a/photo.JPG", "a/film.mov", "a/report.pdf", "a/plain"]).filter(
-                    name => !Program.exists(path(name)));
+                    name => !Surroundings.exists(path(name)));
     }
 
     function onlyPhoto() {
@@ -37,7 +37,7 @@ DuplicatesCase {
         data.how();
         tryGone("Confirm Deletion");
         Program.settle();
-        compare(Program.recycled(), "");
+        compare(Surroundings.recycled(), "");
         compare(going(), usuallyGoing);
         compare(gone(), []);
         verify(Program.named("trashButton").enabled);
@@ -45,7 +45,7 @@ DuplicatesCase {
 
     function test_movesWhatIsSetToGo() {
         moveToTrash();
-        compare(Program.recycled(), usuallyGoing.map(path).join("\n"));
+        compare(Surroundings.recycled(), usuallyGoing.map(path).join("\n"));
         compare(gone(), usuallyGoing);
         // One copy is left of each, which is no group any more.
         find("Configure scan directories above and click Start Scan", screen());
@@ -98,13 +98,13 @@ DuplicatesCase {
     }
 
     function test_whatCannotBeMovedStays() {
-        Program.refuseRecycle(path("b/report.pdf"));
+        Surroundings.refuseRecycle(path("b/report.pdf"));
         moveToTrash();
         compare(gone(), usuallyGoing.filter(name => name !== "b/report.pdf"));
         compare(groups(), ["report.pdf"]);
         compare(going(), ["b/report.pdf"]);
         verify(!Program.texts().includes("It is locked."));
-        Program.recycleAsEver();
+        Surroundings.recycleAsEver();
         moveToTrash();
         verify(gone().includes("b/report.pdf"));
     }
@@ -166,7 +166,7 @@ DuplicatesCase {
         });
         tryVerify(() => !foot(), patience, "the run has ended");
         compare(gone(), usuallyGoing);
-        compare(Program.recycled(), usuallyGoing.map(path).join("\n"));
+        compare(Surroundings.recycled(), usuallyGoing.map(path).join("\n"));
     }
 
     function focusListByHand() {
@@ -237,7 +237,7 @@ DuplicatesCase {
     function test_runIsRecorded(data) {
         if (data.only)
             onlyPhoto();
-        Program.refuseRecycle(path(data.refused));
+        Surroundings.refuseRecycle(path(data.refused));
         moveToTrash();
         openHistory();
         const entry = newestEntry();

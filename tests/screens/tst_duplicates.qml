@@ -38,7 +38,7 @@ DuplicatesCase {
     }
 
     function test_writesHomeAsTilde() {
-        Program.scanOnly([Program.at("home/Equal")], usualMinSize);
+        Duplicates.scanOnly([Surroundings.at("home/Equal")], usualMinSize);
         scan();
         verify(fileRows()[0].detail.startsWith("~/Equal/part-"), fileRows()[0].detail);
     }
@@ -51,7 +51,7 @@ DuplicatesCase {
     }
 
     function test_scanThatFindsNothingShowsTheStartAgain() {
-        Program.scanOnly([Program.at("hollow")], usualMinSize);
+        Duplicates.scanOnly([Surroundings.at("hollow")], usualMinSize);
         scan();
         find("Configure scan directories above and click Start Scan", screen());
         compare(scanButton().text, "Start Scan");
@@ -160,7 +160,7 @@ DuplicatesCase {
         data.how();
         tryVerify(() => !progress() && going().length > 0, patience, "the new result is there");
         compare(going(), usuallyGoing);
-        compare(Program.posted(), "Quillmere.rescan");
+        compare(Surroundings.posted(), "Quillmere.rescan");
     }
 
     function test_settingsHideAndShow() {

@@ -54,7 +54,7 @@ HistoryCase {
         fill();
         openSheet();
         clickOn(row("Moved 2 files"));
-        Program.record({ kind: "uninstall", title: "Uninstalled Tool" });
+        Activity.record({ kind: "uninstall", title: "Uninstalled Tool" });
         tryVerify(() => list().count === 4, patience, "the entry is there");
         compare(titles()[0], "Uninstalled Tool");
         compare(summary(), "4");
@@ -157,7 +157,7 @@ HistoryCase {
         const paths = [];
         for (let i = 0; i < 60; ++i)
             paths.push(`/home/some/file-${i}`);
-        Program.record({ kind: "organize", title: "Moved 60 files", paths: paths });
+        Activity.record({ kind: "organize", title: "Moved 60 files", paths: paths });
         openSheet();
         clickOn(row("Moved 60 files"));
         find("Files (60)", list());

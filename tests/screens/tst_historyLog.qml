@@ -6,7 +6,7 @@ import Quillmere.Screens
 HistoryCase {
     name: "HistoryLog"
 
-    readonly property string logFile: Program.at("home/Library/Application Support/Quillmere/history.json")
+    readonly property string logFile: Surroundings.at("home/Library/Application Support/Quillmere/history.json")
 
     function askToClear() {
         clickOn(Program.named("clearHistory"));
@@ -52,12 +52,12 @@ HistoryCase {
         mouseMove(Program.named("revealHistory"));
         find("Reveal history.json in Finder");
         clickOn(Program.named("revealHistory"));
-        compare(Program.calls(), `reveal ${logFile}`);
+        compare(Surroundings.calls(), `reveal ${logFile}`);
     }
 
     function test_revealNeedsAFile() {
         Program.settle();
-        Program.remove(logFile);
+        Surroundings.remove(logFile);
         openSheet();
         verify(!Program.named("revealHistory").enabled);
         mouseMove(Program.named("revealHistory"));

@@ -7,7 +7,7 @@ import Quillmere.Screens
 AnalyzerCase {
     name: "HostileNames"
 
-    readonly property string odd: Program.at("odd")
+    readonly property string odd: Surroundings.at("odd")
 
     function names() {
         return [
@@ -54,15 +54,15 @@ AnalyzerCase {
     function test_goesInAndHandsOnTheBytes(data) {
         showOdd();
         chooseForRow(data.shown, "Reveal in Finder");
-        compare(Program.encoded(Program.calls().replace(/^reveal /, "")), `${odd}/${data.bytes}`);
+        compare(Surroundings.encoded(Surroundings.calls().replace(/^reveal /, "")), `${odd}/${data.bytes}`);
         chooseForRow(data.shown, "Copy Path");
-        compare(Program.encoded(Program.clipboard()), `${odd}/${data.bytes}`);
+        compare(Surroundings.encoded(Surroundings.clipboard()), `${odd}/${data.bytes}`);
         drill(data.shown, data.items);
         compare(Program.texts(Program.named("breadcrumbList")), data.shown);
         verify(row("inside"));
         Program.forget();
         chooseForRow("inside", "Open");
-        compare(Program.encoded(Program.calls().replace(/^open /, "")), `${odd}/${data.bytes}/inside`);
+        compare(Surroundings.encoded(Surroundings.calls().replace(/^open /, "")), `${odd}/${data.bytes}/inside`);
     }
 
     function test_tileGoesIn_data() {
@@ -74,7 +74,7 @@ AnalyzerCase {
         clickOn(tile(data.shown));
         find(`CONTENTS (${data.items} items)`);
         click("Open in Finder");
-        compare(Program.encoded(Program.calls().replace(/^show /, "")), `${odd}/${data.bytes}`);
+        compare(Surroundings.encoded(Surroundings.calls().replace(/^show /, "")), `${odd}/${data.bytes}`);
     }
 
     function test_fetchesDeeperLevel_data() {
@@ -83,7 +83,7 @@ AnalyzerCase {
 
     // From one folder higher up the odd ones lie at the depth where `du` measures, and are listed when gone into.
     function test_fetchesDeeperLevel(data) {
-        analyze(Program.at(""));
+        analyze(Surroundings.at(""));
         click("odd", table());
         find("CONTENTS (7 items)");
         drill(data.shown, data.items);

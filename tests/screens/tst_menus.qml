@@ -38,7 +38,7 @@ ScreenCase {
         open(row.tag === "Search" ? "Dashboard" : "Search");
         choose("View", row.tag);
         compare(Program.selectedScreen(), row.tag);
-        compare(Program.posted(), "Quillmere.navigate");
+        compare(Surroundings.posted(), "Quillmere.navigate");
         find(headOf(row.tag), screen());
     }
 
@@ -79,17 +79,17 @@ ScreenCase {
         openMenu("Help");
         clickOn(menuLine("Replay Welcome Tour"));
         verify(!Program.isSheetUp());
-        compare(Program.posted(), "");
+        compare(Surroundings.posted(), "");
         closeMenu();
         for (const key of [Qt.Key_Comma, Qt.Key_Slash, Qt.Key_N])
             press(key, Qt.ControlModifier);
-        compare(Program.posted(), "");
+        compare(Surroundings.posted(), "");
         verify(!Program.isSheetUp());
     }
 
     function test_bugReportOpensMailDraft() {
         choose("Help", "Report a Bug…");
-        const mail = decodeURIComponent(Program.mail());
+        const mail = decodeURIComponent(Surroundings.mail());
         verify(mail.startsWith("mailto:support@quillmere.example?subject=[Bug] &body=Please describe the bug "
                                + "below this line:\n\n\n\nSteps to reproduce (if you can):\n\n\n\n---\n"), mail);
         verify(mail.endsWith("Quillmere 1.0.0 (build 7)\nmacOS 14.2.1\nMac model: Model One\nLocale: en_US\n---"), mail);
@@ -97,7 +97,7 @@ ScreenCase {
 
     function test_featureRequestOpensMailDraft() {
         choose("Help", "Request a Feature…");
-        verify(decodeURIComponent(Program.mail()).includes("?subject=[Feature Request] &body=Please describe the "
+        verify(decodeURIComponent(Surroundings.mail()).includes("?subject=[Feature Request] &body=Please describe the "
                                                            + "feature you'd like below this line:"));
     }
 

@@ -7,7 +7,7 @@ ScreenCase {
     name: "Quit"
 
     function cleanup() {
-        Program.releaseProbes();
+        Surroundings.releaseProbes();
         compare(Program.takeWarnings(), "");
     }
 
@@ -32,15 +32,15 @@ ScreenCase {
     }
 
     function test_quitKeyEndsAtOnceDuringScan() {
-        Program.holdProbes();
-        Program.pass(301); // older than what a screen would take for fresh
+        Surroundings.holdProbes();
+        Surroundings.pass(301); // older than what a screen would take for fresh
         open("Disk Analyzer");
-        tryVerify(() => Program.probeCount() === 1, patience, "a probe is at work");
+        tryVerify(() => Disk.probeCount() === 1, patience, "a probe is at work");
         keyPress(Qt.Key_Q, Qt.ControlModifier);
         verify(Program.exits() > 0);
         keyRelease(Qt.Key_Q, Qt.ControlModifier);
-        Program.releaseProbes();
-        tryVerify(() => !Program.isScanning(), patience, "the scan ends");
+        Surroundings.releaseProbes();
+        tryVerify(() => !Disk.isScanning(), patience, "the scan ends");
     }
 
     function test_quitKeyEndsAtOnceWithMenuOpen() {

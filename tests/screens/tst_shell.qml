@@ -115,10 +115,10 @@ ScreenCase {
     function test_lightDesktopGivesLightWindow() {
         compare(String(Program.window.color), "#0d1117");
         compare(String(find("Dashboard", sidebar()).color), "#e6edf3");
-        Program.setDark(false);
+        Surroundings.setDark(false);
         compare(String(Program.window.color), "#ffffff");
         compare(String(find("Dashboard", sidebar()).color), "#1f2328");
-        Program.setDark(true);
+        Surroundings.setDark(true);
         compare(String(Program.window.color), "#0d1117");
     }
 }

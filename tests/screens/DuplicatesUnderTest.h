@@ -1,0 +1,28 @@
+#pragma once
+
+#include "program/Composition.h"
+#include "screens/Surroundings.h"
+
+#include <QObject>
+#include <QStringList>
+
+/// What the Duplicate Finder works on. The tests' QML knows it as `Duplicates`.
+class DuplicatesUnderTest final : public QObject
+{
+    Q_OBJECT
+
+public:
+    DuplicatesUnderTest(Composition &composition, Surroundings &surroundings);
+
+    /// A folder of equal files that no test has seen, in the place of the one before.
+    Q_INVOKABLE QString makeTwins();
+    /// A folder of so many pairs of equal files.
+    Q_INVOKABLE QString makePairs(int pairs) const;
+    /// Lets the Duplicate Finder look at these folders, and at files from `minSize` bytes on.
+    Q_INVOKABLE void scanOnly(const QStringList &folders, int minSize);
+
+private:
+    Composition &composition_;
+    const TempHome &temp_;
+    int twins_ = 0;
+};
