@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <limits>
 
 namespace {
 
@@ -118,7 +119,7 @@ void appendEntry(QByteArray &json, const HistoryEntry &entry)
 }
 
 /// About what the entries will take, so that the text does not move while it grows.
-qsizetype roomFor(const std::vector<HistoryEntry> &entries)
+qint64 expectedBytes(const std::vector<HistoryEntry> &entries)
 {
     qsizetype room = 16;
     for (const HistoryEntry &entry : entries) {
@@ -135,15 +136,28 @@ namespace historyfile {
 
 QByteArray encode(const std::vector<HistoryEntry> &entries)
 {
+    return encodeWithin(std::numeric_limits<qint64>::max(), entries).json;
+}
+
+Encoded encodeWithin(qint64 room, const std::vector<HistoryEntry> &entries)
+{
+    const QByteArray end = "\n]\n";
     QByteArray json;
-    json.reserve(roomFor(entries));
+    json.reserve(std::min(room, expectedBytes(entries)));
     json += '[';
+    size_t count = 0;
     for (const HistoryEntry &entry : entries) {
-        json += &entry == &entries.front() ? "\n" : ",\n";
+        const qsizetype before = json.size();
+        json += count == 0 ? "\n" : ",\n";
         appendEntry(json, entry);
+        if (json.size() > room - end.size()) {
+            json.truncate(before);
+            break;
+        }
+        ++count;
     }
-    json += entries.empty() ? "]\n" : "\n]\n";
-    return json;
+    json += count == 0 ? QByteArray("]\n") : end;
+    return {json, count};
 }
 
 QByteArray dateText(Date date)

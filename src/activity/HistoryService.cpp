@@ -4,10 +4,10 @@
 #include "activity/Loggers.h"
 #include "base/Error.h"
 #include "base/Files.h"
+#include "base/GuardedPost.h"
 #include "base/Paths.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 #include <QThread>
 
 #include <cerrno>
@@ -56,20 +56,21 @@ void HistoryService::load()
         entries = historyfile::decode(files::readAll(fileURL_, historyfile::mostBytes));
     } catch (const Error &error) {
         // A file that can't be read, above all one that is not there yet, is no news; one that is no log is.
-        if (error.domain == historyfile::errorDomain || error.code == EFBIG) {
-            Loggers(platform_.systemLog)
-                .general.error(QStringLiteral("Failed to load history.json: %1").arg(error.description));
-        }
+        if (error.domain == historyfile::errorDomain || error.code == EFBIG)
+            logError(QStringLiteral("Failed to load history.json: %1").arg(error.description));
+        else if (error.code != ENOENT)
+            whyUnread_ = error.description;
         return;
     }
     if (isMainThread())
         return setEntries(std::move(entries));
-    postToMain([entries = std::move(entries)](HistoryService &self) { self.setEntries(entries); });
+    guarded::post(platform_.mainQueue, QPointer(this),
+                  [entries = std::move(entries)](HistoryService &self) { self.setEntries(entries); });
 }
 
 void HistoryService::record(const HistoryEntry &entry)
 {
-    postToMain([entry](HistoryService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [entry](HistoryService &self) {
         std::vector<HistoryEntry> &entries = self.entries_;
         entries.insert(entries.begin(), entry);
         if (entries.size() > maxEntries)
@@ -81,7 +82,7 @@ void HistoryService::record(const HistoryEntry &entry)
 
 void HistoryService::clear()
 {
-    postToMain([](HistoryService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [](HistoryService &self) {
         self.entries_.clear();
         self.save();
         emit self.entriesChanged();
@@ -94,20 +95,27 @@ void HistoryService::setEntries(std::vector<HistoryEntry> entries)
     emit entriesChanged();
 }
 
-void HistoryService::save() const
+void HistoryService::save()
 {
+    // What is written must be readable at the next start: a file that is refused there would be lost whole.
+    const historyfile::Encoded file = historyfile::encodeWithin(historyfile::mostBytes, entries_);
     try {
-        files::writeAtomically(fileURL_, historyfile::encode(entries_));
+        files::writeAtomically(fileURL_, file.json);
     } catch (const Error &error) {
-        Loggers(platform_.systemLog)
-            .general.error(QStringLiteral("Failed to save history: %1").arg(error.description));
+        logError(QStringLiteral("Failed to save history: %1").arg(error.description));
+        return;
     }
+    const size_t missing = entries_.size() - file.entryCount;
+    if (missing > 0)
+        logError(QStringLiteral("history.json has no room for the oldest %1 of %2 entries")
+                     .arg(missing)
+                     .arg(entries_.size()));
+    if (!whyUnread_.isEmpty())
+        logError(QStringLiteral("Replaced a history.json that could not be read: %1").arg(whyUnread_));
+    whyUnread_.clear();
 }
 
-void HistoryService::postToMain(std::function<void(HistoryService &)> block)
+void HistoryService::logError(const QString &message) const
 {
-    platform_.mainQueue.post([self = QPointer(this), block = std::move(block)] {
-        if (self)
-            block(*self);
-    });
+    Loggers(platform_.systemLog).general.error(message);
 }

@@ -5,7 +5,6 @@
 
 #include <QObject>
 
-#include <functional>
 #include <vector>
 
 /// The activity log: one entry for each destructive run, newest first, kept whole in `history.json`. A diary only;
@@ -19,6 +18,9 @@ public:
 
     /// Loads the file. A missing or unreadable one is an empty log, one that can't be understood as well, with a line
     /// in the diagnostic log. Any thread; off the main one the entries follow in a later turn of its loop.
+    ///
+    /// The next save replaces a file that could not be read. That loses what was in it, so the diagnostic log gets a line
+    /// about it then.
     explicit HistoryService(const Platform &platform);
 
     /// The process's one instance, made at the first call and never destroyed. Any thread.
@@ -31,7 +33,8 @@ public:
     const QString &fileURL() const { return fileURL_; }
 
     // Commands; any thread. They return at once and take effect, the saving included, in a later turn of the main
-    // loop, in the order of the calls. A failed save goes to the diagnostic log; the next one writes everything again.
+    // loop, in the order of the calls. A failed save goes to the diagnostic log; the next one writes everything again. Of a
+    // log that has no room in `historyfile::mostBytes` the file goes without the oldest entries, with such a line as well.
 
     /// Puts an entry at the front. The oldest beyond `maxEntries` are dropped.
     void record(const HistoryEntry &entry);
@@ -45,10 +48,11 @@ signals:
 private:
     void load();
     void setEntries(std::vector<HistoryEntry> entries);
-    void save() const;
-    void postToMain(std::function<void(HistoryService &)> block);
+    void save();
+    void logError(const QString &message) const;
 
     const Platform &platform_;
     QString fileURL_;
     std::vector<HistoryEntry> entries_;
+    QString whyUnread_; ///< why the file that is there could not be read; empty once it has been replaced
 };

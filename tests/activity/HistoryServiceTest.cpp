@@ -362,6 +362,48 @@ TEST_F(HistoryServiceTest, refusesAFileOf200MegabytesWithoutReadingIt)
     EXPECT_EQ(titles(), u"a"_s);
 }
 
+TEST_F(HistoryServiceTest, aLogThatWouldBeTooLargeToReadIsShortenedInItsFileAlone)
+{
+    std::vector<HistoryEntry> largest = {samples::entry(u"b"_s), samples::entry(u"a"_s)};
+    for (HistoryEntry &entry : largest)
+        entry.detail = u""_s;
+    const qint64 room = historyfile::mostBytes - historyfile::encode(largest).size();
+    largest[0].detail = QString(room / 2, u'x');
+    largest[1].detail = QString(room - room / 2, u'x');
+    put(historyfile::encode(largest));
+    ASSERT_EQ(files::attributes(file())->size, historyfile::mostBytes);
+    start();
+    EXPECT_EQ(titles(), u"b a"_s);
+    EXPECT_TRUE(test.systemLog.lines.isEmpty());
+
+    record(u"c"_s);
+    EXPECT_EQ(titles(), u"c b a"_s);
+    EXPECT_EQ(test.systemLog.lines,
+              QStringList{u"error General: history.json has no room for the oldest 1 of 3 entries"_s});
+    test.systemLog.lines.clear();
+    start();
+    EXPECT_EQ(titles(), u"c b"_s);
+    EXPECT_TRUE(test.systemLog.lines.isEmpty());
+}
+
+TEST_F(HistoryServiceTest, replacesAFileThatCouldNotBeReadWithALineAboutIt)
+{
+    put(historyfile::encode({samples::entry(u"old"_s)}));
+    failOn(files::Operation::open, file(), EACCES);
+    start();
+    record(u"a"_s);
+    EXPECT_EQ(test.systemLog.lines,
+              QStringList{u"error General: Failed to save history: Permission denied"_s});
+    files::injectFaults({});
+    record(u"b"_s);
+    record(u"c"_s);
+    EXPECT_EQ(
+        test.systemLog.lines.sliced(1),
+        QStringList{u"error General: Replaced a history.json that could not be read: Permission denied"_s});
+    start();
+    EXPECT_EQ(titles(), u"c b a"_s);
+}
+
 TEST_F(HistoryServiceTest, saysOnceASaveThatItsFolderIsReadOnly)
 {
     start();
