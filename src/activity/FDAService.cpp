@@ -2,15 +2,22 @@
 
 #include "base/ChildProcess.h"
 #include "base/Files.h"
+#include "base/GuardedPost.h"
 #include "common/NotificationNames.h"
-
-#include <QPointer>
 
 namespace {
 
 constexpr double pollPeriod = 3;    // seconds
 constexpr double longestPoll = 120; // seconds
 const QByteArray settingsPage = "x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles";
+
+/// To its end, since one that fails on the way has not let itself be listed. An empty one has.
+bool canBeListed(const QString &folder)
+{
+    files::DirectoryReader reader(folder);
+    while (reader.next()) {}
+    return reader.isOpen() && !reader.hasFailed();
+}
 
 } // namespace
 
@@ -29,22 +36,10 @@ FDAService &FDAService::shared(const Platform &platform, const Program &program)
     return instance;
 }
 
-void FDAService::postToMain(std::function<void(FDAService &)> block)
-{
-    platform_.mainQueue.post([self = QPointer(this), block = std::move(block)] {
-        if (!self)
-            return;
-        block(*self);
-        emit self->changed();
-    });
-}
-
 bool FDAService::canListProtectedFolder() const
 {
     const QStringList &folders = platform_.locations->accessProbeFolders;
-    // An empty folder counts as well: it let itself be listed.
-    return std::any_of(folders.begin(), folders.end(),
-                       [](const QString &folder) { return files::DirectoryReader(folder).isOpen(); });
+    return std::any_of(folders.begin(), folders.end(), canBeListed);
 }
 
 bool FDAService::hasFullDiskAccess()
@@ -56,8 +51,12 @@ bool FDAService::hasFullDiskAccess()
     const Access result = isGranted ? Access::granted : Access::denied;
     const Access earlier = lastProbeResult_.exchange(result, std::memory_order_relaxed);
     cachedProbeResult_.store(result, std::memory_order_relaxed);
-    if (isGranted && earlier == Access::denied)
-        postToMain([](FDAService &self) { self.grantedAfterPrompt_ = true; });
+    if (isGranted && earlier == Access::denied) {
+        guarded::post(platform_.mainQueue, QPointer(this), [](FDAService &self) {
+            self.grantedAfterPrompt_ = true;
+            emit self.changed();
+        });
+    }
     return isGranted;
 }
 
@@ -69,17 +68,26 @@ void FDAService::recheck()
 
 void FDAService::markDenied(const QString &context)
 {
-    postToMain([context](FDAService &self) { self.deniedContexts_.insert(context); });
+    guarded::post(platform_.mainQueue, QPointer(this), [context](FDAService &self) {
+        self.deniedContexts_.insert(context);
+        emit self.changed();
+    });
 }
 
 void FDAService::clearDenied(const QString &context)
 {
-    postToMain([context](FDAService &self) { self.deniedContexts_.remove(context); });
+    guarded::post(platform_.mainQueue, QPointer(this), [context](FDAService &self) {
+        self.deniedContexts_.remove(context);
+        emit self.changed();
+    });
 }
 
 void FDAService::dismiss(const QString &context)
 {
-    postToMain([context](FDAService &self) { self.dismissedContexts_.insert(context); });
+    guarded::post(platform_.mainQueue, QPointer(this), [context](FDAService &self) {
+        self.dismissedContexts_.insert(context);
+        emit self.changed();
+    });
 }
 
 bool FDAService::shouldShowBanner(const QString &context) const
@@ -102,9 +110,10 @@ void FDAService::poll(Date start)
     if (!hasFullDiskAccess())
         return;
     grantPollTimer_.stop();
-    postToMain([](FDAService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [](FDAService &self) {
         self.grantedAfterPrompt_ = true;
         self.deniedContexts_.clear();
+        emit self.changed();
     });
 }
 

@@ -75,7 +75,6 @@ private:
     };
 
     bool canListProtectedFolder() const;
-    void postToMain(std::function<void(FDAService &)> block);
     void poll(Date start);
 
     const Platform &platform_;

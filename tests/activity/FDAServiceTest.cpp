@@ -2,10 +2,15 @@
 
 #include "activity/FDABanner.h"
 #include "base/Files.h"
+#include "base/Paths.h"
 #include "common/NotificationNames.h"
+#include "support/FifoLine.h"
+#include "support/OrdinaryUser.h"
 #include "support/TestPlatform.h"
 
 #include <QScopeGuard>
+
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -53,6 +58,36 @@ TEST_F(FDAServiceTest, foldersThatCannotBeListedAreNoAccess)
     });
     const auto heal = qScopeGuard([] { files::injectFaults({}); });
     EXPECT_FALSE(service.hasFullDiskAccess());
+}
+
+TEST_F(FDAServiceTest, aFolderThatFailsMidwayIsNoAccess)
+{
+    test.temp.folder(safari());
+    test.temp.folder(mail());
+    files::injectFaults([](files::Operation operation, const QString &) {
+        return operation == files::Operation::next ? EIO : 0;
+    });
+    const auto heal = qScopeGuard([] { files::injectFaults({}); });
+    EXPECT_FALSE(service.hasFullDiskAccess());
+}
+
+TEST_F(FDAServiceTest, permissionsDecideForAnOrdinaryUser)
+{
+    const auto checks = [] {
+        const TestPlatform own;
+        FDAService access(own.platform, {});
+        const QString first = QStringLiteral("home/Library/Safari");
+        const QString second = QStringLiteral("home/Library/Mail");
+        for (const QString &folder : {first, second}) {
+            own.temp.file(folder + QStringLiteral("/secret"));
+            own.temp.setMode(folder, 0311); // may be entered, not listed
+        }
+        EXPECT_FALSE(access.hasFullDiskAccess());
+        own.temp.setMode(second, 0500);
+        access.recheck();
+        EXPECT_TRUE(access.hasFullDiskAccess());
+    };
+    EXPECT_TRUE(holdsForOrdinaryUser(checks));
 }
 
 TEST_F(FDAServiceTest, handsOutItsCachedAnswerUntilARecheck)
@@ -224,20 +259,62 @@ TEST_F(FDAServiceTest, theRelaunchLineQuotesThePathAsItStands)
 
 TEST_F(FDAServiceTest, relaunchLetsGoStartsTheShellAndAsksToQuit)
 {
-    TestPlatform &own = test;
-    const QString record = own.temp.at(QStringLiteral("arguments"));
-    own.platform.programs.sh =
-        own.temp.script(QStringLiteral("sh"), "printf '%s\\n' \"$@\" > '" + record.toUtf8() + ".new' && mv '"
-                                                  + record.toUtf8() + ".new' '" + record.toUtf8() + "'\n");
+    const FifoLine told(test.temp.at(QStringLiteral("told")));
+    test.platform.programs.sh = test.temp.script(
+        QStringLiteral("sh"), "printf '%s|' $# \"$@\" > '" + paths::toBytes(told.path()) + "'\n" + "echo > '"
+                                  + paths::toBytes(told.path()) + "'\n");
     service.relaunch();
     EXPECT_EQ(lettings, 1);
     EXPECT_EQ(quitRequests, 0); // asked for in a later turn
-    own.settle();
+    test.settle();
     EXPECT_EQ(quitRequests, 1);
-    while (!files::exists(record)) {
-    } // the stand-in shell runs beside us; CTest ends a test that never comes back
-    EXPECT_EQ(files::readPrefix(record, 4096),
-              "-c\n" + FDAService::relaunchLine(own.temp.at(QStringLiteral("program"))).toUtf8() + "\n");
+    EXPECT_EQ(told.read(),
+              "2|-c|" + FDAService::relaunchLine(test.temp.at(QStringLiteral("program"))).toUtf8() + "|");
+}
+
+namespace {
+
+/// A program at a certain path, which is started anew by the real shell. That one's second of sleep passes at once and is
+/// told, as are the program's start and the shell's end.
+struct RealRelaunch
+{
+    explicit RealRelaunch(const QString &program)
+        : executable(test.temp.script(program, tell("program started")))
+    {
+        test.temp.script(QStringLiteral("bin/sleep"), tell("slept $1"));
+        const QByteArray bin = paths::toBytes(test.temp.at(QStringLiteral("bin")));
+        test.platform.programs.sh =
+            test.temp.script(QStringLiteral("sh"), "PATH='" + bin + "':$PATH /bin/sh \"$@\" 2>/dev/null\n"
+                                                       + tell("shell ended with $?"));
+        FDAService(test.platform, {executable, [] {}, [] {}}).relaunch();
+    }
+
+    QByteArray tell(const QByteArray &line) const
+    {
+        return "echo \"" + line + "\" > '" + paths::toBytes(told.path()) + "'\n";
+    }
+
+    TestPlatform test;
+    const FifoLine told{test.temp.at(QStringLiteral("told"))};
+    const QString executable;
+};
+
+} // namespace
+
+TEST_F(FDAServiceTest, theRealShellStartsAProgramWithASpaceInItsPath)
+{
+    const RealRelaunch relaunch(QStringLiteral("My Programs/Quill mere"));
+    QList<QByteArray> lines = {relaunch.told.read(), relaunch.told.read(), relaunch.told.read()};
+    EXPECT_LT(lines.indexOf("slept 1"), lines.indexOf("program started"));
+    std::sort(lines.begin(), lines.end());
+    EXPECT_EQ(lines, (QList<QByteArray>{"program started", "shell ended with 0", "slept 1"}));
+}
+
+TEST_F(FDAServiceTest, aDoubleQuoteInThePathBreaksTheShellLine)
+{
+    const RealRelaunch relaunch(QStringLiteral("Quill\"mere"));
+    EXPECT_EQ(relaunch.told.read(),
+              "shell ended with 2"); // it understands nothing of the line, so runs nothing
 }
 
 TEST_F(FDAServiceTest, aRelaunchThatCannotStartJustQuits)
