@@ -28,11 +28,9 @@ QString systemInfoBlock(const Program &program, const SystemInfo &system)
     const SystemInfo::Version version = system.systemVersion();
     return QStringLiteral("---\nSystem info (don't edit):\nQuillmere %1 (build %2)\nmacOS %3.%4.%5\n"
                           "Mac model: %6\nLocale: %7\n---")
-        .arg(program.version, program.build)
-        .arg(version.major)
-        .arg(version.minor)
-        .arg(version.patch)
-        .arg(system.hardwareModel().value_or(QStringLiteral("Unknown")), system.localeIdentifier());
+        .arg(program.version, program.build, QString::number(version.major), QString::number(version.minor),
+             QString::number(version.patch), system.hardwareModel().value_or(QStringLiteral("Unknown")),
+             system.localeIdentifier());
 }
 
 QByteArray mailAddress(Kind kind, const Program &program, const SystemInfo &system)

@@ -66,6 +66,13 @@ TEST(FeedbackMail, takesAModelsNameAsItStands)
     EXPECT_TRUE(parts.body.endsWith(feedback::systemInfoBlock(program, system)));
 }
 
+TEST(FeedbackMail, takesTheProgramsVersionAsItStands)
+{
+    const feedback::Program marked{program.supportAddress, QStringLiteral("%3 %6"), QStringLiteral("%1")};
+    EXPECT_TRUE(feedback::systemInfoBlock(marked, FakeSystemInfo())
+                    .contains(QStringLiteral("Quillmere %3 %6 (build %1)\nmacOS 14.2.1\n")));
+}
+
 TEST(FeedbackMail, asksForTheBug)
 {
     const Parts parts = read(feedback::mailAddress(feedback::Kind::bug, program, FakeSystemInfo()));
