@@ -31,7 +31,7 @@ const QString failure = u"Couldn't read system log: "_s;
 
 } // namespace
 
-TEST(RecentLogs, giveWhatTheLogGives)
+TEST(Diagnostics, recentLogsGiveWhatTheLogGives)
 {
     FakeSystemLog log;
     log.recent = u"one\ntwo\n"_s;
@@ -39,35 +39,35 @@ TEST(RecentLogs, giveWhatTheLogGives)
     EXPECT_EQ(log.askedHours, 3);
 }
 
-TEST(RecentLogs, giveAFailureAsTheirText)
+TEST(Diagnostics, recentLogsGiveAFailureAsTheirText)
 {
     FakeSystemLog log;
     log.failure = Error{u"POSIX"_s, 13, u"Permission denied"_s};
     EXPECT_EQ(diagnostics::recentLogs(log, 24), failure + u"Permission denied"_s);
 }
 
-TEST(RecentLogs, giveWhatTheToolPrints)
+TEST(Diagnostics, recentLogsGiveWhatTheToolPrints)
 {
     const TempHome temp;
     CommandLog log(temp.script(u"log"_s, "echo entry; echo wrong >&2"));
     EXPECT_EQ(diagnostics::recentLogs(log, 24), u"entry\n"_s);
 }
 
-TEST(RecentLogs, giveTheLaunchFailureOfAToolThatIsMissing)
+TEST(Diagnostics, recentLogsGiveTheLaunchFailureOfAToolThatIsMissing)
 {
     const TempHome temp;
     CommandLog log(temp.at(u"log"_s));
     EXPECT_EQ(diagnostics::recentLogs(log, 24), failure + errors::fromErrno(ENOENT).description);
 }
 
-TEST(RecentLogs, giveNothingForOutputThatIsNoText)
+TEST(Diagnostics, recentLogsGiveNothingForOutputThatIsNoText)
 {
     const TempHome temp;
     CommandLog log(temp.script(u"log"_s, "printf 'entry\\377\\n'"));
     EXPECT_EQ(diagnostics::recentLogs(log, 24), QString());
 }
 
-TEST(CopyDiagnosticLogs, putsTheLastDayOnTheClipboard)
+TEST(Diagnostics, copyingPutsTheLastDayOnTheClipboard)
 {
     FakeSystemLog log;
     FakeWorkspace workspace;
@@ -78,7 +78,7 @@ TEST(CopyDiagnosticLogs, putsTheLastDayOnTheClipboard)
     EXPECT_EQ(log.askedHours, 24);
 }
 
-TEST(CopyDiagnosticLogs, saysThatThereAreNoEntriesInTheLastDay)
+TEST(Diagnostics, copyingSaysThatThereAreNoEntriesInTheLastDay)
 {
     FakeSystemLog log;
     FakeWorkspace workspace;
@@ -86,7 +86,7 @@ TEST(CopyDiagnosticLogs, saysThatThereAreNoEntriesInTheLastDay)
     EXPECT_EQ(workspace.clipboard, u"(no entries in the last 24h)"_s);
 }
 
-TEST(CopyDiagnosticLogs, saysThatThereAreNoEntriesWhenTheToolPrintsNone)
+TEST(Diagnostics, copyingSaysThatThereAreNoEntriesWhenTheToolPrintsNone)
 {
     const TempHome temp;
     CommandLog log(temp.script(u"log"_s, "exit 0"));
@@ -95,7 +95,7 @@ TEST(CopyDiagnosticLogs, saysThatThereAreNoEntriesWhenTheToolPrintsNone)
     EXPECT_EQ(workspace.clipboard, u"(no entries in the last 24h)"_s);
 }
 
-TEST(CopyDiagnosticLogs, asksTheToolFor24HoursAsOneArgument)
+TEST(Diagnostics, copyingAsksTheToolFor24HoursAsOneArgument)
 {
     const TempHome temp;
     CommandLog log(temp.script(u"log"_s, "for argument; do echo \"[$argument]\"; done"));
@@ -104,7 +104,7 @@ TEST(CopyDiagnosticLogs, asksTheToolFor24HoursAsOneArgument)
     EXPECT_TRUE(workspace.clipboard.contains(u"[--last]\n[24h]\n"_s)) << workspace.clipboard.toStdString();
 }
 
-TEST(CopyDiagnosticLogs, putsTheLaunchFailureOnTheClipboardWhenTheToolIsMissing)
+TEST(Diagnostics, copyingPutsTheLaunchFailureOnTheClipboardWhenTheToolIsMissing)
 {
     const TempHome temp;
     CommandLog log(temp.at(u"log"_s));

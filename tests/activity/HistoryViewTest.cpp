@@ -5,6 +5,7 @@
 #include "activity/HistoryService.h"
 #include "base/Files.h"
 #include "base/Paths.h"
+#include "support/LocaleGuard.h"
 #include "support/Rows.h"
 #include "support/TestPlatform.h"
 
@@ -12,8 +13,6 @@
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
-#include <unicode/locid.h>
-#include <unicode/timezone.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -23,30 +22,6 @@ namespace {
 
 constexpr int allChip = 0;
 constexpr int undoChip = 6;
-
-/// The locale and time zone of a reader in Berlin for as long as it lives.
-class BerlinGuard
-{
-public:
-    BerlinGuard()
-    {
-        UErrorCode status = U_ZERO_ERROR;
-        icu::Locale::setDefault(icu::Locale("de_DE"), status);
-        icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone("Europe/Berlin"));
-    }
-    ~BerlinGuard()
-    {
-        UErrorCode status = U_ZERO_ERROR;
-        icu::Locale::setDefault(locale_, status);
-        icu::TimeZone::adoptDefault(zone_.release());
-    }
-    BerlinGuard(const BerlinGuard &) = delete;
-    BerlinGuard &operator=(const BerlinGuard &) = delete;
-
-private:
-    icu::Locale locale_ = icu::Locale::getDefault();
-    std::unique_ptr<icu::TimeZone> zone_{icu::TimeZone::createDefault()};
-};
 
 class HistoryViewTest : public ::testing::Test
 {
@@ -61,7 +36,7 @@ protected:
     QString textOf(int row, const QByteArray &role) const { return value(row, role).toString(); }
     QString titles() const { return columnTexts(view->rows(), "entryTitle").join(u' '); }
 
-    const BerlinGuard berlin;
+    const LocaleGuard berlin{"de_DE", "Europe/Berlin"};
     TestPlatform test;
     HistoryService history{test.platform};
     std::unique_ptr<HistoryView> view;
