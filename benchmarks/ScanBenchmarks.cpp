@@ -68,7 +68,7 @@ void probeFolders()
     const auto ours = [&] {
         ourSum = 0;
         for (size_t i = 0; i < probes; ++i)
-            ourSum += platform.disk().probeSize(paths[i % paths.size()], ProbeContext::generic);
+            ourSum += platform.sizeProbes().probeSize(paths[i % paths.size()], ProbeContext::generic);
     };
     const auto bare = [&] {
         bareSum = 0;

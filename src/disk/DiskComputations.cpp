@@ -4,6 +4,7 @@
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "disk/DiskService.h"
+#include "filesystem/SizeProbes.h"
 
 #include <algorithm>
 
@@ -42,7 +43,7 @@ std::vector<StorageCategory> DiskService::computeStorageCategories()
         for (const QString &place : row.places) {
             // Only a probe that talks nonsense leads beyond 64 bits, and nonsense counts 0.
             qint64 sum = 0;
-            if (!__builtin_add_overflow(size, probeSize(place, ProbeContext::storage), &sum))
+            if (!__builtin_add_overflow(size, probes_.probeSize(place, ProbeContext::storage), &sum))
                 size = sum;
         }
         categories.push_back({QUuid::createUuid(), row.name, size, row.color, row.icon, {}});
@@ -60,7 +61,7 @@ std::vector<LargeDirectory> DiskService::computeLargestDirectories()
             if (platform_.locations->largestDirectoryRoots.contains(path) || !files::exists(path))
                 continue;
             // Whether it is a folder is not asked: a large plain file competes with the folders.
-            const qint64 size = probeSize(path, ProbeContext::largestDirs);
+            const qint64 size = probes_.probeSize(path, ProbeContext::largestDirs);
             if (size >= smallestLargeDirectory)
                 entries.push_back({QUuid::createUuid(), name, path, size});
         }
@@ -73,7 +74,7 @@ std::vector<LargeDirectory> DiskService::drillChildren(const QString &path)
     std::vector<LargeDirectory> entries;
     for (const QString &name : plainNames(path)) {
         const QString child = paths::join(path, name);
-        const qint64 size = probeSize(child, ProbeContext::generic);
+        const qint64 size = probes_.probeSize(child, ProbeContext::generic);
         if (size >= 1)
             entries.push_back({QUuid::createUuid(), name, child, size});
     }

@@ -3,6 +3,7 @@
 #include "activity/FDAService.h"
 #include "common/CacheLifetime.h"
 #include "filesystem/FileSystemService.h"
+#include "filesystem/SizeProbes.h"
 
 #include <QPointer>
 
@@ -14,18 +15,29 @@ constexpr int analyzerDepth = 2; // the root and its folders are listed, what li
 
 const QString DiskService::analyzerContext = QStringLiteral("Disk Analyzer");
 
-DiskService::DiskService(const Platform &platform, FileSystemService &fileSystem, FDAService &access)
+DiskService::DiskService(const Platform &platform, SizeProbes &probes, FileSystem fileSystem, Access access)
     : platform_(platform)
-    , fileSystem_(fileSystem)
-    , access_(access)
+    , probes_(probes)
+    , fileSystem_(std::move(fileSystem))
+    , access_(std::move(access))
     , analyzerScanPath_(platform.home)
 {
 }
 
-DiskService &DiskService::shared(const Platform &platform, FileSystemService &fileSystem, FDAService &access)
+DiskService &DiskService::shared(const Platform &platform, SizeProbes &probes, const FileSystem &fileSystem,
+                                 const Access &access)
 {
-    static DiskService &instance = *new DiskService(platform, fileSystem, access);
+    static DiskService &instance = *new DiskService(platform, probes, fileSystem, access);
     return instance;
+}
+
+DiskUsage DiskService::getDiskUsage() const
+{
+    const auto volume = platform_.systemInfo.rootVolume();
+    if (!volume)
+        return {0, 0, 0, QStringLiteral("Unknown")};
+    return {volume->total, volume->total - volume->available, volume->available,
+            volume->name.value_or(QStringLiteral("Macintosh HD"))};
 }
 
 double DiskService::cacheLifetime() const
@@ -117,7 +129,7 @@ void DiskService::runLargestDirs()
 
 void DiskService::cancelStorageScan()
 {
-    cancelProbes(ProbeContext::storage);
+    probes_.cancelProbes(ProbeContext::storage);
     postToMain([](DiskService &self) {
         self.isScanningStorage_ = false;
         emit self.isScanningStorageChanged();
@@ -128,7 +140,7 @@ void DiskService::cancelStorageScan()
 
 void DiskService::cancelLargestDirsScan()
 {
-    cancelProbes(ProbeContext::largestDirs);
+    probes_.cancelProbes(ProbeContext::largestDirs);
     postToMain([](DiskService &self) {
         self.isScanningLargestDirs_ = false;
         emit self.isScanningLargestDirsChanged();
@@ -149,10 +161,11 @@ void DiskService::scanAnalyzer(const QString &path, bool force)
         return;
     if (isScanningAnalyzer_)
         return;
-    if (access_.hasFullDiskAccess())
-        access_.clearDenied(analyzerContext);
+    FDAService &access = access_();
+    if (access.hasFullDiskAccess())
+        access.clearDenied(analyzerContext);
     else
-        access_.markDenied(analyzerContext);
+        access.markDenied(analyzerContext);
     const int generation = ++analyzerScanGeneration_;
     postToMain([path](DiskService &self) {
         self.isScanningAnalyzer_ = true;
@@ -162,9 +175,9 @@ void DiskService::scanAnalyzer(const QString &path, bool force)
         emit self.analyzerRootChanged();
         emit self.analyzerScanPathChanged();
     });
-    runJob([path, generation](DiskService &self) {
-        self.fileSystem_.scanCancelled.store(false, std::memory_order_relaxed);
-        auto tree = std::make_shared<const FileEntry>(self.fileSystem_.scanTree(path, 0, analyzerDepth));
+    runJob([path, generation, &fileSystem = fileSystem_()](DiskService &self) {
+        fileSystem.scanCancelled.store(false, std::memory_order_relaxed);
+        auto tree = std::make_shared<const FileEntry>(fileSystem.scanTree(path, 0, analyzerDepth));
         self.postToMain([tree = std::move(tree), path, generation](DiskService &service) {
             service.publishAnalyzer(tree, path, generation);
         });
@@ -186,8 +199,8 @@ void DiskService::publishAnalyzer(std::shared_ptr<const FileEntry> tree, const Q
 
 void DiskService::cancelAnalyzerScan()
 {
-    fileSystem_.scanCancelled.store(true, std::memory_order_relaxed);
-    cancelProbes(ProbeContext::generic);
+    fileSystem_().scanCancelled.store(true, std::memory_order_relaxed);
+    probes_.cancelProbes(ProbeContext::generic);
     postToMain([](DiskService &self) {
         self.isScanningAnalyzer_ = false;
         emit self.isScanningAnalyzerChanged();

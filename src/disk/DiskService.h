@@ -1,25 +1,23 @@
 #pragma once
 
-#include "base/ChildProcess.h"
 #include "disk/DiskUsage.h"
 #include "disk/LargeDirectory.h"
-#include "disk/ProbeContext.h"
 #include "disk/StorageCategory.h"
 #include "filesystem/FileEntry.h"
 #include "platform/Platform.h"
 
 #include <QObject>
 
-#include <map>
+#include <functional>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <vector>
 
 class FDAService;
 class FileSystemService;
+class SizeProbes;
 
-/// Where the disk's bytes are: sizes through `du`, the volume's usage, and the three cached scans built on them.
+/// Where the disk's bytes are: the volume's usage, and the three cached scans that measure through `du`.
 /// Published fields change on the main thread only, set first, then notified. Scans return at once; their flag is
 /// set in a later turn of the main loop, and a cancel never waits.
 class DiskService final : public QObject
@@ -27,24 +25,15 @@ class DiskService final : public QObject
     Q_OBJECT
 
 public:
-    using Processes = std::vector<std::shared_ptr<ChildProcess>>;
+    // Handed over as accessors: this is the first service to come alive at start, and these wait for a scan.
+    using FileSystem = std::function<FileSystemService &()>;
+    using Access = std::function<FDAService &()>;
 
-    DiskService(const Platform &platform, FileSystemService &fileSystem, FDAService &access);
+    DiskService(const Platform &platform, SizeProbes &probes, FileSystem fileSystem, Access access);
 
     /// The process's one instance, made at the first call with its arguments and never destroyed.
-    static DiskService &shared(const Platform &platform, FileSystemService &fileSystem, FDAService &access);
-
-    // Size probes and the volume.
-
-    /// The allocated bytes of everything at and below `path`, by one run of `du -sk`. 0 on any failure, so a
-    /// failed probe looks like an empty folder. Blocks until the run has ended; any thread but the main one.
-    qint64 probeSize(const QString &path, ProbeContext context);
-
-    /// Ends the live probes of one context, or of all. Loops that probe path by path go on with the next one.
-    void cancelProbes(std::optional<ProbeContext> context = std::nullopt);
-
-    /// The probes started and not yet finished. Any thread.
-    std::map<ProbeContext, Processes> liveSizeProbes() const;
+    static DiskService &shared(const Platform &platform, SizeProbes &probes, const FileSystem &fileSystem,
+                               const Access &access);
 
     /// Never fails visibly: zeros and the name "Unknown" when the volume can't be asked. Any thread.
     DiskUsage getDiskUsage() const;
@@ -116,11 +105,9 @@ private:
     void runJob(std::function<void(DiskService &)> job);
 
     const Platform &platform_;
-    FileSystemService &fileSystem_;
-    FDAService &access_;
-
-    mutable std::mutex probeLock_; // guards liveSizeProbes_ and nothing else
-    std::map<ProbeContext, Processes> liveSizeProbes_;
+    SizeProbes &probes_;
+    const FileSystem fileSystem_;
+    const Access access_;
 
     std::vector<StorageCategory> cachedCategories_;
     std::vector<LargeDirectory> cachedLargeDirs_;

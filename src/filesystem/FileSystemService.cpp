@@ -3,6 +3,7 @@
 #include "base/Files.h"
 #include "base/Ids.h"
 #include "base/Paths.h"
+#include "filesystem/SizeProbes.h"
 
 #include <algorithm>
 #include <limits>
@@ -103,15 +104,15 @@ FileItem itemFrom(const QString &path, const QString &name, const files::Attribu
 
 } // namespace
 
-FileSystemService::FileSystemService(const Platform &platform, SizeProbe probeSize)
+FileSystemService::FileSystemService(const Platform &platform, SizeProbes &probes)
     : platform_(platform)
-    , probeSize_(std::move(probeSize))
+    , probes_(probes)
 {
 }
 
-FileSystemService &FileSystemService::shared(const Platform &platform, const SizeProbe &probeSize)
+FileSystemService &FileSystemService::shared(const Platform &platform, SizeProbes &probes)
 {
-    static FileSystemService &instance = *new FileSystemService(platform, probeSize);
+    static FileSystemService &instance = *new FileSystemService(platform, probes);
     return instance;
 }
 
@@ -144,7 +145,7 @@ FileEntry FileSystemService::scanTree(const QString &path, int depth, int maxDep
     if (scanCancelled.load(std::memory_order_relaxed))
         return folderEntry(path, 0);
     if (depth >= maxDepth)
-        return folderEntry(path, probeSize_(path));
+        return folderEntry(path, probes_.probeSize(path, ProbeContext::generic));
 
     files::DirectoryReader reader(path);
     if (!reader.isOpen())

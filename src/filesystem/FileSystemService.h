@@ -5,24 +5,22 @@
 #include "platform/Platform.h"
 
 #include <atomic>
-#include <functional>
 #include <optional>
 #include <vector>
+
+class SizeProbes;
 
 /// Reads folders and measures trees, and does the small plain file operations. Every operation blocks for as long
 /// as the disk does and is safe from any thread, but for those that hand a path to the desktop.
 class FileSystemService
 {
 public:
-    /// Measures everything below a path, in bytes, 0 on any failure; blocks.
-    using SizeProbe = std::function<qint64(const QString &path)>;
-
-    FileSystemService(const Platform &platform, SizeProbe probeSize);
+    FileSystemService(const Platform &platform, SizeProbes &probes);
     FileSystemService(const FileSystemService &) = delete;
     FileSystemService &operator=(const FileSystemService &) = delete;
 
     /// The process's one instance, made at the first call with its arguments and never destroyed.
-    static FileSystemService &shared(const Platform &platform, const SizeProbe &probeSize);
+    static FileSystemService &shared(const Platform &platform, SizeProbes &probes);
 
     /// Cancels the tree scan that is under way: every folder entered from then on measures 0. Stays set until a
     /// scan's starter clears it.
@@ -35,7 +33,7 @@ public:
     std::optional<FileItem> makeFileItem(const QString &path) const;
 
     /// Measures the folder at `path`, itself at `depth`, listing folders above `maxDepth` and handing those at it
-    /// to the size probe. Children come largest first, at most 30 a folder; equal ones in listing order. Hidden
+    /// to a size probe. Children come largest first, at most 30 a folder; equal ones in listing order. Hidden
     /// entries are left out, except in what the probe measures. Unreadable folders have size 0 and no children.
     FileEntry scanTree(const QString &path, int depth, int maxDepth) const;
 
@@ -69,5 +67,5 @@ public:
 
 private:
     const Platform &platform_;
-    SizeProbe probeSize_;
+    SizeProbes &probes_;
 };

@@ -41,18 +41,21 @@ Composition::Composition(const Platform &platform, Appearance &appearance, feedb
 
 Composition::~Composition() = default;
 
+SizeProbes &Composition::sizeProbes()
+{
+    return SizeProbes::shared(platform_);
+}
+
 FileSystemService &Composition::fileSystem()
 {
-    // The file system service need not know the disk service, which itself builds on it.
-    const auto probeSize = [this](const QString &path) {
-        return disk().probeSize(path, ProbeContext::generic);
-    };
-    return FileSystemService::shared(platform_, probeSize);
+    return FileSystemService::shared(platform_, sizeProbes());
 }
 
 DiskService &Composition::disk()
 {
-    return DiskService::shared(platform_, fileSystem(), access());
+    return DiskService::shared(
+        platform_, sizeProbes(), [this]() -> FileSystemService & { return fileSystem(); },
+        [this]() -> FDAService & { return access(); });
 }
 
 DuplicateService &Composition::duplicates()

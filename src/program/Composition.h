@@ -5,6 +5,7 @@
 #include "disk/DiskService.h"
 #include "duplicates/DuplicateService.h"
 #include "filesystem/FileSystemService.h"
+#include "filesystem/SizeProbes.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
 #include "program/EditCommands.h"
@@ -41,6 +42,7 @@ public:
     Composition &operator=(const Composition &) = delete;
 
     // Services, each made at its first use.
+    SizeProbes &sizeProbes();
     FileSystemService &fileSystem();
     DiskService &disk();
     DuplicateService &duplicates();

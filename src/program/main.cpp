@@ -70,12 +70,13 @@ int main(int argc, char *argv[])
                                  std::bind_front(&FallbackPanel::chooseSavePath, &panel)});
     Appearance appearance;
     const PortalAppearance portal(bus, appearance);
-    Composition composition(linuxPlatform.platform(), appearance, program::feedbackProgram(),
-                            [&composition] {
-                                composition.disk().cancelProbes(); // or they would measure on for nobody
-                                exitNow();
-                            },
-                            {QGuiApplication::applicationFilePath(), [&instance] { instance.release(); }});
+    Composition composition(
+        linuxPlatform.platform(), appearance, program::feedbackProgram(),
+        [&composition] {
+            composition.sizeProbes().cancelProbes(); // or they would measure on for nobody
+            exitNow();
+        },
+        {QGuiApplication::applicationFilePath(), [&instance] { instance.release(); }});
     const QuitSignals quitSignals([&composition] { composition.quit().handleQuitEvent(); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit,
                      [&composition] { composition.quit().handleQuitEvent(); }); // the session's end

@@ -1,4 +1,5 @@
 #include "disk/DiskServices.h"
+#include "filesystem/InjectedFaults.h"
 
 #include <cmath>
 
@@ -39,6 +40,23 @@ struct AnalyzerScan : testing::Test
 
 } // namespace
 
+TEST_F(AnalyzerScan, asksForTheServicesBesideItNoEarlierThanAtAScan)
+{
+    int asked = 0;
+    DiskService first(
+        test.platform, test.probes, [&]() -> FileSystemService & { return ++asked, services.fileSystem; },
+        [&]() -> FDAService & { return ++asked, test.access; });
+    first.getDiskUsage();
+    first.scanStorage(true);
+    first.scanLargestDirs(true);
+    test.settle();
+    EXPECT_EQ(asked, 0);
+    first.scanAnalyzer(root, true);
+    EXPECT_EQ(asked, 2);
+    test.settle();
+    EXPECT_TRUE(first.analyzerRoot());
+}
+
 TEST_F(AnalyzerScan, listsTheRootAndItsFoldersAndMeasuresWhatLiesBelow)
 {
     test.temp.file("root/file", QByteArray(3, 'x'));
@@ -53,7 +71,7 @@ TEST_F(AnalyzerScan, listsTheRootAndItsFoldersAndMeasuresWhatLiesBelow)
     const FileEntry *deep = childNamed(*sub, "deep");
     ASSERT_TRUE(deep);
     EXPECT_FALSE(deep->children);
-    EXPECT_EQ(deep->size, disk.probeSize(test.temp.at("root/sub/deep"), ProbeContext::generic));
+    EXPECT_EQ(deep->size, services.probes.probeSize(test.temp.at("root/sub/deep"), ProbeContext::generic));
     EXPECT_GE(deep->size, 160'000);
     EXPECT_EQ(tree.size, 3 + 5 + deep->size);
 }
@@ -147,28 +165,25 @@ TEST_F(AnalyzerScan, breakdownsDateDoesNotMakeItFresh)
 TEST_F(AnalyzerScan, cancelledScanLeavesAPartialTreeThatTheNextUnforcedCallReuses)
 {
     test.temp.file("root/file", QByteArray(3, 'x'));
-    test.temp.folder("root/sub/deep");
-    // The cancel comes from within the first probe, which is the last one that runs.
-    DiskService *service = nullptr;
-    FileSystemService cancelling(test.platform, [&](const QString &) {
-        service->cancelAnalyzerScan();
-        return qint64(1000);
-    });
-    DiskService own(test.platform, cancelling, test.access);
-    service = &own;
-    test.temp.folder("root/sub/deeper");
-    own.scanAnalyzer(root, false);
-    test.settle();
-
-    EXPECT_TRUE(cancelling.scanCancelled);
-    EXPECT_FALSE(own.isScanningAnalyzer());
-    ASSERT_TRUE(own.analyzerRoot());
-    EXPECT_EQ(own.analyzerRoot()->size, 3 + 1000); // one of the two deep folders, and the file
-    EXPECT_EQ(own.lastAnalyzerScan(), test.clock.now());
-    const auto partial = own.analyzerRoot();
-    own.scanAnalyzer(root, false);
-    test.settle();
-    EXPECT_EQ(own.analyzerRoot(), partial);
+    test.temp.file("root/sub/file", QByteArray(1000, 'x'));
+    test.temp.file("root/sub/deep/file", QByteArray(5000, 'x'));
+    {
+        // The cancel comes while "sub" is read: what lies directly in it still counts, "deep" no more.
+        const InjectedFaults watch([this](files::Operation operation, const QString &path) {
+            if (operation == files::Operation::list && path.endsWith(u"/sub"))
+                disk.cancelAnalyzerScan();
+            return 0;
+        });
+        scan(root, false);
+    }
+    EXPECT_TRUE(services.fileSystem.scanCancelled);
+    EXPECT_FALSE(disk.isScanningAnalyzer());
+    ASSERT_TRUE(disk.analyzerRoot());
+    EXPECT_EQ(disk.analyzerRoot()->size, 3 + 1000);
+    EXPECT_EQ(disk.lastAnalyzerScan(), test.clock.now());
+    const auto partial = disk.analyzerRoot();
+    scan(root, false);
+    EXPECT_EQ(disk.analyzerRoot(), partial);
 }
 
 TEST_F(AnalyzerScan, cancelClearsTheFlagInALaterTurn)

@@ -1,18 +1,18 @@
 #pragma once
 
+#include "base/Files.h"
 #include "base/Paths.h"
 #include "disk/DiskAnalyzerView.h"
 #include "filesystem/FileSystemService.h"
 #include "support/Rows.h"
 #include "support/TestPlatform.h"
 
-#include <functional>
 #include <memory>
 
 #include <gtest/gtest.h>
 
 /// The screen over a small home: "Documents" with the folder "Deep", which lies at the depth limit and is measured
-/// only, and "notes.txt". What a probe measures is set by the test.
+/// only, and "notes.txt". Sizes are in KiB, which is what `du` tells.
 class DiskAnalyzerHome : public ::testing::Test
 {
 protected:
@@ -21,12 +21,27 @@ protected:
         inHome("Documents/report.pdf", 600);
         inHome("Documents/Deep/inside.txt", 250);
         inHome("notes.txt", 200);
-        probe = [](const QString &path) { return qint64(path.endsWith(QStringLiteral("/Deep")) ? 400 : 0); };
+        useDuThatSays("*/Deep", "400");
     }
 
     void inHome(const QString &relative, qint64 size) const
     {
-        test.temp.sparseFile(QStringLiteral("home/") + relative, size);
+        test.temp.sparseFile(QStringLiteral("home/") + relative, size * 1024);
+    }
+    /// Of the paths that match a pattern of the shell's; of all others nothing. Writes down what it is asked for.
+    void useDuThatSays(const QByteArray &pattern, const QByteArray &kibibytes)
+    {
+        test.useDu("printf '%s\\0' \"$2\" >>'" + paths::toBytes(test.temp.at("probed")) + "'\ncase \"$2\" in "
+                   + pattern + ") printf '" + kibibytes + "\\t%s\\n' \"$2\";; esac\n");
+    }
+    /// What was measured, in that order.
+    QStringList probed() const
+    {
+        QStringList measured;
+        for (const QByteArray &path :
+             files::readPrefix(test.temp.at("probed"), 1 << 20).value_or(QByteArray()).split('\0'))
+            measured << paths::fromBytes(path);
+        return measured.first(measured.size() - 1);
     }
     void inHome(const char *relative, qint64 size) const { inHome(QString::fromUtf8(relative), size); }
     QString path(const char *relative) const { return paths::join(test.home, QString::fromUtf8(relative)); }
@@ -53,8 +68,8 @@ protected:
     QString crumbs() const { return columnTexts(view->breadcrumbs(), "entryName").join(u'/'); }
 
     TestPlatform test;
-    std::function<qint64(const QString &)> probe;
-    FileSystemService fileSystem{test.platform, [this](const QString &path) { return probe(path); }};
-    DiskService disk{test.platform, fileSystem, test.access};
+    FileSystemService fileSystem{test.platform, test.probes};
+    DiskService disk{test.platform, test.probes, [this]() -> FileSystemService & { return fileSystem; },
+                     [this]() -> FDAService & { return test.access; }};
     std::unique_ptr<DiskAnalyzerView> view;
 };

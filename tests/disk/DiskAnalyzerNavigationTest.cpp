@@ -20,7 +20,7 @@ TEST_F(DiskAnalyzerNavigationTest, opensAListedFolderByItsRowAtOnce)
     EXPECT_EQ(test.workQueue.waiting(), 0U);
     EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
     EXPECT_EQ(view->location(), path("Documents"));
-    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 1000 B"));
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 1000 KB"));
     EXPECT_EQ(view->contentsHeader(), QStringLiteral("CONTENTS (2 items)"));
     EXPECT_TRUE(view->canGoBack());
     view->goHome();
@@ -101,12 +101,9 @@ TEST_F(DiskAnalyzerNavigationTest, listsAFolderAtTheDepthLimitOneLevelOnAClick)
 {
     test.temp.sparseFile(QStringLiteral("home/Documents/Deep/below/file"), 1);
     makeScanned();
-    QStringList probed;
-    probe = [&probed](const QString &path) {
-        probed << path;
-        return qint64(70);
-    };
     open("Documents");
+    useDuThatSays("*/below", "70");
+    std::filesystem::remove(paths::toBytes(test.temp.at("probed")).toStdString());
     open("Deep");
     EXPECT_TRUE(view->isScanningDeeper());
     EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
@@ -117,8 +114,8 @@ TEST_F(DiskAnalyzerNavigationTest, listsAFolderAtTheDepthLimitOneLevelOnAClick)
     EXPECT_FALSE(view->isScanningDeeper());
     EXPECT_EQ(crumbs(), QStringLiteral("Documents/Deep"));
     EXPECT_EQ(names(), QStringLiteral("inside.txt,below"));
-    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 320 B")); // measured anew
-    EXPECT_EQ(probed, QStringList{path("Documents/Deep/below")});
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 320 KB")); // measured anew
+    EXPECT_EQ(probed(), QStringList{path("Documents/Deep/below")});
 }
 
 TEST_F(DiskAnalyzerNavigationTest, undoesACancelByAClickIntoTheDepth)
@@ -252,15 +249,11 @@ TEST_F(DiskAnalyzerNavigationTest, showsBytesThatAreNoTextAndUsesThemInPaths)
     test.temp.sparseFile(
         paths::join(QStringLiteral("hostile"), name + QStringLiteral("/") + name + QStringLiteral("/f")), 9);
     const QString root = test.temp.at(QStringLiteral("hostile"));
-    QStringList probed;
-    probe = [&probed](const QString &path) {
-        probed << path;
-        return qint64(9);
-    };
+    useDuThatSays("*", "9");
     disk.setAnalyzerScanPath(root);
     makeScanned();
     const QString folder = paths::join(root, name);
-    EXPECT_EQ(probed, QStringList{paths::join(folder, name)});
+    EXPECT_EQ(probed(), QStringList{paths::join(folder, name)});
     EXPECT_EQ(names(), QStringLiteral("caf\uFFFD"));
     view->revealRow(0);
     EXPECT_EQ(test.workspace.calls, QStringList{QStringLiteral("reveal ") + folder});

@@ -2,6 +2,7 @@
 
 #include "common/SettingsKeys.h"
 #include "disk/DiskAnalyzerHome.h"
+#include "filesystem/InjectedFaults.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -60,7 +61,7 @@ TEST_F(DiskAnalyzerViewTest, scansItsFolderWhenItAppears)
     makeScanned();
     EXPECT_TRUE(view->hasEntry());
     EXPECT_EQ(view->location(), test.home);
-    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 1.2 KB"));
+    EXPECT_EQ(view->mapSummary(), QStringLiteral("2 items · 1.2 MB"));
     EXPECT_EQ(view->contentsHeader(), QStringLiteral("CONTENTS (2 items)"));
     EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
 }
@@ -203,12 +204,15 @@ TEST_F(DiskAnalyzerViewTest, stopsTheScanInALaterTurn)
 TEST_F(DiskAnalyzerViewTest, reusesThePartialTreeOfACancelledScan)
 {
     make();
-    probe = [this](const QString &) {
-        view->cancelScan(); // as a click in the middle of the walk
-        return qint64(0);
-    };
-    view->appear();
-    test.settle();
+    {
+        const InjectedFaults watch([this](files::Operation operation, const QString &at) {
+            if (operation == files::Operation::list && at == path("Documents"))
+                view->cancelScan(); // as a click in the middle of the walk
+            return 0;
+        });
+        view->appear();
+        test.settle();
+    }
     ASSERT_TRUE(view->hasEntry());
     EXPECT_TRUE(view->isPillShown());
     const auto partial = disk.analyzerRoot();
@@ -291,7 +295,7 @@ TEST_F(DiskAnalyzerViewTest, listsTheContentsWithTheirShares)
     const QAbstractItemModelTester tester(view->contents(),
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(columnTexts(view->contents(), "symbol").join(u','), QStringLiteral("folder.fill,doc.fill"));
-    EXPECT_EQ(columnTexts(view->contents(), "sizeText").join(u','), QStringLiteral("1000 B,200 B"));
+    EXPECT_EQ(columnTexts(view->contents(), "sizeText").join(u','), QStringLiteral("1000 KB,200 KB"));
     EXPECT_EQ(columnTexts(view->contents(), "shareText").join(u','), QStringLiteral("83.3%,16.7%"));
     EXPECT_EQ(columnTexts(view->contents(), "isFolder").join(u','), QStringLiteral("true,false"));
     EXPECT_DOUBLE_EQ(rowValue(view->contents(), 0, "share").toDouble(), 1000.0 / 1200);

@@ -10,13 +10,19 @@
 struct DiskServices
 {
     TestPlatform test;
-    FileSystemService fileSystem{
-        test.platform, [this](const QString &path) { return disk.probeSize(path, ProbeContext::generic); }};
-    DiskService disk{test.platform, fileSystem, test.access};
+    SizeProbes &probes = test.probes;
+    FileSystemService fileSystem{test.platform, probes};
+    DiskService disk = over(test.platform);
 
-    /// Puts a shell script in the place of `du`; its second argument is the path. One that is to be ended
-    /// must not wait for a child of its own, which would hold the output open.
-    void useDu(const QByteArray &lines) { test.platform.programs.du = test.temp.script("du", lines); }
+    /// The service of the disk over another platform.
+    DiskService over(const Platform &platform)
+    {
+        return DiskService(
+            platform, probes, [this]() -> FileSystemService & { return fileSystem; },
+            [this]() -> FDAService & { return test.access; });
+    }
+
+    void useDu(const QByteArray &lines) { test.useDu(lines); }
 
     /// A `du` that tells what the file itself says, in KiB, or the file "size" of a folder.
     /// Nothing there: no output.

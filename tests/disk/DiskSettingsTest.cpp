@@ -1,7 +1,5 @@
 #include "common/SettingsKeys.h"
-#include "disk/DiskService.h"
-#include "filesystem/FileSystemService.h"
-#include "support/TestPlatform.h"
+#include "disk/DiskServices.h"
 
 #include <gtest/gtest.h>
 
@@ -45,12 +43,11 @@ TEST(Settings, readAValueOfAnotherTypeAsZero)
 
 TEST(Settings, useFiveMinutesForALifetimeOfAnotherType)
 {
-    TestPlatform test;
-    test.defaults.registerDefaults(settings::registeredDefaults());
-    FileSystemService fileSystem(test.platform, [](const QString &) { return qint64(0); });
-    const DiskService disk(test.platform, fileSystem, test.access);
-    test.defaults.set(settings::diskCacheLifetimeMinutes, 60);
-    EXPECT_EQ(disk.cacheLifetime(), 3600);
-    test.defaults.set(settings::diskCacheLifetimeMinutes, u"60"_s);
-    EXPECT_EQ(disk.cacheLifetime(), 300);
+    DiskServices services;
+    Defaults &defaults = services.test.defaults;
+    defaults.registerDefaults(settings::registeredDefaults());
+    defaults.set(settings::diskCacheLifetimeMinutes, 60);
+    EXPECT_EQ(services.disk.cacheLifetime(), 3600);
+    defaults.set(settings::diskCacheLifetimeMinutes, u"60"_s);
+    EXPECT_EQ(services.disk.cacheLifetime(), 300);
 }

@@ -62,7 +62,7 @@ TEST_F(LargestDirectories, realFoldersAndFilesCompeteByTheirAllocatedSize)
     const auto &entries = disk.cachedLargeDirs();
     ASSERT_EQ(names(entries), QStringList({"Project", "disk image"}));
     EXPECT_EQ(entries[0].path, services.inHome("Documents/Project"));
-    EXPECT_EQ(entries[0].size, disk.probeSize(entries[0].path, ProbeContext::generic));
+    EXPECT_EQ(entries[0].size, services.probes.probeSize(entries[0].path, ProbeContext::generic));
     EXPECT_GE(entries[1].size, 11'000'000);
     EXPECT_NE(entries[0].id, entries[1].id);
 }
@@ -151,7 +151,7 @@ TEST_F(LargestDirectories, aRootInsideAnotherIsMeasuredThroughItsOwnChildrenOnly
                             own.recycler, own.systemLog, own.systemInfo};
     fileOf("home/Documents/Pictures/size", 50'000);
     fileOf("home/Documents/Pictures/photo", 20'000);
-    DiskService other(platform, services.fileSystem, services.test.access);
+    DiskService other = services.over(platform);
     EXPECT_EQ(names(other.computeLargestDirectories()), QStringList({"size", "photo"}));
 }
 

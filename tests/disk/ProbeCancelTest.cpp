@@ -67,8 +67,8 @@ private:
 class RunningProbe
 {
 public:
-    RunningProbe(DiskService &disk, const QString &path, ProbeContext context)
-        : thread_([this, &disk, path, context] { size_ = disk.probeSize(path, context); })
+    RunningProbe(SizeProbes &probes, const QString &path, ProbeContext context)
+        : thread_([this, &probes, path, context] { size_ = probes.probeSize(path, context); })
     {
     }
     ~RunningProbe()
@@ -96,9 +96,10 @@ const QByteArray hang = "read -r line <\"$never\"\n";
 struct ProbeCancel : testing::Test
 {
     DiskServices services;
+    SizeProbes &probes = services.probes;
     DiskService &disk = services.disk;
 
-    size_t live(ProbeContext context) const { return services.disk.liveSizeProbes()[context].size(); }
+    size_t live(ProbeContext context) const { return services.probes.liveSizeProbes()[context].size(); }
 };
 
 using Pair = std::pair<qsizetype, qsizetype>;
@@ -108,11 +109,11 @@ using Pair = std::pair<qsizetype, qsizetype>;
 TEST_F(ProbeCancel, endsAProbeThatHangsAndGivesZero)
 {
     const ObservedDu du(services, hang);
-    RunningProbe probe(disk, "/a", ProbeContext::generic);
+    RunningProbe probe(probes, "/a", ProbeContext::generic);
     EXPECT_EQ(du.awaitBegin(), "/a");
     ASSERT_EQ(live(ProbeContext::generic), 1U);
-    EXPECT_TRUE(disk.liveSizeProbes()[ProbeContext::generic].front()->isRunning());
-    disk.cancelProbes(ProbeContext::generic);
+    EXPECT_TRUE(probes.liveSizeProbes()[ProbeContext::generic].front()->isRunning());
+    probes.cancelProbes(ProbeContext::generic);
     EXPECT_EQ(live(ProbeContext::generic), 0U);
     EXPECT_EQ(probe.size(), 0);
     EXPECT_EQ(du.runsAndLeftovers(), Pair(1, 0));
@@ -121,9 +122,9 @@ TEST_F(ProbeCancel, endsAProbeThatHangsAndGivesZero)
 TEST_F(ProbeCancel, endsAProbeWhoseOutputFillsThePipe)
 {
     const ObservedDu du(services, "while :; do echo 0123456789012345678901234567890123456789; done\n");
-    RunningProbe probe(disk, "/a", ProbeContext::generic);
+    RunningProbe probe(probes, "/a", ProbeContext::generic);
     du.awaitBegin();
-    disk.cancelProbes(ProbeContext::generic);
+    probes.cancelProbes(ProbeContext::generic);
     EXPECT_EQ(probe.size(), 0);
     EXPECT_EQ(du.runsAndLeftovers(), Pair(1, 0));
 }
@@ -131,24 +132,24 @@ TEST_F(ProbeCancel, endsAProbeWhoseOutputFillsThePipe)
 TEST_F(ProbeCancel, contextsAreCancelledApart)
 {
     const ObservedDu du(services, hang);
-    RunningProbe storage(disk, "/storage", ProbeContext::storage);
+    RunningProbe storage(probes, "/storage", ProbeContext::storage);
     du.awaitBegin();
-    RunningProbe largest(disk, "/largest", ProbeContext::largestDirs);
+    RunningProbe largest(probes, "/largest", ProbeContext::largestDirs);
     du.awaitBegin();
-    RunningProbe generic(disk, "/generic", ProbeContext::generic);
+    RunningProbe generic(probes, "/generic", ProbeContext::generic);
     du.awaitBegin();
 
-    disk.cancelProbes(ProbeContext::storage);
+    probes.cancelProbes(ProbeContext::storage);
     EXPECT_EQ(storage.size(), 0);
     ASSERT_EQ(live(ProbeContext::largestDirs), 1U);
     ASSERT_EQ(live(ProbeContext::generic), 1U);
-    EXPECT_TRUE(disk.liveSizeProbes()[ProbeContext::largestDirs].front()->isRunning());
-    EXPECT_TRUE(disk.liveSizeProbes()[ProbeContext::generic].front()->isRunning());
+    EXPECT_TRUE(probes.liveSizeProbes()[ProbeContext::largestDirs].front()->isRunning());
+    EXPECT_TRUE(probes.liveSizeProbes()[ProbeContext::generic].front()->isRunning());
 
-    disk.cancelProbes(ProbeContext::largestDirs);
+    probes.cancelProbes(ProbeContext::largestDirs);
     EXPECT_EQ(largest.size(), 0);
     EXPECT_EQ(live(ProbeContext::generic), 1U);
-    disk.cancelProbes(ProbeContext::generic);
+    probes.cancelProbes(ProbeContext::generic);
     EXPECT_EQ(generic.size(), 0);
     EXPECT_EQ(du.runsAndLeftovers(), Pair(3, 0));
 }
@@ -156,30 +157,30 @@ TEST_F(ProbeCancel, contextsAreCancelledApart)
 TEST_F(ProbeCancel, withoutAContextEndsAllAndEmptiesTheRegistry)
 {
     const ObservedDu du(services, hang);
-    RunningProbe storage(disk, "/storage", ProbeContext::storage);
-    RunningProbe largest(disk, "/largest", ProbeContext::largestDirs);
-    RunningProbe generic(disk, "/generic", ProbeContext::generic);
-    RunningProbe another(disk, "/another", ProbeContext::generic);
+    RunningProbe storage(probes, "/storage", ProbeContext::storage);
+    RunningProbe largest(probes, "/largest", ProbeContext::largestDirs);
+    RunningProbe generic(probes, "/generic", ProbeContext::generic);
+    RunningProbe another(probes, "/another", ProbeContext::generic);
     for (int i = 0; i < 4; ++i)
         du.awaitBegin();
-    disk.cancelProbes();
+    probes.cancelProbes();
     for (RunningProbe *probe : {&storage, &largest, &generic, &another})
         EXPECT_EQ(probe->size(), 0);
-    EXPECT_TRUE(disk.liveSizeProbes().empty());
+    EXPECT_TRUE(probes.liveSizeProbes().empty());
     EXPECT_EQ(du.runsAndLeftovers(), Pair(4, 0));
 }
 
 TEST_F(ProbeCancel, ofTheAnalyzerEndsEveryGenericProbeWhicheverScreenStartedIt)
 {
     const ObservedDu du(services, hang);
-    RunningProbe storage(disk, "/storage", ProbeContext::storage);
-    RunningProbe generic(disk, "/generic", ProbeContext::generic);
+    RunningProbe storage(probes, "/storage", ProbeContext::storage);
+    RunningProbe generic(probes, "/generic", ProbeContext::generic);
     du.awaitBegin();
     du.awaitBegin();
     disk.cancelAnalyzerScan();
     EXPECT_EQ(generic.size(), 0);
     EXPECT_EQ(live(ProbeContext::storage), 1U);
-    disk.cancelProbes();
+    probes.cancelProbes();
     services.test.settle();
 }
 
@@ -199,7 +200,7 @@ TEST_F(ProbeCancel, ofEachDashboardScanEndsItsOwnProbeAtWorkOnly)
     EXPECT_EQ(live(ProbeContext::storage), 1U);
     EXPECT_EQ(live(ProbeContext::largestDirs), 0U);
     disk.cancelStorageScan();
-    disk.cancelProbes(); // whatever was not ended, so that a failure is one and no endless wait
+    probes.cancelProbes(); // whatever was not ended, so that a failure is one and no endless wait
     largest.join();
     breakdown.join();
     services.test.settle();
@@ -208,17 +209,17 @@ TEST_F(ProbeCancel, ofEachDashboardScanEndsItsOwnProbeAtWorkOnly)
 TEST_F(ProbeCancel, leavesTheProbesThatStartAfterItAlone)
 {
     const ObservedDu du(services, "[ \"$2\" = /first ] && " + hang + "printf '7\\t%s\\n' \"$2\"\n");
-    RunningProbe first(disk, "/first", ProbeContext::generic);
+    RunningProbe first(probes, "/first", ProbeContext::generic);
     du.awaitBegin();
-    disk.cancelProbes(ProbeContext::generic);
+    probes.cancelProbes(ProbeContext::generic);
     EXPECT_EQ(first.size(), 0);
-    EXPECT_EQ(disk.probeSize("/second", ProbeContext::generic), 7 * 1024);
+    EXPECT_EQ(probes.probeSize("/second", ProbeContext::generic), 7 * 1024);
 }
 
 TEST_F(ProbeCancel, aFinishedProbeIsCollected)
 {
     const ObservedDu du(services, "exec /usr/bin/du \"$@\"\n");
-    EXPECT_GT(disk.probeSize(services.test.temp.path(), ProbeContext::generic), 0);
+    EXPECT_GT(probes.probeSize(services.test.temp.path(), ProbeContext::generic), 0);
     EXPECT_EQ(du.runsAndLeftovers(), Pair(1, 0));
 }
 
@@ -231,7 +232,7 @@ TEST_F(ProbeCancel, ofADrillGoesOnWithTheNextChild)
     std::vector<LargeDirectory> entries;
     std::thread drill([&] { entries = disk.drillChildren(services.inHome("folder")); });
     while (!du.awaitBegin().endsWith(u"/hangs")) {}
-    disk.cancelProbes(ProbeContext::generic);
+    probes.cancelProbes(ProbeContext::generic);
     drill.join();
     EXPECT_EQ(entries.size(), 2U);
     EXPECT_EQ(du.runsAndLeftovers(), Pair(3, 0));
@@ -247,9 +248,10 @@ struct ThreadedScan : ProbeCancel
     Platform platform{test.home,       test.locations, test.defaults,  test.clock,         {},
                       KeyStyle::words, mainQueue,      workQueue,      test.notifications, test.workspace,
                       test.recycler,   test.systemLog, test.systemInfo};
-    FileSystemService fileSystem{
-        platform, [this](const QString &path) { return service.probeSize(path, ProbeContext::generic); }};
-    DiskService service{platform, fileSystem, test.access};
+    SizeProbes ownProbes{platform};
+    FileSystemService fileSystem{platform, ownProbes};
+    DiskService service{platform, ownProbes, [this]() -> FileSystemService & { return fileSystem; },
+                        [this]() -> FDAService & { return test.access; }};
     ThreadWorkQueue workQueue; // goes first, and waits for its jobs
 
     /// Turns the event loop until the service has notified of a change.

@@ -12,7 +12,7 @@ struct SizeProbe : testing::Test
     DiskServices services;
     TempHome &temp = services.test.temp;
 
-    qint64 probe(const QString &path) { return services.disk.probeSize(path, ProbeContext::generic); }
+    qint64 probe(const QString &path) { return services.probes.probeSize(path, ProbeContext::generic); }
     qint64 probeHome() { return probe(services.test.home); }
 
     /// The size that a `du` makes of which the output is `text`, an argument of printf.
@@ -155,7 +155,7 @@ TEST_F(SizeProbe, programThatIsMissingOrCannotBeStartedIsZero)
          {temp.at("missing"), temp.file("no permission", "#!/bin/sh\necho 1\n"), temp.path()}) {
         services.test.platform.programs.du = program;
         EXPECT_EQ(probeHome(), 0) << qPrintable(program);
-        EXPECT_TRUE(services.disk.liveSizeProbes().at(ProbeContext::generic).empty());
+        EXPECT_TRUE(services.probes.liveSizeProbes().at(ProbeContext::generic).empty());
     }
 }
 
@@ -167,16 +167,16 @@ TEST_F(SizeProbe, programThatASignalEndsIsZero)
 
 TEST_F(SizeProbe, aFinishedProbeLeavesAnEmptyListAndNothingElse)
 {
-    EXPECT_TRUE(services.disk.liveSizeProbes().empty());
-    services.disk.probeSize(services.test.home, ProbeContext::largestDirs);
-    const auto live = services.disk.liveSizeProbes();
+    EXPECT_TRUE(services.probes.liveSizeProbes().empty());
+    services.probes.probeSize(services.test.home, ProbeContext::largestDirs);
+    const auto live = services.probes.liveSizeProbes();
     ASSERT_EQ(live.size(), 1U);
     EXPECT_TRUE(live.at(ProbeContext::largestDirs).empty());
 }
 
 TEST_F(SizeProbe, cancellingAContextWithoutProbesDoesNothing)
 {
-    services.disk.cancelProbes(ProbeContext::storage);
-    services.disk.cancelProbes();
+    services.probes.cancelProbes(ProbeContext::storage);
+    services.probes.cancelProbes();
     EXPECT_GT(probe(temp.file("file", "x")), 0);
 }

@@ -93,7 +93,7 @@ TEST_F(StorageScan, measuresRealFoldersOneAfterTheOther)
     test.temp.file("home/Documents/file", QByteArray(100'000, 'x'));
     scan(false);
     EXPECT_EQ(disk.cachedCategories()[1].size,
-              disk.probeSize(services.inHome("Documents"), ProbeContext::generic));
+              services.probes.probeSize(services.inHome("Documents"), ProbeContext::generic));
     EXPECT_GE(disk.cachedCategories()[1].size, 100'000);
     EXPECT_EQ(disk.cachedCategories()[5].size, 0); // there is no folder Music
     EXPECT_EQ(services.runs(), 7 + 1);
@@ -283,7 +283,7 @@ qint64 sizeOverPlaces(DiskServices &services, const QStringList &places)
     const Platform platform{own.home,     locations,     own.defaults,  own.clock,         own.programs,
                             own.keyStyle, own.mainQueue, own.workQueue, own.notifications, own.workspace,
                             own.recycler, own.systemLog, own.systemInfo};
-    DiskService disk(platform, services.fileSystem, services.test.access);
+    DiskService disk = services.over(platform);
     const auto categories = disk.computeStorageCategories();
     EXPECT_EQ(categories.size(), 2U);
     EXPECT_EQ(categories.back().name, "Music"); // a row without a place stays
@@ -299,8 +299,8 @@ TEST_F(StorageScan, rowOfSeveralPlacesIsTheirSumAndASwitchedOffOneIsZero)
     const QString two = test.temp.folder("two");
     test.temp.file("one/file", QByteArray(30'000, 'x'));
     test.temp.file("two/file", QByteArray(50'000, 'x'));
-    const qint64 expected =
-        disk.probeSize(one, ProbeContext::generic) + disk.probeSize(two, ProbeContext::generic);
+    const qint64 expected = services.probes.probeSize(one, ProbeContext::generic)
+                            + services.probes.probeSize(two, ProbeContext::generic);
     EXPECT_GE(expected, 80'000);
     EXPECT_EQ(sizeOverPlaces(services, {one, test.temp.at("missing"), two}), expected);
 }

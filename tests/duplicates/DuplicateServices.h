@@ -14,7 +14,7 @@
 struct DuplicateServices
 {
     TestPlatform test;
-    FileSystemService fileSystem{test.platform, [](const QString &) { return qint64(0); }};
+    FileSystemService fileSystem{test.platform, test.probes};
     std::unique_ptr<HistoryService> madeHistory; ///< none as long as nobody has asked for it
     DuplicateService duplicates{test.platform, fileSystem, test.access, history()};
 

@@ -11,9 +11,9 @@ namespace {
 
 FileItem fileNamed(const QString &name)
 {
-    const TestPlatform test;
+    TestPlatform test;
     const QString path = test.temp.file(name);
-    const FileSystemService service(test.platform, {});
+    const FileSystemService service(test.platform, test.probes);
     return service.makeFileItem(path).value();
 }
 
@@ -33,9 +33,9 @@ QStringList words(const char *text)
 
 TEST(FileItem, recreatedForTheSamePathIsEqualWithAnotherId)
 {
-    const TestPlatform test;
+    TestPlatform test;
     const QString path = test.temp.file("a.txt", "first");
-    const FileSystemService service(test.platform, {});
+    const FileSystemService service(test.platform, test.probes);
     const FileItem before = service.makeFileItem(path).value();
     test.temp.file("a.txt", "second content");
     const FileItem after = service.makeFileItem(path).value();
@@ -74,9 +74,9 @@ TEST(FileItem, dotFileHasNoExtensionAndTheDefaultLook)
 
 TEST(FileItem, folderNamedLikeAnArchiveLooksLikeAFolder)
 {
-    const TestPlatform test;
+    TestPlatform test;
     const QString path = test.temp.folder("backup.zip");
-    const FileItem item = FileSystemService(test.platform, {}).makeFileItem(path).value();
+    const FileItem item = FileSystemService(test.platform, test.probes).makeFileItem(path).value();
     EXPECT_EQ(item.ext, "zip");
     EXPECT_EQ(iconName(item), "folder.fill");
     EXPECT_EQ(colorHex(item), "58a6ff");

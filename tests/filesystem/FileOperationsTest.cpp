@@ -14,7 +14,7 @@ namespace {
 struct FileOperations : testing::Test
 {
     TestPlatform test;
-    FileSystemService service{test.platform, {}};
+    FileSystemService service{test.platform, test.probes};
 
     QByteArray content(const QString &path) const { return files::readPrefix(path, 1000).value_or("(none)"); }
 

@@ -16,7 +16,7 @@ namespace {
 struct ListDirectory : testing::Test
 {
     TestPlatform test;
-    FileSystemService service{test.platform, {}};
+    FileSystemService service{test.platform, test.probes};
 
     QStringList names(const QString &folder, bool includeHidden) const
     {

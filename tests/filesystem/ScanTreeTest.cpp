@@ -36,19 +36,33 @@ const FileEntry &childNamed(const FileEntry &entry, const QString &name)
     throw std::out_of_range(paths::toBytes(name).toStdString());
 }
 
-/// A scan whose size probe writes down what it is asked for and says 1000. The tests of
-/// DiskService use `du`.
+constexpr qint64 probedSize = 1024;
+
+/// A scan whose `du` writes down what it is asked for and says 1 KiB.
 struct ScanTree : testing::Test
 {
     TestPlatform test;
     const TempHome &temp = test.temp;
     QString root = temp.folder("root");
-    QStringList probed;
-    std::function<qint64(const QString &)> probe = [](const QString &) { return 1000; };
-    FileSystemService service{test.platform, [this](const QString &path) {
-                                  probed << path;
-                                  return probe(path);
-                              }};
+    FileSystemService service{test.platform, test.probes};
+
+    ScanTree() { useDuThatSays("1"); }
+
+    void useDuThatSays(const QByteArray &kibibytes)
+    {
+        test.useDu("printf '%s\\0' \"$2\" >>'" + paths::toBytes(temp.at("probed")) + "'\nprintf '" + kibibytes
+                   + "\\t%s\\n' \"$2\"\n");
+    }
+
+    /// What was measured, in that order.
+    QStringList probed() const
+    {
+        QStringList measured;
+        for (const QByteArray &path :
+             files::readPrefix(temp.at("probed"), 1 << 20).value_or(QByteArray()).split('\0'))
+            measured << paths::fromBytes(path);
+        return measured.first(measured.size() - 1);
+    }
 
     FileEntry scan(int maxDepth) const { return service.scanTree(root, 0, maxDepth); }
 
@@ -65,19 +79,20 @@ struct ScanTree : testing::Test
 TEST_F(ScanTree, atTheDepthLimitGivesTheProbesSizeAndListsNothing)
 {
     temp.file("root/a", bytesOf(5));
-    const InjectedFaults faults([](files::Operation, const QString &path) {
-        ADD_FAILURE() << "touched " << qPrintable(path);
+    const InjectedFaults faults([this](files::Operation, const QString &path) {
+        if (path != temp.at("probed"))
+            ADD_FAILURE() << "touched " << qPrintable(path);
         return 0;
     });
     const FileEntry entry = scan(0);
-    EXPECT_EQ(entry.size, 1000);
+    EXPECT_EQ(entry.size, probedSize);
     EXPECT_FALSE(entry.children);
-    EXPECT_EQ(probed, QStringList({root}));
+    EXPECT_EQ(probed(), QStringList({root}));
 }
 
 TEST_F(ScanTree, beyondTheDepthLimitProbesToo)
 {
-    EXPECT_EQ(service.scanTree(root, 3, 2).size, 1000);
+    EXPECT_EQ(service.scanTree(root, 3, 2).size, probedSize);
 }
 
 TEST_F(ScanTree, listsAboveTheLimitAndProbesAtIt)
@@ -87,15 +102,15 @@ TEST_F(ScanTree, listsAboveTheLimitAndProbesAtIt)
     temp.file("root/sub/deep/far", bytesOf(13));
     const FileEntry entry = scan(2);
 
-    EXPECT_EQ(entry.size, 7 + 11 + 1000);
+    EXPECT_EQ(entry.size, 7 + 11 + probedSize);
     EXPECT_EQ(childNames(entry), QStringList({"sub", "file"}));
     const FileEntry &sub = childNamed(entry, "sub");
-    EXPECT_EQ(sub.size, 11 + 1000);
+    EXPECT_EQ(sub.size, 11 + probedSize);
     EXPECT_EQ(childNames(sub), QStringList({"deep", "inner"}));
-    EXPECT_EQ(childNamed(sub, "deep").size, 1000);
+    EXPECT_EQ(childNamed(sub, "deep").size, probedSize);
     EXPECT_TRUE(childNamed(sub, "deep").isDirectory);
     EXPECT_FALSE(childNamed(sub, "deep").children);
-    EXPECT_EQ(probed, QStringList({temp.at("root/sub/deep")}));
+    EXPECT_EQ(probed(), QStringList({temp.at("root/sub/deep")}));
 }
 
 TEST_F(ScanTree, everyNodeKnowsItsNamePathAndAnIdOfItsOwn)
@@ -177,7 +192,7 @@ TEST_F(ScanTree, hiddenEntriesAreNotVisited)
     const FileEntry entry = scan(1);
     EXPECT_EQ(entry.size, 3);
     EXPECT_EQ(childNames(entry), QStringList({"plain"}));
-    EXPECT_TRUE(probed.isEmpty());
+    EXPECT_TRUE(probed().isEmpty());
 }
 
 TEST_F(ScanTree, linksAreNotFollowedAndCountThemselves)
@@ -191,7 +206,7 @@ TEST_F(ScanTree, linksAreNotFollowedAndCountThemselves)
     EXPECT_FALSE(childNamed(entry, "to folder").isDirectory);
     EXPECT_FALSE(childNamed(entry, "loop").children);
     EXPECT_EQ(childNamed(entry, "broken").size, 7);
-    EXPECT_TRUE(probed.isEmpty());
+    EXPECT_TRUE(probed().isEmpty());
 }
 
 TEST_F(ScanTree, filesCountTheirLogicalSize)
@@ -212,8 +227,9 @@ TEST_F(ScanTree, whileCancelledGivesNothingForAnyPathAndTouchesNoDisk)
 {
     temp.file("root/a", bytesOf(5));
     service.scanCancelled = true;
-    const InjectedFaults faults([](files::Operation, const QString &path) {
-        ADD_FAILURE() << "touched " << qPrintable(path);
+    const InjectedFaults faults([this](files::Operation, const QString &path) {
+        if (path != temp.at("probed"))
+            ADD_FAILURE() << "touched " << qPrintable(path);
         return 0;
     });
     for (const QString &path : {root, temp.at("missing"), QStringLiteral("/")}) {
@@ -225,22 +241,26 @@ TEST_F(ScanTree, whileCancelledGivesNothingForAnyPathAndTouchesNoDisk)
             EXPECT_FALSE(entry.children);
         }
     }
-    EXPECT_TRUE(probed.isEmpty());
+    EXPECT_TRUE(probed().isEmpty());
     EXPECT_TRUE(service.scanCancelled); // only a scan's starter clears it
 }
 
 TEST_F(ScanTree, cancelTakesEffectAtTheNextFolderAndStillAddsTheFilesOfThisOne)
 {
     for (int i = 0; i < 4; ++i) {
-        temp.folder(QStringLiteral("root/folder%1").arg(i));
+        temp.file(QStringLiteral("root/folder%1/inside").arg(i), bytesOf(1000));
         temp.file(QStringLiteral("root/file%1").arg(i), bytesOf(10));
     }
-    probe = [this](const QString &) {
-        service.scanCancelled = true;
-        return 1000;
-    };
-    const FileEntry entry = scan(1);
-    EXPECT_EQ(probed.size(), 1);
+    QStringList entered;
+    const InjectedFaults watch([this, &entered](files::Operation operation, const QString &path) {
+        if (operation == files::Operation::list && path != root) {
+            entered << path;
+            service.scanCancelled = true;
+        }
+        return 0;
+    });
+    const FileEntry entry = scan(2);
+    EXPECT_EQ(entered.size(), 1);
     EXPECT_EQ(entry.size, 1000 + 40);
     EXPECT_EQ(entry.children->size(), 8U);
 }
@@ -298,7 +318,7 @@ TEST_F(ScanTree, hostileNamesKeepTheirBytesInNamesAndPaths)
     const FileEntry entry = scan(1);
     EXPECT_EQ(childNames(entry), QStringList({folderName, fileName}));
     EXPECT_EQ(childNamed(entry, fileName).path, temp.at("root/" + fileName));
-    EXPECT_EQ(probed, QStringList({temp.at("root/" + folderName)}));
+    EXPECT_EQ(probed(), QStringList({temp.at("root/" + folderName)}));
 }
 
 TEST_F(ScanTree, totalBeyond64BitsEndsTheProcess)
@@ -306,6 +326,6 @@ TEST_F(ScanTree, totalBeyond64BitsEndsTheProcess)
     GTEST_FLAG_SET(death_test_style, "fast"); // the other style would leave a second temporary home behind
     temp.folder("root/a");
     temp.folder("root/b");
-    probe = [](const QString &) { return std::numeric_limits<qint64>::max(); };
+    useDuThatSays(QByteArray::number(std::numeric_limits<qint64>::max() / 1024));
     EXPECT_DEATH(scan(1), "beyond 64 bits");
 }

@@ -35,7 +35,7 @@ void removeFile(const QString &path)
 struct TrashTest : public testing::Test
 {
     TestPlatform test;
-    FileSystemService service{test.platform, {}};
+    FileSystemService service{test.platform, test.probes};
     QString path = test.temp.file(QStringLiteral("home/old \"plan\".txt"), "text");
     QString name = QStringLiteral("old \"plan\".txt");
 

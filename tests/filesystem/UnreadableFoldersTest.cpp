@@ -26,7 +26,7 @@ struct LockedFolders
     const std::vector<std::pair<QString, unsigned>> locks = {
         {u"closed"_s, 0}, {u"only to enter"_s, 0300}, {u"only to list"_s, 0400}};
     TestPlatform test;
-    FileSystemService service{test.platform, {}};
+    FileSystemService service{test.platform, test.probes};
 };
 
 } // namespace

@@ -77,8 +77,10 @@ TEST_F(QuitPathsTest, endTheProcessByTheKeyWithASheetOpenAndWithoutAQuestion)
 
 TEST_F(QuitPathsTest, endTheProcessByTheKeyDuringAScan)
 {
-    FileSystemService fileSystem(test.platform, [](const QString &) { return qint64(0); });
-    DiskService disk(test.platform, fileSystem, test.access);
+    FileSystemService fileSystem(test.platform, test.probes);
+    DiskService disk(
+        test.platform, test.probes, [&]() -> FileSystemService & { return fileSystem; },
+        [&]() -> FDAService & { return test.access; });
     disk.scanAnalyzer(test.home, true);
     test.mainQueue.run();
     ASSERT_TRUE(disk.isScanningAnalyzer());

@@ -37,7 +37,7 @@ bool DiskUnderTest::isScanning() const
 int DiskUnderTest::probeCount() const
 {
     size_t count = 0;
-    for (const auto &[context, processes] : composition_.disk().liveSizeProbes())
+    for (const auto &[context, processes] : composition_.sizeProbes().liveSizeProbes())
         count += processes.size();
     return static_cast<int>(count);
 }

@@ -55,7 +55,7 @@ ProgramUnderTest::ProgramUnderTest(Surroundings &surroundings)
 
 ProgramUnderTest::~ProgramUnderTest()
 {
-    composition_->disk().cancelProbes();
+    composition_->sizeProbes().cancelProbes();
 }
 
 void ProgramUnderTest::show()

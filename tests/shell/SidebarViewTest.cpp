@@ -26,8 +26,9 @@ protected:
     int queries() const { return test.systemInfo.volumeQueries; }
 
     TestPlatform test;
-    FileSystemService fileSystem{test.platform, [](const QString &) { return qint64(0); }};
-    DiskService disk{test.platform, fileSystem, test.access};
+    FileSystemService fileSystem{test.platform, test.probes};
+    DiskService disk{test.platform, test.probes, [this]() -> FileSystemService & { return fileSystem; },
+                     [this]() -> FDAService & { return test.access; }};
     ContentView content{test.platform, {}};
     std::unique_ptr<SidebarView> view;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "activity/FDAService.h"
+#include "filesystem/SizeProbes.h"
 #include "platform/Platform.h"
 #include "support/Fakes.h"
 #include "support/SteppedQueues.h"
@@ -27,6 +28,11 @@ struct TestPlatform
                       mainQueue, workQueue, notifications, workspace, recycler,        systemLog,
                       systemInfo};
     FDAService access{platform, {}};
+    SizeProbes probes{platform};
+
+    /// Puts a shell script in the place of `du`; its second argument is the path. One that is to be ended must not wait
+    /// for a child of its own, which would hold the output open.
+    void useDu(const QByteArray &lines) { platform.programs.du = temp.script("du", lines); }
 
     /// Turns both queues until nothing is left to do.
     void settle()

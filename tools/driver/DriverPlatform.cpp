@@ -73,10 +73,12 @@ DriverPlatform::DriverPlatform(std::function<Locations()> locations, const QStri
     , platform_{home_,           locations_, defaults_,  clock_,         ChildPrograms(),
                 KeyStyle::words, mainQueue_, workQueue_, notifications_, workspace_,
                 recycler_,       systemLog_, systemInfo_}
-    , fileSystem_(platform_,
-                  [this](const QString &path) { return disk_.probeSize(path, ProbeContext::generic); })
+    , sizeProbes_(platform_)
+    , fileSystem_(platform_, sizeProbes_)
     , access_(platform_, {})
-    , disk_(platform_, fileSystem_, access_)
+    , disk_(
+          platform_, sizeProbes_, [this]() -> FileSystemService & { return fileSystem_; },
+          [this]() -> FDAService & { return access_; })
 {
     defaults_.registerDefaults(settings::registeredDefaults());
 }

@@ -6,6 +6,7 @@
 #include "disk/DiskService.h"
 #include "DriverFakes.h"
 #include "filesystem/FileSystemService.h"
+#include "filesystem/SizeProbes.h"
 #include "platform/Platform.h"
 
 #include <QString>
@@ -34,6 +35,7 @@ public:
     static std::vector<Option> homeOptions();
 
     const Platform &platform() const { return platform_; }
+    SizeProbes &sizeProbes() { return sizeProbes_; }
     DiskService &disk() { return disk_; }
     FileSystemService &fileSystem() { return fileSystem_; }
     FDAService &access() { return access_; }
@@ -53,6 +55,7 @@ private:
     NoSystemLog systemLog_;
     NoSystemInfo systemInfo_;
     Platform platform_;
+    SizeProbes sizeProbes_;
     FileSystemService fileSystem_;
     FDAService access_;
     DiskService disk_;

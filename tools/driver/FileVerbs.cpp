@@ -75,8 +75,8 @@ void probe(const Arguments &arguments)
     DriverPlatform platform;
     qint64 bytes = 0;
     for (qint64 i = 0; i < probes; ++i)
-        bytes += platform.disk().probeSize(folders[static_cast<size_t>(i) % folders.size()],
-                                           ProbeContext::generic);
+        bytes += platform.sizeProbes().probeSize(folders[static_cast<size_t>(i) % folders.size()],
+                                                 ProbeContext::generic);
     json::print(QJsonObject{
         {QStringLiteral("folders"), static_cast<qint64>(folders.size())},
         {QStringLiteral("probes"), probes},

@@ -1,8 +1,7 @@
-// The size probes of DiskService: one `du` a path, and a registry of those alive so that a cancel can end them.
+#include "filesystem/SizeProbes.h"
 
 #include "base/Error.h"
 #include "base/Text.h"
-#include "disk/DiskService.h"
 
 #include <utility>
 
@@ -26,7 +25,18 @@ qint64 sizeFromOutput(const QByteArray &output)
 
 } // namespace
 
-qint64 DiskService::probeSize(const QString &path, ProbeContext context)
+SizeProbes::SizeProbes(const Platform &platform)
+    : platform_(platform)
+{
+}
+
+SizeProbes &SizeProbes::shared(const Platform &platform)
+{
+    static SizeProbes &instance = *new SizeProbes(platform);
+    return instance;
+}
+
+qint64 SizeProbes::probeSize(const QString &path, ProbeContext context)
 {
     const auto process =
         std::make_shared<ChildProcess>(platform_.programs.du, QStringList{QStringLiteral("-sk"), path});
@@ -51,7 +61,7 @@ qint64 DiskService::probeSize(const QString &path, ProbeContext context)
     return size;
 }
 
-void DiskService::cancelProbes(std::optional<ProbeContext> context)
+void SizeProbes::cancelProbes(std::optional<ProbeContext> context)
 {
     Processes taken;
     {
@@ -67,17 +77,8 @@ void DiskService::cancelProbes(std::optional<ProbeContext> context)
         process->terminate();
 }
 
-std::map<ProbeContext, DiskService::Processes> DiskService::liveSizeProbes() const
+std::map<ProbeContext, SizeProbes::Processes> SizeProbes::liveSizeProbes() const
 {
     const std::lock_guard lock(probeLock_);
     return liveSizeProbes_;
-}
-
-DiskUsage DiskService::getDiskUsage() const
-{
-    const auto volume = platform_.systemInfo.rootVolume();
-    if (!volume)
-        return {0, 0, 0, QStringLiteral("Unknown")};
-    return {volume->total, volume->total - volume->available, volume->available,
-            volume->name.value_or(QStringLiteral("Macintosh HD"))};
 }
