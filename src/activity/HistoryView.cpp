@@ -92,6 +92,7 @@ QString moreText(const HistoryEntry &entry)
 HistoryView::HistoryView(const Platform &platform, HistoryService &history)
     : platform_(platform)
     , history_(history)
+    , clearing_([this] { history_.clear(); })
     , filterRows_({
           {"label", [](std::optional<Kind> kind) { return labelOf(kind); }},
           {"countText",
@@ -104,6 +105,7 @@ HistoryView::HistoryView(const Platform &platform, HistoryService &history)
     chips.insert(chips.end(), HistoryEntry::allKinds.begin(), HistoryEntry::allKinds.end());
     filterRows_.reset(std::move(chips));
     connect(&history_, &HistoryService::entriesChanged, this, &HistoryView::takeEntries);
+    connect(&clearing_, &Confirmation::changed, this, &HistoryView::showClearConfirmChanged);
     takeEntries();
 }
 
@@ -210,28 +212,7 @@ void HistoryView::reveal()
 void HistoryView::askToClear()
 {
     if (canClear())
-        setShowClearConfirm(true);
-}
-
-void HistoryView::cancelClear()
-{
-    setShowClearConfirm(false);
-}
-
-void HistoryView::confirmClear()
-{
-    if (!showClearConfirm_)
-        return;
-    setShowClearConfirm(false);
-    history_.clear();
-}
-
-void HistoryView::setShowClearConfirm(bool isUp)
-{
-    if (showClearConfirm_ == isUp)
-        return;
-    showClearConfirm_ = isUp;
-    emit showClearConfirmChanged();
+        clearing_.ask(texts().confirmText);
 }
 
 HistoryView::Rows HistoryView::itemsOfLog() const

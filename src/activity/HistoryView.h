@@ -3,6 +3,7 @@
 #include "activity/HistoryEntry.h"
 #include "activity/HistoryTexts.h"
 #include "base/RecordListModel.h"
+#include "common/Confirmation.h"
 #include "platform/Platform.h"
 
 #include <QObject>
@@ -42,7 +43,7 @@ public:
     bool canClear() const;
     bool canReveal() const; ///< the log has a file
     QString revealTip() const;
-    bool showClearConfirm() const { return showClearConfirm_; }
+    bool showClearConfirm() const { return clearing_.isUp(); }
     std::optional<Kind> filter() const { return filter_; } ///< none shows all
 
     /// The chips, "All" first. Rows: label, countText (of "All" alone), isSelected.
@@ -55,8 +56,8 @@ public:
     Q_INVOKABLE void toggleRow(int row); ///< expands or folds; nothing on an entry that has no more to show
     Q_INVOKABLE void reveal();
     Q_INVOKABLE void askToClear();
-    Q_INVOKABLE void cancelClear();
-    Q_INVOKABLE void confirmClear();
+    Q_INVOKABLE void cancelClear() { clearing_.cancel(); }
+    Q_INVOKABLE void confirmClear() { clearing_.confirm(); }
 
 signals:
     void contentChanged();
@@ -77,12 +78,11 @@ private:
     Rows shownItems() const;
     void takeEntries();
     void refreshFilters();
-    void setShowClearConfirm(bool isUp);
 
     const Platform &platform_;
     HistoryService &history_;
     std::optional<Kind> filter_;
-    bool showClearConfirm_ = false;
+    Confirmation clearing_;
     Rows items_; // the whole log
     RecordListModel<std::optional<Kind>> filterRows_;
     RecordListModel<Row> entryRows_;
