@@ -5,7 +5,7 @@
 #include <vector>
 
 /// One thing to measure. To add one, write its function beside those of its group and give it a row in the group's
-/// table; a new group is a file of its own with a line in Benchmarks.h and in main.cpp.
+/// table; a new group is a file of its own with a name in Benchmarks.h.
 struct Benchmark
 {
     std::string name;

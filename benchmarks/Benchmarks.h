@@ -2,9 +2,10 @@
 
 #include "Benchmark.h"
 
+#include <array>
 #include <vector>
 
-/// The groups of benchmarks, a source file each.
+/// The groups of benchmarks, a source file each. A new one is declared here and stands in `groups`.
 namespace benchmarks {
 
 std::vector<Benchmark> ofScans();      ///< tree scans and size probes against the bare runs of `du`
@@ -12,5 +13,8 @@ std::vector<Benchmark> ofHistory();    ///< one record on a full activity log ag
 std::vector<Benchmark> ofDuplicates(); ///< duplicate scans against other programs that find equal files
 std::vector<Benchmark> ofTreemap();    ///< the map's layout against one sort
 std::vector<Benchmark> ofWindow();     ///< start, main loop and memory of the running program
+
+/// In the order in which they run.
+inline constexpr std::array groups = {ofScans, ofDuplicates, ofTreemap, ofHistory, ofWindow};
 
 } // namespace benchmarks

@@ -12,10 +12,10 @@ namespace {
 std::vector<Benchmark> allBenchmarks()
 {
     std::vector<Benchmark> all;
-    for (const std::vector<Benchmark> &group :
-         {benchmarks::ofScans(), benchmarks::ofDuplicates(), benchmarks::ofTreemap(), benchmarks::ofHistory(),
-          benchmarks::ofWindow()})
-        all.insert(all.end(), group.begin(), group.end());
+    for (const auto &group : benchmarks::groups) {
+        const std::vector<Benchmark> found = group();
+        all.insert(all.end(), found.begin(), found.end());
+    }
     return all;
 }
 

@@ -2,9 +2,11 @@
 
 define_property(GLOBAL PROPERTY QUILLMERE_TOOLS_BUILT BRIEF_DOCS "The tools, by folder, in the order of their lines")
 define_property(GLOBAL PROPERTY QUILLMERE_QML BRIEF_DOCS "The QML of all rooms, relative to src/")
+define_property(GLOBAL PROPERTY QUILLMERE_QML_TYPES BRIEF_DOCS "The headers that tell QML of the rooms' types, relative to src/")
 define_property(GLOBAL PROPERTY QUILLMERE_HEADER_FOLDERS BRIEF_DOCS "The folders that hold a header, relative to src/")
 
-# Adds a room's QML to the module, and its folders to those that registered types are looked up in by base name.
+# Adds a room's QML and what QML is told of its types (its header whose name ends in QmlTypes) to the module, and its
+# folders to those that registered types are looked up in by base name.
 function(quillmere_add_to_module folder)
     file(GLOB_RECURSE qml RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS ${folder}/*.qml)
     file(GLOB_RECURSE headers RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS ${folder}/*.h)
@@ -13,11 +15,15 @@ function(quillmere_add_to_module folder)
         set_property(GLOBAL APPEND PROPERTY QUILLMERE_HEADER_FOLDERS ${header_folder})
     endforeach()
     set_property(GLOBAL APPEND PROPERTY QUILLMERE_QML ${qml})
+    list(FILTER headers INCLUDE REGEX "QmlTypes\\.h$")
+    set_property(GLOBAL APPEND PROPERTY QUILLMERE_QML_TYPES ${headers})
 endfunction()
 
 # quillmere_add_library(target source...): a library without Gui and Qml, so that it is tested without a display.
 function(quillmere_add_library target)
-    qt_add_library(${target} STATIC ${ARGN})
+    set(sources ${ARGN})
+    list(FILTER sources EXCLUDE REGEX "QmlTypes\\.h$")
+    qt_add_library(${target} STATIC ${sources})
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${target} PUBLIC Qt6::Core PRIVATE quillmere_options)
     set_target_properties(${target} PROPERTIES AUTOMOC ON)

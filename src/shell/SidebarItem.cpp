@@ -4,40 +4,17 @@
 
 namespace {
 
-struct ItemRow
+const sidebar::Row &rowOf(SidebarItem item)
 {
-    SidebarItem item;
-    SidebarSection section;
-    const char *title;
-    const char *symbol;
-    const char *key;
-};
-
-constexpr std::array rows = {
-    ItemRow{SidebarItem::dashboard, SidebarSection::navigation, "Dashboard", "square.grid.2x2", "dashboard"},
-    ItemRow{SidebarItem::fileBrowser, SidebarSection::navigation, "File Browser", "folder", "fileBrowser"},
-    ItemRow{SidebarItem::search, SidebarSection::navigation, "Search", "magnifyingglass", "search"},
-    ItemRow{SidebarItem::diskAnalyzer, SidebarSection::tools, "Disk Analyzer", "internaldrive",
-            "diskAnalyzer"},
-    ItemRow{SidebarItem::duplicates, SidebarSection::tools, "Duplicates", "doc.on.doc", "duplicates"},
-    ItemRow{SidebarItem::bulkRename, SidebarSection::tools, "Bulk Rename", "textformat.abc", "bulkRename"},
-    ItemRow{SidebarItem::cleanup, SidebarSection::tools, "Cleanup", "trash", "cleanup"},
-    ItemRow{SidebarItem::organizer, SidebarSection::tools, "Organizer", "folder.badge.gearshape",
-            "organizer"},
-    ItemRow{SidebarItem::appManager, SidebarSection::apps, "App Manager", "app.badge.checkmark",
-            "appManager"},
-};
-
-const ItemRow &rowOf(SidebarItem item)
-{
-    return rows[static_cast<size_t>(item)];
+    return sidebar::rows[static_cast<size_t>(item)];
 }
 
-const ItemRow &rowForKey(const QString &key)
+const sidebar::Row &rowForKey(const QString &key)
 {
-    const auto found = std::find_if(rows.begin(), rows.end(),
-                                    [&key](const ItemRow &row) { return key == QLatin1StringView(row.key); });
-    return found == rows.end() ? rows.front() : *found;
+    const auto found =
+        std::find_if(sidebar::rows.begin(), sidebar::rows.end(),
+                     [&key](const sidebar::Row &row) { return key == QLatin1StringView(row.key); });
+    return found == sidebar::rows.end() ? sidebar::rows.front() : *found;
 }
 
 } // namespace
@@ -60,7 +37,7 @@ QString title(SidebarSection section)
 std::vector<SidebarItem> items(SidebarSection section)
 {
     std::vector<SidebarItem> found;
-    for (const ItemRow &row : rows) {
+    for (const sidebar::Row &row : rows) {
         if (row.section == section)
             found.push_back(row.item);
     }

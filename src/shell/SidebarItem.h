@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-/// The nine screens.
+/// The screens, in the order of the rows below.
 enum class SidebarItem {
     dashboard,
     fileBrowser,
@@ -26,6 +26,28 @@ enum class SidebarSection {
 };
 
 namespace sidebar {
+
+/// What is told of a screen: its place in the sidebar, its title, its symbol and its navigate key.
+struct Row
+{
+    SidebarItem item;
+    SidebarSection section;
+    const char *title;
+    const char *symbol;
+    const char *key;
+};
+
+inline constexpr std::array rows = {
+    Row{SidebarItem::dashboard, SidebarSection::navigation, "Dashboard", "square.grid.2x2", "dashboard"},
+    Row{SidebarItem::fileBrowser, SidebarSection::navigation, "File Browser", "folder", "fileBrowser"},
+    Row{SidebarItem::search, SidebarSection::navigation, "Search", "magnifyingglass", "search"},
+    Row{SidebarItem::diskAnalyzer, SidebarSection::tools, "Disk Analyzer", "internaldrive", "diskAnalyzer"},
+    Row{SidebarItem::duplicates, SidebarSection::tools, "Duplicates", "doc.on.doc", "duplicates"},
+    Row{SidebarItem::bulkRename, SidebarSection::tools, "Bulk Rename", "textformat.abc", "bulkRename"},
+    Row{SidebarItem::cleanup, SidebarSection::tools, "Cleanup", "trash", "cleanup"},
+    Row{SidebarItem::organizer, SidebarSection::tools, "Organizer", "folder.badge.gearshape", "organizer"},
+    Row{SidebarItem::appManager, SidebarSection::apps, "App Manager", "app.badge.checkmark", "appManager"},
+};
 
 inline constexpr std::array sections = {SidebarSection::navigation, SidebarSection::tools,
                                         SidebarSection::apps};

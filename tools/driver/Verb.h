@@ -10,7 +10,7 @@
 class Arguments;
 
 /// One thing that the driver can do. To add one, write its function beside those of its group and give it a row in
-/// the group's table; a new group is a file of its own with a line in Verbs.h and in `allVerbs`.
+/// the group's table; a new group is a file of its own with a name in Verbs.h.
 struct Verb
 {
     QString name;

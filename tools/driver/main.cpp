@@ -18,9 +18,10 @@ const QString helpOption = QStringLiteral("help");
 std::vector<Verb> allVerbs()
 {
     std::vector<Verb> all;
-    for (const std::vector<Verb> &group :
-         {verbs::ofFiles(), verbs::ofDisk(), verbs::ofDuplicates(), verbs::ofTexts()})
-        all.insert(all.end(), group.begin(), group.end());
+    for (const auto &group : verbs::groups) {
+        const std::vector<Verb> verbs = group();
+        all.insert(all.end(), verbs.begin(), verbs.end());
+    }
     return all;
 }
 
