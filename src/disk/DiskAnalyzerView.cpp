@@ -42,7 +42,7 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
           {"share", [](const Row &row) { return row.share; }},
           {"isFolder", [](const Row &row) { return row.entry->isDirectory; }},
       })
-    , banner_(access, DiskService::analyzerContext)
+    , banner_(access, DiskService::accessContext)
 {
     connect(&diskService_, &DiskService::isScanningAnalyzerChanged, this, [this] {
         emit scanChanged();

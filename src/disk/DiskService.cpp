@@ -13,7 +13,7 @@ constexpr int analyzerDepth = 2; // the root and its folders are listed, what li
 
 } // namespace
 
-const QString DiskService::analyzerContext = QStringLiteral("Disk Analyzer");
+const QString DiskService::accessContext = QStringLiteral("Disk Analyzer");
 
 DiskService::DiskService(const Platform &platform, SizeProbes &probes, FileSystem fileSystem, Access access)
     : platform_(platform)
@@ -163,9 +163,9 @@ void DiskService::scanAnalyzer(const QString &path, bool force)
         return;
     FDAService &access = access_();
     if (access.hasFullDiskAccess())
-        access.clearDenied(analyzerContext);
+        access.clearDenied(accessContext);
     else
-        access.markDenied(analyzerContext);
+        access.markDenied(accessContext);
     const int generation = ++analyzerScanGeneration_;
     postToMain([path](DiskService &self) {
         self.isScanningAnalyzer_ = true;

@@ -68,7 +68,7 @@ public:
     void cancelLargestDirsScan();
 
     /// The name under which the analyzer tells whether protected folders could be read.
-    static const QString analyzerContext;
+    static const QString accessContext;
 
     /// Measures the folder at `path` two levels deep into `analyzerRoot`. The old tree goes at once.
     void scanAnalyzer(const QString &path, bool force);
