@@ -404,7 +404,7 @@ TEST_F(HistoryServiceTest, replacesAFileThatCouldNotBeReadWithALineAboutIt)
     EXPECT_EQ(titles(), u"c b a"_s);
 }
 
-TEST_F(HistoryServiceTest, saysOnceASaveThatItsFolderIsReadOnly)
+TEST_F(HistoryServiceTest, saysAtEachSaveThatItsFolderIsReadOnly)
 {
     start();
     failOn(files::Operation::open, file(), EROFS);

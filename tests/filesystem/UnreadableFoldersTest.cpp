@@ -51,7 +51,8 @@ TEST(UnreadableFolders, countNothingInATreeForAnOrdinaryUser)
         const FileEntry root = locked.service.scanTree(locked.test.temp.at(u"root"_s), 0, 3);
         EXPECT_EQ(root.size, 12);
         ASSERT_EQ(root.children->size(), 5U);
-        for (const auto &[name, mode] : locked.locks) {
+        for (const auto &lock : locked.locks) {
+            const QString &name = lock.first;
             const auto child = std::find_if(root.children->begin(), root.children->end(),
                                             [&](const FileEntry &entry) { return entry.name == name; });
             ASSERT_NE(child, root.children->end()) << name.toStdString();
