@@ -18,6 +18,16 @@ constexpr qsizetype mostKept = 4 << 20; // bytes, of all contents of one size
 /// Files of one size up to which all their heads are kept: 4 MiB of them, 8 for large files.
 constexpr size_t mostHeadsKept = 1024;
 
+/// So few files are compared with one another at once; to look them up by hashes would take longer.
+constexpr size_t mostComparedAtOnce = 8;
+
+/// All that is compared of a file of that size, in bytes.
+qint64 comparedLength(qint64 size)
+{
+    return size > ContentPartition::largestReadWhole ? 2 * ContentPartition::sampleSize + qint64(sizeof size)
+                                                     : size;
+}
+
 /// Only to find candidates: what decides is the content. Seeded, so that nobody can prepare files that all collide.
 size_t hashOf(QByteArrayView content)
 {
@@ -31,35 +41,46 @@ ContentPartition::ContentPartition(const FileTable &table, qint64 size, size_t c
     : table_(table)
     , size_(size)
     , keepsHeads_(count <= mostHeadsKept)
+    , hashes_(count > mostComparedAtOnce || static_cast<qint64>(count) * comparedLength(size) > mostKept)
     , sha256_(sha256)
 {
 }
 
-qint64 ContentPartition::headLength(qint64 size)
+bool ContentPartition::readHead(const files::FileReader &reader, qint64 size, QByteArray &head)
 {
-    return size > largestReadWhole ? sampleSize : std::min(size, headSize);
-}
-
-/// All that is compared of a file.
-bool ContentPartition::readAll(const files::FileReader &reader, QByteArray &content) const
-{
-    return reader.isOpen() && reader.read(0, headLength(size_), content)
-           && (isWholeInHead() || readOn(reader, content));
-}
-
-/// From the head to the end of what is compared. A file that has shrunk gives less, which is its content then.
-bool ContentPartition::readOn(const files::FileReader &reader, QByteArray &content) const
-{
-    if (size_ <= largestReadWhole)
-        return reader.read(headLength(size_), size_ - headLength(size_), content);
-    if (!reader.read(size_ - sampleSize, sampleSize, content))
+    if (size <= largestReadWhole)
+        return reader.read(0, std::min(size, headSize), head);
+    if (!reader.read(0, sampleSize, head) || !reader.read(size - sampleSize, sampleSize, head))
         return false;
-    const qint64 littleEndianSize = qToLittleEndian(size_);
-    content.append(reinterpret_cast<const char *>(&littleEndianSize), sizeof littleEndianSize);
+    const qint64 littleEndianSize = qToLittleEndian(size);
+    head.append(reinterpret_cast<const char *>(&littleEndianSize), sizeof littleEndianSize);
     return true;
 }
 
-bool ContentPartition::add(quint32 file, const files::FileReader &reader, QByteArray head)
+void ContentPartition::expectHead(const files::FileReader &reader, qint64 size)
+{
+    reader.expect(0, size <= largestReadWhole ? std::min(size, headSize) : sampleSize);
+    if (size > largestReadWhole)
+        reader.expect(size - sampleSize, sampleSize);
+}
+
+/// All that is compared of a file, out of one opening.
+bool ContentPartition::readAll(const files::FileReader &reader, QByteArray &content) const
+{
+    return reader.isOpen()
+           && (isWholeInHead() ? readHead(reader, size_, content) : reader.read(0, size_, content));
+}
+
+/// The same of a file whose head is known, once more from its beginning and in one read: a head of one moment and a rest
+/// of another may be the parts of two contents. False as well when it begins otherwise by now.
+bool ContentPartition::readAgain(const files::FileReader &reader, const QByteArray &head,
+                                 QByteArray &content) const
+{
+    return readAll(reader, content)
+           && QByteArrayView(content).first(std::min<qsizetype>(content.size(), headSize)) == head;
+}
+
+bool ContentPartition::add(quint32 file, const files::FileReader &reader, const QByteArray &head)
 {
     const Member member{file, reader.modified()};
     if (isWholeInHead()) {
@@ -72,11 +93,18 @@ bool ContentPartition::add(quint32 file, const files::FileReader &reader, QByteA
         heads_.emplace(key, Head{member, keepsHeads_ ? head : QByteArray()});
         return true;
     }
-    addFirst(*known);
-    if (!readOn(reader, head))
+    addFirst(*known, head);
+    QByteArray content;
+    if (!readAgain(reader, head, content))
         return false;
-    addContent(member, head);
+    addContent(member, content);
     return true;
+}
+
+/// By what a content is looked up; without hashes they are all kept, and looked at one by one.
+size_t ContentPartition::contentKey(const QByteArray &content) const
+{
+    return hashes_ ? hashOf(content) : 0;
 }
 
 /// By what a head is looked up. Where heads are kept the bytes decide, and a glance at both ends finds candidates well
@@ -84,6 +112,8 @@ bool ContentPartition::add(quint32 file, const files::FileReader &reader, QByteA
 size_t ContentPartition::headKey(const QByteArray &head) const
 {
     constexpr qsizetype glance = 64; // bytes
+    if (!hashes_)
+        return 0;
     if (!keepsHeads_ || head.size() <= 2 * glance)
         return hashOf(head);
     const QByteArrayView bytes = head;
@@ -99,22 +129,23 @@ ContentPartition::Head *ContentPartition::knownHead(size_t key, const QByteArray
     return known == end ? nullptr : &known->second;
 }
 
-/// Reads the rest of the first file of a head, now that a second one begins like it.
-void ContentPartition::addFirst(Head &head)
+/// Reads the first file of a head whole, now that a second one begins like it.
+void ContentPartition::addFirst(Head &known, const QByteArray &head)
 {
-    if (std::exchange(head.isFirstAdded, true))
+    if (std::exchange(known.isFirstAdded, true))
         return;
-    const files::FileReader reader(table_.nativePath(table_.files()[head.first.file]));
-    QByteArray content = head.kept;
-    if (keepsHeads_ ? reader.isOpen() && readOn(reader, content) : readAll(reader, content))
-        addContent({head.first.file, reader.modified()}, content);
+    const quint32 file = known.first.file;
+    const files::FileReader reader(table_.nativePath(table_.files()[file]));
+    QByteArray content;
+    if (readAgain(reader, head, content))
+        addContent({file, reader.modified()}, content);
     else
         ++lostFiles_;
 }
 
 void ContentPartition::addContent(const Member &member, const QByteArray &content)
 {
-    const size_t hash = isWholeInHead() ? headKey(content) : hashOf(content);
+    const size_t hash = size_ <= headSize ? headKey(content) : contentKey(content);
     if (Content *known = equalContent(hash, content)) {
         if (known->equal.members.size() == 1)
             known->equal.digest = sha256_.hex(content);
@@ -144,18 +175,25 @@ ContentPartition::Content *ContentPartition::equalContent(size_t hash, const QBy
     return nullptr;
 }
 
-/// Whether these bytes are the content of that class. One that was not kept is read again from its first member; should
-/// that have changed since, the bytes count as another content.
-bool ContentPartition::holds(const Content &known, const QByteArray &content)
+/// Whether these bytes, whose hash is that of the class, are its content. One that was not kept is read again from its
+/// first member. Should that have changed since, the digest decides; where there is none yet, nothing is left of that
+/// content, and the file is left out.
+bool ContentPartition::holds(Content &known, const QByteArray &content)
 {
-    if (known.length != content.size())
+    if (known.length != content.size() || known.isLost)
         return false;
     if (known.kept)
         return *known.kept == content;
-    const quint32 file = known.equal.members.front().file;
-    const files::FileReader reader(table_.nativePath(table_.files()[file]));
+    const FileTable::File &file = table_.files()[known.equal.members.front().file];
+    const files::FileReader reader(table_.nativePath(file));
     QByteArray again;
-    return readAll(reader, again) && again == content;
+    if (readAll(reader, again) && again == content)
+        return true;
+    if (known.equal.members.size() > 1)
+        return known.equal.digest == sha256_.hex(content);
+    known.isLost = true;
+    ++lostFiles_;
+    return false;
 }
 
 /// The content where it still fits into what may be kept, and counts it there.

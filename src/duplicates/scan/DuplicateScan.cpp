@@ -75,7 +75,7 @@ public:
     Result run()
     {
         const std::vector<Bucket> buckets = bucketsOf(table_);
-        HeadReader heads(table_, buckets);
+        HeadReader heads(table_, buckets, hooks_.isCancelled);
         for (size_t done = 0; done < buckets.size() && !hooks_.isCancelled();) {
             compare(buckets[done], heads);
             hooks_.bucketDone(++done, buckets.size());
@@ -91,7 +91,7 @@ private:
                                    sha256_);
         for (size_t file = bucket.first; file < bucket.second && !hooks_.isCancelled(); ++file) {
             HeadReader::Head head = heads.next();
-            if (!head.isRead || !partition.add(head.file, head.reader, std::move(head.content)))
+            if (!head.isRead || !partition.add(head.file, head.reader, head.content))
                 ++result_.hashFailureCount;
         }
         result_.hashFailureCount += partition.lostFiles();

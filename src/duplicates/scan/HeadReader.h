@@ -6,6 +6,7 @@
 #include <QByteArray>
 
 #include <deque>
+#include <functional>
 #include <span>
 #include <utility>
 #include <vector>
@@ -27,21 +28,28 @@ public:
         QByteArray content = {};
     };
 
-    /// Both outlive the reader.
-    HeadReader(const FileTable &table, std::span<const Bucket> buckets);
+    /// Nanoseconds of a clock that no one sets.
+    using Clock = std::function<qint64()>;
 
-    /// The next file in the order. To be called at most once for each file of the buckets. Blocks for as long as the disk
+    /// The first three outlive the reader. `isCancelled` is asked before each file that is opened ahead of its turn.
+    HeadReader(const FileTable &table, std::span<const Bucket> buckets,
+               const std::function<bool()> &isCancelled, Clock clock = steadyClock());
+
+    /// The next file in the order, whose turn it is, so that the flag is not asked again. To be called at most once for each file of the buckets. Blocks for as long as the disk
     /// does.
     Head next();
 
 private:
     bool isDiskSlow() const { return expecting_ > 0; }
-    void openAhead();
-    void expect(const Head &head) const;
+    static Clock steadyClock();
+    bool isNextToBeOpened() const;
+    void openNext();
 
     const FileTable &table_;
     std::span<const Bucket> buckets_; // those not opened yet, the first from `file_` on
     size_t file_ = 0;
+    const std::function<bool()> &isCancelled_;
+    const Clock clock_;
     std::deque<Head> opened_;
     int expecting_ = 0; // for so many more files the disk counts as slow
 };

@@ -216,6 +216,25 @@ TEST(DuplicateBadFiles, groupsWhatIsLeftOfFilesThatHaveShrunkAlike)
     EXPECT_EQ(result.groups.front().size, 10000) << "the size that the walk has seen";
 }
 
+TEST(DuplicateBadFiles, groupsNoFileWithOneThatItNeverEqualled)
+{
+    const TempHome temp;
+    const QByteArray old = filled(10000, 1);
+    const QByteArray fresh = filled(6000, 2) + filled(4000, 3);
+    const QString rewritten = temp.file(u"1/file"_s, old);
+    temp.file(u"2/file"_s, old.first(6000) + fresh.last(4000));
+    int openings = 0;
+    const InjectedFaults rewriting([&](files::Operation operation, const QString &path) {
+        if (operation == files::Operation::open && path == rewritten && ++openings == 2)
+            temp.file(u"1/file"_s, fresh);
+        return 0;
+    });
+    const auto result = ScanRun({temp.at(u"1"_s), temp.at(u"2"_s)}).run();
+    EXPECT_EQ(openings, 2);
+    EXPECT_TRUE(result.groups.empty());
+    EXPECT_EQ(result.hashFailureCount, 1) << "it is left out";
+}
+
 TEST(DuplicateBadFiles, countsPipesSocketsAndDevicesWithoutWaitingForThem)
 {
     const TempHome temp;
