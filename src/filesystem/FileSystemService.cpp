@@ -4,6 +4,7 @@
 #include "base/Ids.h"
 #include "base/Paths.h"
 #include "filesystem/SizeProbes.h"
+#include "filesystem/Trash.h"
 
 #include <algorithm>
 #include <limits>
@@ -190,6 +191,16 @@ std::optional<QString> FileSystemService::readTextPrefix(const QString &path, qi
     if (!bytes || !bytes->isValidUtf8())
         return std::nullopt;
     return QString::fromUtf8(*bytes);
+}
+
+void FileSystemService::moveToTrash(const QString &path) const
+{
+    trash::move(platform_.recycler, path);
+}
+
+void FileSystemService::adminTrash(const QString &path) const
+{
+    trash::moveAsAdministrator(platform_.recycler, path);
 }
 
 void FileSystemService::openInTerminal(const QString &path) const

@@ -1,10 +1,10 @@
-// The ways of FileSystemService into the Trash.
+#include "filesystem/Trash.h"
 
 #include "base/EventLoop.h"
 #include "base/Files.h"
 #include "base/Paths.h"
-#include "filesystem/FileSystemService.h"
 
+#include <algorithm>
 #include <memory>
 #include <semaphore>
 
@@ -67,16 +67,18 @@ Error adminError(const Recycler::AdminFailure &failure)
     if (!failure.wasConstructed)
         return {adminDomain, -3, QStringLiteral("Couldn't construct the admin trash script.")};
     const int number = failure.number.value_or(-1);
-    if (number == FileSystemService::adminCancelled)
+    if (number == Recycler::cancelled)
         return {adminDomain, number, QStringLiteral("Admin authorization was cancelled.")};
     return {adminDomain, number, failure.message.value_or(QStringLiteral("Admin trash failed"))};
 }
 
 } // namespace
 
-void FileSystemService::moveToTrash(const QString &path) const
+namespace trash {
+
+void move(Recycler &recycler, const QString &path)
 {
-    const Recycler::Result result = recycled(platform_.recycler, path);
+    const Recycler::Result result = recycled(recycler, path);
     if (!isThere(path)) // the disk decides, whatever the service says
         return;
     if (result.error)
@@ -85,13 +87,15 @@ void FileSystemService::moveToTrash(const QString &path) const
         throw refusal(path);
 }
 
-void FileSystemService::adminTrash(const QString &path) const
+void moveAsAdministrator(Recycler &recycler, const QString &path)
 {
     if (!isThere(path))
         return;
-    if (const auto failure = platform_.recycler.moveToTrashAsAdministrator(path))
+    if (const auto failure = recycler.moveToTrashAsAdministrator(path))
         throw adminError(*failure);
     if (isThere(path))
         throw Error{adminDomain, stillThere,
                     QStringLiteral("Admin trash reported success but the file is still in place.")};
 }
+
+} // namespace trash
