@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 #include <fcntl.h>
@@ -151,6 +152,13 @@ std::optional<Attributes> attributes(const QString &path)
 bool exists(const QString &path)
 {
     return followed(path).has_value();
+}
+
+std::optional<QString> realPath(const QString &path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(
+        ::realpath(paths::toBytes(path).constData(), nullptr), std::free);
+    return real ? std::optional(paths::fromBytes(real.get())) : std::nullopt;
 }
 
 bool isDirectory(const QString &path)

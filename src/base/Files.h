@@ -53,6 +53,9 @@ bool exists(const QString &path);
 /// True when a folder is there; links are followed.
 bool isDirectory(const QString &path);
 
+/// Where a path really leads, without a link on the way. None when nothing is there.
+std::optional<QString> realPath(const QString &path);
+
 /// The names in a folder without "." and "..", in the file system's order, hidden ones included. None when it
 /// can't be listed. Links are followed.
 std::optional<std::vector<QString>> list(const QString &folder);

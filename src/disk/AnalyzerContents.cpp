@@ -1,6 +1,7 @@
 #include "disk/AnalyzerContents.h"
 
 #include "base/Paths.h"
+#include "base/Sums.h"
 
 #include <QStringList>
 
@@ -38,7 +39,7 @@ qint64 sumOf(const std::vector<FileEntry> &entries)
 {
     qint64 sum = 0;
     for (const FileEntry &entry : entries)
-        sum += entry.size; // within what the folder's own total held
+        sum = sums::saturated(sum, entry.size);
     return sum;
 }
 
@@ -66,13 +67,14 @@ std::vector<StorageCategory> mapCategories(const FileEntry &entry)
         return {};
     const double threshold = static_cast<double>(total) * leastShare;
     std::vector<StorageCategory> categories;
-    qint64 rest = total;
+    qint64 kept = 0;
     for (const FileEntry &child : children) {
         if (static_cast<double>(child.size) < threshold || categories.size() == mostCategories)
             continue;
         categories.push_back(category(child, categories.size()));
-        rest -= child.size;
+        kept = sums::saturated(kept, child.size);
     }
+    const qint64 rest = total - kept;
     const size_t leftOut = children.size() - categories.size();
     if (rest > 0 && leftOut > 0) {
         categories.push_back({QUuid::createUuid(),

@@ -1,7 +1,9 @@
 #include "disk/DiskService.h"
 
 #include "activity/FDAService.h"
+#include "base/GuardedPost.h"
 #include "common/CacheLifetime.h"
+#include "disk/DiskMeasures.h"
 #include "filesystem/FileSystemService.h"
 #include "filesystem/SizeProbes.h"
 
@@ -50,20 +52,6 @@ bool DiskService::isFresh(std::optional<Date> date) const
     return date && dates::secondsBetween(*date, platform_.clock.now()) < cacheLifetime();
 }
 
-void DiskService::postToMain(std::function<void(DiskService &)> block)
-{
-    platform_.mainQueue.post([self = QPointer(this), block = std::move(block)] {
-        if (self)
-            block(*self);
-    });
-}
-
-void DiskService::runJob(std::function<void(DiskService &)> job)
-{
-    // The job holds the service as it is: services live as long as the process.
-    platform_.workQueue.post(WorkPriority::userInitiated, [this, job = std::move(job)] { job(*this); });
-}
-
 void DiskService::scanStorage(bool force)
 {
     if (!force && isFresh(lastBreakdownScan_) && !cachedCategories_.empty())
@@ -80,21 +68,27 @@ void DiskService::refreshStorage()
 
 void DiskService::runStorage(bool stampsDate)
 {
-    postToMain([](DiskService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [](DiskService &self) {
         self.isScanningStorage_ = true;
         emit self.isScanningStorageChanged();
     });
-    runJob([stampsDate](DiskService &self) {
-        self.postToMain([stampsDate, categories = self.computeStorageCategories()](DiskService &service) {
-            service.cachedCategories_ = categories;
-            if (stampsDate)
-                service.lastBreakdownScan_ = service.platform_.clock.now();
-            service.isScanningStorage_ = false;
-            emit service.cachedCategoriesChanged();
-            emit service.lastBreakdownScanChanged();
-            emit service.isScanningStorageChanged();
-        });
+    platform_.workQueue.post(WorkPriority::userInitiated, [self = QPointer(this), &platform = platform_,
+                                                           &probes = probes_, stampsDate] {
+        guarded::post(platform.mainQueue, self,
+                      [categories = diskmeasures::storageCategories(*platform.locations, probes),
+                       stampsDate](DiskService &service) { service.publishStorage(categories, stampsDate); });
     });
+}
+
+void DiskService::publishStorage(const std::vector<StorageCategory> &categories, bool stampsDate)
+{
+    cachedCategories_ = categories;
+    if (stampsDate)
+        lastBreakdownScan_ = platform_.clock.now();
+    isScanningStorage_ = false;
+    emit cachedCategoriesChanged();
+    emit lastBreakdownScanChanged();
+    emit isScanningStorageChanged();
 }
 
 void DiskService::scanLargestDirs(bool force)
@@ -113,24 +107,45 @@ void DiskService::refreshLargestDirs()
 
 void DiskService::runLargestDirs()
 {
-    postToMain([](DiskService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [](DiskService &self) {
         self.isScanningLargestDirs_ = true;
         emit self.isScanningLargestDirsChanged();
     });
-    runJob([](DiskService &self) {
-        self.postToMain([directories = self.computeLargestDirectories()](DiskService &service) {
-            service.cachedLargeDirs_ = directories;
-            service.isScanningLargestDirs_ = false;
-            emit service.cachedLargeDirsChanged();
-            emit service.isScanningLargestDirsChanged();
+    platform_.workQueue.post(
+        WorkPriority::userInitiated, [self = QPointer(this), &platform = platform_, &probes = probes_] {
+            guarded::post(platform.mainQueue, self,
+                          [directories = diskmeasures::largestDirectories(*platform.locations, probes)](
+                              DiskService &service) { service.publishLargestDirs(directories); });
         });
-    });
+}
+
+void DiskService::publishLargestDirs(const std::vector<LargeDirectory> &directories)
+{
+    cachedLargeDirs_ = directories;
+    isScanningLargestDirs_ = false;
+    emit cachedLargeDirsChanged();
+    emit isScanningLargestDirsChanged();
+}
+
+std::vector<StorageCategory> DiskService::computeStorageCategories()
+{
+    return diskmeasures::storageCategories(*platform_.locations, probes_);
+}
+
+std::vector<LargeDirectory> DiskService::computeLargestDirectories()
+{
+    return diskmeasures::largestDirectories(*platform_.locations, probes_);
+}
+
+std::vector<LargeDirectory> DiskService::drillChildren(const QString &path)
+{
+    return diskmeasures::drillChildren(path, probes_);
 }
 
 void DiskService::cancelStorageScan()
 {
     probes_.cancelProbes(ProbeContext::storage);
-    postToMain([](DiskService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [](DiskService &self) {
         self.isScanningStorage_ = false;
         emit self.isScanningStorageChanged();
     });
@@ -141,7 +156,7 @@ void DiskService::cancelStorageScan()
 void DiskService::cancelLargestDirsScan()
 {
     probes_.cancelProbes(ProbeContext::largestDirs);
-    postToMain([](DiskService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [](DiskService &self) {
         self.isScanningLargestDirs_ = false;
         emit self.isScanningLargestDirsChanged();
     });
@@ -167,7 +182,7 @@ void DiskService::scanAnalyzer(const QString &path, bool force)
     else
         access.markDenied(accessContext);
     const int generation = ++analyzerScanGeneration_;
-    postToMain([path](DiskService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [path](DiskService &self) {
         self.isScanningAnalyzer_ = true;
         self.analyzerRoot_.reset();
         self.analyzerScanPath_ = path;
@@ -175,10 +190,11 @@ void DiskService::scanAnalyzer(const QString &path, bool force)
         emit self.analyzerRootChanged();
         emit self.analyzerScanPathChanged();
     });
-    runJob([path, generation, &fileSystem = fileSystem_()](DiskService &self) {
+    platform_.workQueue.post(WorkPriority::userInitiated, [self = QPointer(this), &main = platform_.mainQueue,
+                                                           &fileSystem = fileSystem_(), path, generation] {
         fileSystem.scanCancelled.store(false, std::memory_order_relaxed);
         auto tree = std::make_shared<const FileEntry>(fileSystem.scanTree(path, 0, analyzerDepth));
-        self.postToMain([tree = std::move(tree), path, generation](DiskService &service) {
+        guarded::post(main, self, [tree = std::move(tree), path, generation](DiskService &service) {
             service.publishAnalyzer(tree, path, generation);
         });
     });
@@ -201,7 +217,7 @@ void DiskService::cancelAnalyzerScan()
 {
     fileSystem_().scanCancelled.store(true, std::memory_order_relaxed);
     probes_.cancelProbes(ProbeContext::generic);
-    postToMain([](DiskService &self) {
+    guarded::post(platform_.mainQueue, QPointer(this), [](DiskService &self) {
         self.isScanningAnalyzer_ = false;
         emit self.isScanningAnalyzerChanged();
     });

@@ -77,12 +77,10 @@ public:
     /// Chooses the folder that the next analyzer scan shows before it begins.
     void setAnalyzerScanPath(const QString &path);
 
-    /// Up to 10 of the largest entries directly in `path`, dot names left out. Blocks; any thread but the main.
-    std::vector<LargeDirectory> drillChildren(const QString &path);
+    // What the scans measure, as told in diskmeasures. Each blocks; any thread but the main one.
 
-    /// The seven main folders with their sizes, in their fixed order. Blocks; any thread but the main one.
+    std::vector<LargeDirectory> drillChildren(const QString &path);
     std::vector<StorageCategory> computeStorageCategories();
-    /// The 8 largest entries directly in the main folders that are above 10 million bytes. Blocks likewise.
     std::vector<LargeDirectory> computeLargestDirectories();
 
 signals:
@@ -99,10 +97,10 @@ signals:
 private:
     bool isFresh(std::optional<Date> date) const;
     void runStorage(bool stampsDate);
+    void publishStorage(const std::vector<StorageCategory> &categories, bool stampsDate);
     void runLargestDirs();
+    void publishLargestDirs(const std::vector<LargeDirectory> &directories);
     void publishAnalyzer(std::shared_ptr<const FileEntry> tree, const QString &path, int generation);
-    void postToMain(std::function<void(DiskService &)> block);
-    void runJob(std::function<void(DiskService &)> job);
 
     const Platform &platform_;
     SizeProbes &probes_;

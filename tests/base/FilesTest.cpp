@@ -197,6 +197,19 @@ TEST(FileLinks, countByWhatTheyLeadTo)
     EXPECT_EQ(names(toFolder), std::set<QString>{u"file"_s});
 }
 
+TEST(FileLinks, areNotInARealPath)
+{
+    const TempHome temp;
+    const QString folder = *files::realPath(temp.folder(u"folder"_s));
+    const QString name = paths::fromBytes("two\nlines \xff");
+    temp.file(u"folder/"_s + name);
+    const QString toFolder = temp.link(u"to folder"_s, u"folder"_s);
+    const QString toLink = temp.link(u"to link"_s, u"to folder"_s);
+    EXPECT_EQ(files::realPath(paths::join(toLink, name)), paths::join(folder, name));
+    EXPECT_EQ(files::realPath(toFolder + u"/../folder/"_s), folder);
+    EXPECT_FALSE(files::realPath(temp.at(u"missing"_s)));
+}
+
 TEST(FileLinks, thatDangleLeadToNothing)
 {
     const TempHome temp;
@@ -205,6 +218,7 @@ TEST(FileLinks, thatDangleLeadToNothing)
     EXPECT_FALSE(files::isDirectory(link));
     EXPECT_FALSE(files::list(link));
     EXPECT_FALSE(files::readPrefix(link, 1));
+    EXPECT_FALSE(files::realPath(link));
     EXPECT_EQ(files::attributes(link)->kind, Kind::link);
     EXPECT_EQ(names(temp.path()), std::set<QString>{u"link"_s});
 }
@@ -218,6 +232,7 @@ TEST(FileLinks, thatRunInACycleLeadToNothing)
     EXPECT_FALSE(files::isDirectory(first));
     EXPECT_FALSE(files::list(first));
     EXPECT_FALSE(files::readPrefix(first, 1));
+    EXPECT_FALSE(files::realPath(first));
     EXPECT_EQ(files::attributes(first)->kind, Kind::link);
     EXPECT_EQ(failureOf([&] { files::makeDirectories(first); }), EEXIST);
     EXPECT_EQ(failureOf([&] { files::makeDirectories(paths::join(first, u"below"_s)); }), EEXIST);

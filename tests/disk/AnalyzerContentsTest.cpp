@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <limits>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -51,6 +53,13 @@ TEST(AnalyzerMap, childOfExactlyTwoPercentIsKept)
         EXPECT_EQ(sizesOf(categories), Sizes({98 * percent, 2 * percent}));
         EXPECT_EQ(categories.back().name, "child1") << percent;
     }
+}
+
+TEST(AnalyzerMap, sumBeyond64BitsIsTheLargestCount)
+{
+    const qint64 most = std::numeric_limits<qint64>::max();
+    EXPECT_EQ(sizesOf(analyzer::mapCategories(folderOf({most, most, 1}))), Sizes({most, most}));
+    EXPECT_EQ(sizesOf(analyzer::mapCategories(folderOf({most - 5, 3, 9}))), Sizes({most - 5, 5}));
 }
 
 TEST(AnalyzerMap, childBelowTwoPercentGoesToTheOthers)

@@ -12,15 +12,8 @@ struct DiskServices
     TestPlatform test;
     SizeProbes &probes = test.probes;
     FileSystemService fileSystem{test.platform, probes};
-    DiskService disk = over(test.platform);
-
-    /// The service of the disk over another platform.
-    DiskService over(const Platform &platform)
-    {
-        return DiskService(
-            platform, probes, [this]() -> FileSystemService & { return fileSystem; },
-            [this]() -> FDAService & { return test.access; });
-    }
+    DiskService disk{test.platform, probes, [this]() -> FileSystemService & { return fileSystem; },
+                     [this]() -> FDAService & { return test.access; }};
 
     void useDu(const QByteArray &lines) { test.useDu(lines); }
 

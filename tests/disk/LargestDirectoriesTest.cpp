@@ -1,3 +1,4 @@
+#include "disk/DiskMeasures.h"
 #include "disk/DiskServices.h"
 #include "filesystem/InjectedFaults.h"
 
@@ -25,6 +26,16 @@ struct LargestDirectories : testing::Test
     void fileOf(const QString &relative, qint64 kibibytes)
     {
         test.temp.file(relative, QByteArray::number(kibibytes) + "\n");
+    }
+
+    /// The result over roots of a test's own, by their paths below the home folder.
+    QStringList largestBelow(const QStringList &roots)
+    {
+        Locations table = *test.locations;
+        table.largestDirectoryRoots.clear();
+        for (const QString &root : roots)
+            table.largestDirectoryRoots << services.inHome(root);
+        return names(diskmeasures::largestDirectories(table, services.probes));
     }
 
     size_t jobsOfUnforcedScan()
@@ -140,19 +151,59 @@ TEST_F(LargestDirectories, whatVanishesOrLeadsNowhereIsNotMeasured)
 TEST_F(LargestDirectories, aRootInsideAnotherIsMeasuredThroughItsOwnChildrenOnly)
 {
     services.useDuThatReadsSizes();
-    const Lazy<Locations> locations([this] {
-        Locations table = macLocations(test.home);
-        table.largestDirectoryRoots = {services.inHome("Documents"), services.inHome("Documents/Pictures")};
-        return table;
-    });
-    const Platform &own = test.platform;
-    const Platform platform{own.home,     locations,     own.defaults,  own.clock,         own.programs,
-                            own.keyStyle, own.mainQueue, own.workQueue, own.notifications, own.workspace,
-                            own.recycler, own.systemLog, own.systemInfo};
     fileOf("home/Documents/Pictures/size", 50'000);
     fileOf("home/Documents/Pictures/photo", 20'000);
-    DiskService other = services.over(platform);
-    EXPECT_EQ(names(other.computeLargestDirectories()), QStringList({"size", "photo"}));
+    EXPECT_EQ(largestBelow({"Documents", "Documents/Pictures"}), QStringList({"size", "photo"}));
+}
+
+TEST_F(LargestDirectories, anEntryThatLeadsToARootFurtherDownIsNotMeasured)
+{
+    services.useDuThatReadsSizes();
+    fileOf("home/Documents/size", 90'000);
+    fileOf("home/Documents/Mine/size", 60'000);
+    fileOf("home/Documents/Mine/Media/Pictures/photo", 20'000);
+    fileOf("home/Documents/Mine too/size", 30'000);
+    EXPECT_EQ(largestBelow({"Documents", "Documents/Mine/Media/Pictures"}),
+              QStringList({"size", "Mine too", "photo"}));
+    EXPECT_EQ(largestBelow({"Documents/Mine/Media/Pictures", "Documents"}),
+              QStringList({"size", "Mine too", "photo"}));
+}
+
+TEST_F(LargestDirectories, aRootReachedThroughALinkIsSeenToLieInAnother)
+{
+    services.useDuThatReadsSizes();
+    fileOf("home/Documents/Mine/size", 60'000);
+    fileOf("home/Documents/Mine/Pictures/photo", 20'000);
+    test.temp.link("home/Pictures", "Documents/Mine/Pictures");
+    EXPECT_EQ(largestBelow({"Documents", "Pictures"}), QStringList({"photo"}));
+    test.temp.link("home/Papers", "Documents");
+    EXPECT_EQ(largestBelow({"Papers", "Pictures"}), QStringList({"photo"}));
+}
+
+TEST_F(LargestDirectories, anEntryThatIsALinkToWhatHoldsARootIsNotMeasured)
+{
+    services.useDuThatReadsSizes();
+    fileOf("elsewhere/size", 60'000);
+    fileOf("elsewhere/Pictures/photo", 20'000);
+    test.temp.link("home/Pictures", test.temp.at("elsewhere/Pictures"));
+    test.temp.folder("home/Documents");
+    test.temp.link("home/Documents/all", test.temp.at("elsewhere"));
+    EXPECT_EQ(largestBelow({"Documents", "Pictures"}), QStringList({"photo"}));
+}
+
+TEST_F(LargestDirectories, twoRootsThatAreOneFolderListItOnce)
+{
+    services.useDuThatReadsSizes();
+    fileOf("home/Music/song", 20'000);
+    test.temp.link("home/Movies", "Music");
+    EXPECT_EQ(largestBelow({"Music", "Movies", "Music"}), QStringList({"song"}));
+}
+
+TEST_F(LargestDirectories, aRootThatIsNotThereHidesNothing)
+{
+    services.useDuThatReadsSizes();
+    fileOf("home/Documents/Mine/size", 60'000);
+    EXPECT_EQ(largestBelow({"Documents", "Documents/Mine/Pictures"}), QStringList({"Mine"}));
 }
 
 TEST_F(LargestDirectories, emptyResultRescansEachTimeAlthoughTheDateIsFresh)

@@ -3,6 +3,7 @@
 #include "Arguments.h"
 #include "base/Files.h"
 #include "base/Paths.h"
+#include "base/Sums.h"
 #include "DriverPlatform.h"
 #include "Json.h"
 #include "UsageError.h"
@@ -75,8 +76,9 @@ void probe(const Arguments &arguments)
     DriverPlatform platform;
     qint64 bytes = 0;
     for (qint64 i = 0; i < probes; ++i)
-        bytes += platform.sizeProbes().probeSize(folders[static_cast<size_t>(i) % folders.size()],
-                                                 ProbeContext::generic);
+        bytes = sums::saturated(
+            bytes, platform.sizeProbes().probeSize(folders[static_cast<size_t>(i) % folders.size()],
+                                                   ProbeContext::generic));
     json::print(QJsonObject{
         {QStringLiteral("folders"), static_cast<qint64>(folders.size())},
         {QStringLiteral("probes"), probes},
