@@ -3,19 +3,19 @@ import Quillmere
 
 // How old a cached result is.
 Rectangle {
-    id: pill
+    id: badge
 
-    required property string text
-    required property string tip
+    required property AgePillView pill
 
+    visible: pill.isShown
     implicitWidth: row.implicitWidth + Theme.unit * 5
     implicitHeight: 22
     radius: height / 2
     color: Theme.raised
     border.color: Theme.line
     Accessible.role: Accessible.StaticText
-    Accessible.name: text
-    Accessible.description: tip
+    Accessible.name: pill.text
+    Accessible.description: pill.tooltip
 
     Row {
         id: row
@@ -28,7 +28,7 @@ Rectangle {
         }
         BodyText {
             anchors.verticalCenter: parent.verticalCenter
-            text: pill.text
+            text: badge.pill.text
             color: Theme.secondText
             font.pixelSize: Theme.captionSize
         }
@@ -37,8 +37,8 @@ Rectangle {
         id: pointer
     }
     Tip {
-        control: pill
+        control: badge
         isDue: pointer.hovered
-        text: pill.tip
+        text: badge.pill.tooltip
     }
 }

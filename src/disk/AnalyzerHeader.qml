@@ -32,9 +32,7 @@ Item {
 
         AgePill {
             anchors.verticalCenter: parent.verticalCenter
-            visible: header.view.isPillShown && !header.view.isScanning
-            text: header.view.pillText
-            tip: header.view.pillTooltip
+            pill: header.view.pill
         }
         Spinner {
             anchors.verticalCenter: parent.verticalCenter

@@ -28,7 +28,6 @@ Item {
         anchors.leftMargin: Theme.unit
         symbol: "house.fill"
         text: path.view.texts.home
-        tip: path.view.location
         onClicked: path.view.goHome()
     }
     ListView {
@@ -69,6 +68,7 @@ Item {
         anchors.right: parent.right
         symbol: "folder"
         text: path.view.texts.openInFinder
+        tip: path.view.location
         onClicked: path.view.openInFinder()
     }
 }

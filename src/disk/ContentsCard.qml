@@ -52,7 +52,9 @@ FocusScope {
         visible: !card.view.isScanningDeeper
         model: card.view.contents
         currentIndex: -1
-        keyNavigationEnabled: true
+        // A list that is out of sight keeps the focus for its return, but takes no keys.
+        keyNavigationEnabled: visible
+        Keys.enabled: visible
         activeFocusOnTab: true
 
         // Whoever comes by key sees where they are.
@@ -75,14 +77,14 @@ FocusScope {
         Keys.onEnterPressed: card.view.activateRow(currentIndex)
         Keys.onRightPressed: card.view.openRow(currentIndex)
         Keys.onLeftPressed: card.view.goBack()
-        Keys.onMenuPressed: menu.openAt(currentIndex, currentItem)
+        Keys.onMenuPressed: menu.openFor(model, currentIndex, currentItem)
         delegate: ContentsRow {
             width: ListView.view.width
             isCurrent: ListView.isCurrentItem && list.activeFocus
             revealTip: card.view.texts.reveal
             onClicked: card.view.openRow(index)
             onRevealed: card.view.revealRow(index)
-            onMenuRequested: menu.openAt(index, null)
+            onMenuRequested: menu.openFor(list.model, index, null)
             onPressed: list.take(index)
         }
     }

@@ -2,24 +2,14 @@ import QtQuick
 import Quillmere
 
 // The context menu of a row of the table.
-PopupMenu {
+RowMenu {
     id: menu
 
     required property DiskAnalyzerView view
-    property int row: -1
-
-    // For the row with that number, near `item` where a key has asked for it.
-    function openAt(index, item) {
-        if (index < 0)
-            return;
-        row = index;
-        openLine.text = view.openText(index); // what stands in that row now
-        openNear(item);
-    }
 
     MenuLine {
-        id: openLine
         objectName: "openLine"
+        text: menu.view.openText(menu.row)
         onTriggered: menu.view.activateRow(menu.row)
     }
     MenuLine {

@@ -1,6 +1,7 @@
 #include "disk/DiskAnalyzerView.h"
 
 #include "base/Error.h"
+#include "base/GuardedPost.h"
 #include "base/Paths.h"
 #include "common/Formatters.h"
 #include "common/KeySigns.h"
@@ -10,8 +11,6 @@
 #include <QPointer>
 
 namespace {
-
-constexpr double tickPeriod = 30; // seconds
 
 /// A child that keeps its parent's tree alive.
 DiskAnalyzerView::Entry childOf(const DiskAnalyzerView::Entry &parent, size_t index)
@@ -31,8 +30,7 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
     : platform_(platform)
     , diskService_(diskService)
     , fileSystem_(fileSystem)
-    , tickClock_(platform.clock.now())
-    , ticker_(platform.mainQueue)
+    , pill_(platform, [this] { return diskService_.cacheLifetime(); })
     , breadcrumbRows_({{"entryName", [](const Entry &entry) { return paths::inOneLine(entry->name); }}})
     , contentRows_({
           {"symbol", [](const Row &row) { return analyzer::rowSymbol(*row.entry); }},
@@ -45,20 +43,15 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
     , banner_(access, DiskService::accessContext)
 {
     connect(&diskService_, &DiskService::isScanningAnalyzerChanged, this, [this] {
+        showAge();
         emit scanChanged();
         emit contentChanged();
     });
     connect(&diskService_, &DiskService::analyzerRootChanged, this, &DiskAnalyzerView::showCurrentEntry);
     connect(&diskService_, &DiskService::analyzerScanPathChanged, this, &DiskAnalyzerView::contentChanged);
-    connect(&diskService_, &DiskService::lastAnalyzerScanChanged, this, [this] {
-        tickClock_ = platform_.clock.now();
-        emit pillChanged();
-    });
+    connect(&diskService_, &DiskService::lastAnalyzerScanChanged, this, &DiskAnalyzerView::showAge);
     treemap_.onTap = [this](const StorageCategory &category) { openChildNamed(category.name); };
-    ticker_.start(tickPeriod, [this] {
-        tickClock_ = platform_.clock.now();
-        emit pillChanged();
-    });
+    showAge();
     showCurrentEntry();
 }
 
@@ -88,19 +81,9 @@ QString DiskAnalyzerView::location() const
     return entry ? paths::inOneLine(entry->path) : QString();
 }
 
-LastScannedPill DiskAnalyzerView::pill() const
+void DiskAnalyzerView::showAge()
 {
-    return {diskService_.lastAnalyzerScan(), diskService_.cacheLifetime(), tickClock_};
-}
-
-QString DiskAnalyzerView::pillText() const
-{
-    return isPillShown() ? pill().text() : QString();
-}
-
-QString DiskAnalyzerView::pillTooltip() const
-{
-    return isPillShown() ? pill().tooltip() : QString();
+    pill_.set(diskService_.lastAnalyzerScan(), isScanning());
 }
 
 QString DiskAnalyzerView::mapSummary() const
@@ -266,24 +249,17 @@ void DiskAnalyzerView::moveToTrash(int row)
         return;
     isTrashing_ = true;
     emit scanChanged();
-    // Not from within the menu: the move lets the event loop turn, and the screen with the menu may go meanwhile.
-    platform_.mainQueue.post([self = QPointer(this), entry] {
-        if (self)
-            self->runTrash(entry);
-    });
+    guarded::runLater(platform_.mainQueue, *this, [entry](DiskAnalyzerView &self) { self.runTrash(entry); });
 }
 
 void DiskAnalyzerView::runTrash(const Entry &entry)
 {
     const Entry shown = currentEntry();
-    const QPointer self(this); // another screen may be chosen during the move
     try {
         fileSystem_.moveToTrash(entry->path);
     } catch (const Error &) {
         // Dropped without a word: the row stays, and a rescan tells what is there.
     }
-    if (!self)
-        return;
     isTrashing_ = false;
     emit scanChanged();
     if (currentEntry() == shown) // nobody has gone elsewhere meanwhile
@@ -301,11 +277,16 @@ void DiskAnalyzerView::openChildNamed(const QString &name)
 
 void DiskAnalyzerView::openEntry(const Entry &entry)
 {
-    // A second click while a level loads would only append that level twice.
-    if (!entry || !entry->isDirectory || isScanningDeeper_)
+    if (!entry || !entry->isDirectory)
         return;
-    if (!entry->hasChildren())
-        return scanDeeper(entry->path);
+    if (entry->hasChildren())
+        append(entry);
+    else if (!isScanningDeeper_) // a second click while a level loads would only append that level twice
+        scanDeeper(entry->path);
+}
+
+void DiskAnalyzerView::append(const Entry &entry)
+{
     std::vector<Entry> longer = breadcrumb_;
     longer.push_back(entry);
     setBreadcrumb(std::move(longer));
@@ -320,13 +301,9 @@ void DiskAnalyzerView::scanDeeper(const QString &path)
         [self = QPointer(this), path, &main = platform_.mainQueue, &fileSystem = fileSystem_] {
             fileSystem.scanCancelled.store(false, std::memory_order_relaxed);
             const Entry tree = std::make_shared<const FileEntry>(fileSystem.scanTree(path, 0, 1));
-            main.post([self, tree] {
-                if (!self)
-                    return;
-                self->isScanningDeeper_ = false;
-                std::vector<Entry> longer = self->breadcrumb_;
-                longer.push_back(tree);
-                self->setBreadcrumb(std::move(longer));
+            guarded::post(main, self, [tree](DiskAnalyzerView &view) {
+                view.isScanningDeeper_ = false;
+                view.append(tree);
             });
         });
 }

@@ -2,10 +2,9 @@
 
 #include "activity/FDABanner.h"
 #include "base/RecordListModel.h"
-#include "base/Ticker.h"
+#include "common/AgePillView.h"
 #include "disk/AnalyzerTexts.h"
 #include "disk/DiskService.h"
-#include "common/LastScannedPill.h"
 #include "disk/TreemapView.h"
 #include "filesystem/FileEntry.h"
 
@@ -18,7 +17,7 @@ class FileSystemService;
 
 /// The Disk Analyzer's screen: where the bytes of one folder go, as a map and as a table, with drilling into the
 /// folders below. The measured tree lives in the service; the way into it lives here and is lost with the screen.
-class DiskAnalyzerView final : public QObject
+class DiskAnalyzerView final : public QObject, public std::enable_shared_from_this<DiskAnalyzerView>
 {
     Q_OBJECT
     Q_PROPERTY(QString title READ title CONSTANT)
@@ -30,9 +29,7 @@ class DiskAnalyzerView final : public QObject
     Q_PROPERTY(QString progressText READ progressText NOTIFY contentChanged)
     Q_PROPERTY(bool hasEntry READ hasEntry NOTIFY contentChanged)
     Q_PROPERTY(QString location READ location NOTIFY contentChanged)
-    Q_PROPERTY(bool isPillShown READ isPillShown NOTIFY pillChanged)
-    Q_PROPERTY(QString pillText READ pillText NOTIFY pillChanged)
-    Q_PROPERTY(QString pillTooltip READ pillTooltip NOTIFY pillChanged)
+    Q_PROPERTY(AgePillView *pill READ pill CONSTANT)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY contentChanged)
     Q_PROPERTY(QString mapSummary READ mapSummary NOTIFY contentChanged)
     Q_PROPERTY(bool isMapEmpty READ isMapEmpty NOTIFY contentChanged)
@@ -63,10 +60,7 @@ public:
     bool isAnalyzing() const { return isScanning() && !currentEntry(); } ///< no tree to show yet
     QString progressText() const;
     bool hasEntry() const { return currentEntry() != nullptr; }
-    QString location() const; ///< the path of the entry on view
-    bool isPillShown() const { return pill().isShown(); }
-    QString pillText() const;
-    QString pillTooltip() const;
+    QString location() const; ///< the path of the entry on view, which `openInFinder` shows
     bool canGoBack() const { return !breadcrumb_.empty(); }
     QString mapSummary() const;
     bool isMapEmpty() const;
@@ -82,6 +76,7 @@ public:
     QAbstractItemModel *contents() { return &contentRows_; }
     TreemapView *treemap() { return &treemap_; }
     FDABanner *banner() { return &banner_; }
+    AgePillView *pill() { return &pill_; }
     QString trashText() const;
     bool canTrash() const { return !isScanning() && !isTrashing_; }
 
@@ -112,7 +107,6 @@ public:
 signals:
     void scanChanged();
     void contentChanged();
-    void pillChanged();
     void entryWillChange(); ///< the table is about to show another entry, from its top
 
 private:
@@ -122,13 +116,14 @@ private:
         double share = 0;
     };
 
-    LastScannedPill pill() const;
     Entry child(int row) const;
     void openChildNamed(const QString &name);
     void scanDeeper(const QString &path);
     void runTrash(const Entry &entry);
     void startScan(const QString &path);
+    void append(const Entry &entry);
     void setBreadcrumb(std::vector<Entry> breadcrumb);
+    void showAge();
     void showCurrentEntry();
 
     const Platform &platform_;
@@ -136,8 +131,7 @@ private:
     FileSystemService &fileSystem_;
     std::vector<Entry> breadcrumb_;
     bool isScanningDeeper_ = false;
-    Date tickClock_;
-    Ticker ticker_;
+    AgePillView pill_;
     RecordListModel<Entry> breadcrumbRows_;
     RecordListModel<Row> contentRows_;
     TreemapView treemap_;

@@ -46,7 +46,7 @@ protected:
     void inHome(const char *relative, qint64 size) const { inHome(QString::fromUtf8(relative), size); }
     QString path(const char *relative) const { return paths::join(test.home, QString::fromUtf8(relative)); }
 
-    void make() { view = std::make_unique<DiskAnalyzerView>(test.platform, disk, fileSystem, test.access); }
+    void make() { view = std::make_shared<DiskAnalyzerView>(test.platform, disk, fileSystem, test.access); }
     /// A screen with the whole home measured.
     void makeScanned()
     {
@@ -71,5 +71,5 @@ protected:
     FileSystemService fileSystem{test.platform, test.probes};
     DiskService disk{test.platform, test.probes, [this]() -> FileSystemService & { return fileSystem; },
                      [this]() -> FDAService & { return test.access; }};
-    std::unique_ptr<DiskAnalyzerView> view;
+    std::shared_ptr<DiskAnalyzerView> view;
 };

@@ -142,6 +142,50 @@ TEST_F(DiskAnalyzerNavigationTest, takesNoSecondClickWhileALevelLoads)
     EXPECT_EQ(crumbs(), QStringLiteral("Documents/Deep"));
 }
 
+TEST_F(DiskAnalyzerNavigationTest, opensFoldersWhoseContentIsThereWhileALevelLoads)
+{
+    inHome("Music/Albums/song.mp3", 100);
+    test.temp.folder(QStringLiteral("home/Music/Empty"));
+    makeScanned();
+    open("Documents");
+    open("Deep");
+    view->goHome();
+    open("Music");
+    EXPECT_EQ(crumbs(), QStringLiteral("Music"));
+    EXPECT_TRUE(view->isScanningDeeper());
+    open("Empty"); // would be a second level on its way
+    EXPECT_EQ(test.workQueue.waiting(), 1U);
+    test.settle();
+    EXPECT_EQ(crumbs(), QStringLiteral("Music/Deep"));
+}
+
+TEST_F(DiskAnalyzerNavigationTest, appendsALevelThatArrivesAfterHome)
+{
+    makeScanned();
+    open("Documents");
+    open("Deep");
+    view->goHome();
+    EXPECT_EQ(crumbs(), QString());
+    test.settle();
+    EXPECT_EQ(crumbs(), QStringLiteral("Deep"));
+    EXPECT_EQ(view->parentRowText(), QStringLiteral("..  Home"));
+    EXPECT_EQ(names(), QStringLiteral("inside.txt"));
+}
+
+TEST_F(DiskAnalyzerNavigationTest, appendsALevelThatArrivesAfterARescan)
+{
+    makeScanned();
+    open("Documents");
+    open("Deep");
+    test.workQueue.run(); // the level is on its way to the main thread
+    view->rescan();
+    EXPECT_EQ(crumbs(), QString());
+    test.settle();
+    EXPECT_EQ(crumbs(), QStringLiteral("Deep"));
+    view->goHome();
+    EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
+}
+
 TEST_F(DiskAnalyzerNavigationTest, showsAFolderThatHasVanishedAsEmpty)
 {
     makeScanned();

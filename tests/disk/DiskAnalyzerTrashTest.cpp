@@ -15,13 +15,13 @@ struct DiskAnalyzerTrash : public testing::Test
 {
     DiskServices services;
     TestPlatform &test = services.test;
-    std::unique_ptr<DiskAnalyzerView> view;
+    std::shared_ptr<DiskAnalyzerView> view;
     QString path = test.temp.file(QStringLiteral("home/big.bin"), QByteArray(9000, 'x'));
 
     void SetUp() override
     {
         test.temp.file(QStringLiteral("home/folder/inside"), "x");
-        view = std::make_unique<DiskAnalyzerView>(test.platform, services.disk, services.fileSystem,
+        view = std::make_shared<DiskAnalyzerView>(test.platform, services.disk, services.fileSystem,
                                                   test.access);
         view->appear();
         test.settle();
@@ -109,17 +109,21 @@ TEST_F(DiskAnalyzerTrash, takesNoSecondMoveWhileOneIsUnderWay)
     EXPECT_TRUE(view->canTrash());
 }
 
-TEST_F(DiskAnalyzerTrash, survivesThatItsScreenGoesDuringTheMove)
+TEST_F(DiskAnalyzerTrash, livesUntilItsMoveHasEndedThoughAnotherScreenIsChosenMeanwhile)
 {
     Recycler::Completion answer;
     test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
+    const std::weak_ptr<DiskAnalyzerView> model = view;
+    bool livesDuringTheMove = false;
     QObject context;
     QTimer::singleShot(0, &context, [&] {
         view.reset(); // another screen was chosen
+        livesDuringTheMove = !model.expired();
         answer({});
     });
     moveToTrash(QStringLiteral("big.bin"));
-    EXPECT_EQ(view, nullptr);
+    EXPECT_TRUE(livesDuringTheMove);
+    EXPECT_TRUE(model.expired());
 }
 
 TEST_F(DiskAnalyzerTrash, movesNothingOnceItsScreenIsGone)

@@ -44,10 +44,11 @@ TEST_F(DiskAnalyzerViewTest, hasNothingToShowBeforeTheFirstScan)
     EXPECT_FALSE(view->hasEntry());
     EXPECT_FALSE(view->isScanning());
     EXPECT_FALSE(view->isAnalyzing());
-    EXPECT_FALSE(view->isPillShown());
+    EXPECT_FALSE(view->pill()->isShown());
     EXPECT_FALSE(view->isEmptyDirectory());
     EXPECT_TRUE(view->isMapEmpty());
-    EXPECT_EQ(view->pillText() + view->pillTooltip() + view->mapSummary() + view->location(), QString());
+    EXPECT_EQ(view->pill()->text() + view->pill()->tooltip() + view->mapSummary() + view->location(),
+              QString());
     EXPECT_EQ(view->contentsHeader(), QStringLiteral("CONTENTS (0 items)"));
     view->openInFinder();
     view->openRow(0);
@@ -79,7 +80,9 @@ TEST_F(DiskAnalyzerViewTest, showsProgressInThePlaceOfATreeDuringAScan)
     EXPECT_FALSE(view->isEmptyDirectory());
     EXPECT_EQ(view->progressText(), QStringLiteral("Scanning ") + test.home);
     EXPECT_EQ(view->contents()->rowCount(), 0);
+    EXPECT_FALSE(view->pill()->isShown());
     test.settle();
+    EXPECT_TRUE(view->pill()->isShown());
     EXPECT_FALSE(view->isScanning());
     EXPECT_FALSE(view->isAnalyzing());
     EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
@@ -104,7 +107,7 @@ TEST_F(DiskAnalyzerViewTest, findsAFinishedTreeWhenItIsMade)
     test.settle();
     make();
     EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
-    EXPECT_TRUE(view->isPillShown());
+    EXPECT_TRUE(view->pill()->isShown());
 }
 
 TEST_F(DiskAnalyzerViewTest, keepsTheTreeOfTheSameFolderWithinTheLifetime)
@@ -214,7 +217,7 @@ TEST_F(DiskAnalyzerViewTest, reusesThePartialTreeOfACancelledScan)
         test.settle();
     }
     ASSERT_TRUE(view->hasEntry());
-    EXPECT_TRUE(view->isPillShown());
+    EXPECT_TRUE(view->pill()->isShown());
     const auto partial = disk.analyzerRoot();
     view->appear();
     test.settle();
@@ -260,22 +263,23 @@ TEST_F(DiskAnalyzerViewTest, changesNothingWhenNoFolderIsChosen)
 TEST_F(DiskAnalyzerViewTest, movesItsPillOnEveryThirtySeconds)
 {
     makeScanned();
-    EXPECT_EQ(view->pillText(), QStringLiteral("Cached · just now"));
-    const QSignalSpy changes(view.get(), &DiskAnalyzerView::pillChanged);
+    EXPECT_EQ(view->pill()->text(), QStringLiteral("Cached · just now"));
+    const QSignalSpy changes(view->pill(), &AgePillView::changed);
     test.clock.advance(180);
-    EXPECT_EQ(view->pillText(), QStringLiteral("Cached · just now"));
+    EXPECT_EQ(view->pill()->text(), QStringLiteral("Cached · just now"));
     test.mainQueue.advance(29);
     EXPECT_EQ(changes.count(), 0);
     test.mainQueue.advance(2);
     EXPECT_EQ(changes.count(), 1);
-    EXPECT_EQ(view->pillText(), QStringLiteral("Cached · 3 min ago"));
-    EXPECT_EQ(view->pillTooltip(),
+    EXPECT_EQ(view->pill()->text(), QStringLiteral("Cached · 3 min ago"));
+    EXPECT_EQ(view->pill()->tooltip(),
               QStringLiteral(
                   "Last scanned 3 min ago. Auto-refresh in 2 min 0 sec, or click Refresh to update now."));
     test.clock.advance(120);
     test.mainQueue.advance(30);
-    EXPECT_EQ(view->pillText(), QStringLiteral("Stale · refreshing soon"));
-    EXPECT_EQ(view->pillTooltip(), QStringLiteral("Cache expired — next view will re-scan automatically."));
+    EXPECT_EQ(view->pill()->text(), QStringLiteral("Stale · refreshing soon"));
+    EXPECT_EQ(view->pill()->tooltip(),
+              QStringLiteral("Cache expired — next view will re-scan automatically."));
     EXPECT_EQ(test.workQueue.waiting(), 0U); // no timer scans
 }
 
@@ -284,9 +288,9 @@ TEST_F(DiskAnalyzerViewTest, takesThePillsLifetimeFromTheSettingsAsTheyStand)
     makeScanned();
     test.clock.advance(400);
     test.mainQueue.advance(30);
-    EXPECT_EQ(view->pillText(), QStringLiteral("Stale · refreshing soon"));
+    EXPECT_EQ(view->pill()->text(), QStringLiteral("Stale · refreshing soon"));
     test.defaults.set(settings::diskCacheLifetimeMinutes, qint64(10));
-    EXPECT_EQ(view->pillText(), QStringLiteral("Cached · 6 min ago"));
+    EXPECT_EQ(view->pill()->text(), QStringLiteral("Cached · 6 min ago"));
 }
 
 TEST_F(DiskAnalyzerViewTest, listsTheContentsWithTheirShares)

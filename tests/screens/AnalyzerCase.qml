@@ -20,9 +20,9 @@ ScreenCase {
         Program.forget();
     }
 
-    // The path of the entry on view, as the tooltip of the Home button tells it.
+    // The path of the entry on view, as the tooltip of the file viewer's button tells it.
     function location() {
-        return Program.named("homeButton").tip;
+        return Program.named("finderButton").tip;
     }
 
     function waitForScan() {

@@ -34,6 +34,12 @@ bool DiskUnderTest::isScanning() const
     return composition_.disk().isScanningAnalyzer();
 }
 
+void DiskUnderTest::beginScan()
+{
+    DiskService &disk = composition_.disk();
+    disk.scanAnalyzer(disk.analyzerScanPath(), true);
+}
+
 int DiskUnderTest::probeCount() const
 {
     size_t count = 0;

@@ -14,6 +14,8 @@ public:
     DiskUnderTest(Composition &composition, Surroundings &surroundings);
 
     Q_INVOKABLE bool isScanning() const;
+    /// Begins a scan of the home folder that no click on the screen has asked for, as another screen does.
+    Q_INVOKABLE void beginScan();
     /// The runs of `du` alive.
     Q_INVOKABLE int probeCount() const;
 

@@ -175,6 +175,49 @@ AnalyzerCase {
         verify(row("summary.txt"));
     }
 
+    function test_rowMenuClosesWhenItsListIsReplaced() {
+        openRowMenu("notes.txt");
+        Surroundings.holdProbes();
+        Disk.beginScan();
+        tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
+        Surroundings.releaseProbes();
+        waitForScan();
+        compare(Program.menuLines(), "");
+        compare(Surroundings.calls(), "");
+    }
+
+    function test_hiddenTableTakesNoKeys() {
+        drill("Documents", 2);
+        Program.settle();
+        table().forceActiveFocus();
+        walkTo("Invoices");
+        Surroundings.holdProbes();
+        press(Qt.Key_Right);
+        find("Loading contents...");
+        for (const key of [Qt.Key_Up, Qt.Key_Return, Qt.Key_Enter, Qt.Key_Menu, Qt.Key_Left])
+            press(key);
+        compare(Program.menuLines(), "");
+        compare(Surroundings.calls(), "");
+        compare(breadcrumbs(), ["Documents"]);
+        Surroundings.releaseProbes();
+        tryGone("Loading contents...");
+        compare(breadcrumbs(), ["Documents", "Invoices"]);
+        walkTo("summary.txt");
+    }
+
+    function test_tileOpensAFolderWhileALevelLoads() {
+        drill("Documents", 2);
+        Surroundings.holdProbes();
+        click("Invoices", table());
+        find("Loading contents...");
+        click("Home");
+        clickOn(tile("Movies"));
+        compare(breadcrumbs(), ["Movies"]);
+        Surroundings.releaseProbes();
+        tryGone("Loading contents...");
+        compare(breadcrumbs(), ["Movies", "Invoices"]);
+    }
+
     function test_emptyFolderSaysSo() {
         click("Empty", table());
         tryVerify(() => breadcrumbs().length === 1, patience, "the folder is on view");
