@@ -48,13 +48,13 @@ FocusScope {
         anchors.bottomMargin: Theme.unit * 5
         visible: screen.view.hasEntry
 
-        MapCard {
+        AnalyzerMapCard {
             id: map
             width: parent.width
             height: Math.round(parent.height * 0.46)
             view: screen.view
         }
-        ContentsCard {
+        AnalyzerContentsCard {
             anchors.top: map.bottom
             anchors.topMargin: Theme.unit * 4
             anchors.bottom: parent.bottom

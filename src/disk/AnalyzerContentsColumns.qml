@@ -1,7 +1,7 @@
 import QtQuick
 import Quillmere
 
-// The column titles of the table; the widths are those of ContentsRow.
+// The column titles of the table; the widths are those of AnalyzerContentsRow.
 Item {
     id: columns
 

@@ -19,7 +19,7 @@ FocusScope {
         height: 36
         text: card.view.contentsHeader
     }
-    ContentsColumns {
+    AnalyzerContentsColumns {
         id: columns
         anchors.top: head.bottom
         anchors.left: parent.left
@@ -28,7 +28,7 @@ FocusScope {
         anchors.rightMargin: Theme.unit * 4
         view: card.view
     }
-    ParentRow {
+    AnalyzerParentRow {
         id: parentRow
         anchors.top: columns.bottom
         anchors.topMargin: Theme.unit
@@ -78,7 +78,7 @@ FocusScope {
         Keys.onRightPressed: card.view.openRow(currentIndex)
         Keys.onLeftPressed: card.view.goBack()
         Keys.onMenuPressed: menu.openFor(model, currentIndex, currentItem)
-        delegate: ContentsRow {
+        delegate: AnalyzerContentsRow {
             width: ListView.view.width
             isCurrent: ListView.isCurrentItem && list.activeFocus
             revealTip: card.view.texts.reveal
@@ -94,7 +94,7 @@ FocusScope {
             list.goToTop();
         }
     }
-    ContentsMenu {
+    AnalyzerContentsMenu {
         id: menu
         view: card.view
     }
