@@ -35,3 +35,15 @@ TEST(SettingsKeys, includeThreeThatAreAbsentUntilTheyAreWritten)
     for (const QString &key : {settings::showAdvanced, settings::onboardingCompleted, settings::bookmarks})
         EXPECT_FALSE(defaults.value(key).isValid()) << key.toStdString();
 }
+
+TEST(SettingsKeys, giveNothingForAValueOfAnotherType)
+{
+    Defaults defaults;
+    defaults.registerDefaults(settings::registeredDefaults());
+    defaults.set(settings::confirmBeforeDelete, QStringLiteral("yes"));
+    defaults.set(settings::duplicateMinSize, QVariantList{102400});
+    defaults.set(settings::diskCacheLifetimeMinutes, QStringLiteral("5"));
+    EXPECT_FALSE(defaults.boolean(settings::confirmBeforeDelete));
+    EXPECT_EQ(defaults.integer(settings::duplicateMinSize), 0);
+    EXPECT_EQ(defaults.integer(settings::diskCacheLifetimeMinutes), 0);
+}

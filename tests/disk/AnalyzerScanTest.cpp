@@ -7,7 +7,7 @@
 
 namespace {
 
-struct AnalyzerScan : testing::Test
+struct AnalyzerScanTest : testing::Test
 {
     DiskServices services;
     TestPlatform &test = services.test;
@@ -40,7 +40,7 @@ struct AnalyzerScan : testing::Test
 
 } // namespace
 
-TEST_F(AnalyzerScan, asksForTheServicesBesideItNoEarlierThanAtAScan)
+TEST_F(AnalyzerScanTest, asksForTheServicesBesideItNoEarlierThanAtAScan)
 {
     int asked = 0;
     DiskService first(
@@ -57,7 +57,7 @@ TEST_F(AnalyzerScan, asksForTheServicesBesideItNoEarlierThanAtAScan)
     EXPECT_TRUE(first.analyzerRoot());
 }
 
-TEST_F(AnalyzerScan, listsTheRootAndItsFoldersAndMeasuresWhatLiesBelow)
+TEST_F(AnalyzerScanTest, listsTheRootAndItsFoldersAndMeasuresWhatLiesBelow)
 {
     test.temp.file("root/file", QByteArray(3, 'x'));
     test.temp.file("root/sub/inner", QByteArray(5, 'x'));
@@ -76,7 +76,7 @@ TEST_F(AnalyzerScan, listsTheRootAndItsFoldersAndMeasuresWhatLiesBelow)
     EXPECT_EQ(tree.size, 3 + 5 + deep->size);
 }
 
-TEST_F(AnalyzerScan, theOldTreeGoesAtOnceAndThePathIsShown)
+TEST_F(AnalyzerScanTest, theOldTreeGoesAtOnceAndThePathIsShown)
 {
     scan(test.home);
     ASSERT_TRUE(disk.analyzerRoot());
@@ -93,14 +93,14 @@ TEST_F(AnalyzerScan, theOldTreeGoesAtOnceAndThePathIsShown)
     EXPECT_EQ(disk.analyzerRoot()->path, root);
 }
 
-TEST_F(AnalyzerScan, isOnAUserInitiatedThread)
+TEST_F(AnalyzerScanTest, isOnAUserInitiatedThread)
 {
     disk.scanAnalyzer(root, true);
     EXPECT_EQ(test.workQueue.lastPriority(), WorkPriority::userInitiated);
     test.settle();
 }
 
-TEST_F(AnalyzerScan, forcedScanDuringAScanDoesNothing)
+TEST_F(AnalyzerScanTest, forcedScanDuringAScanDoesNothing)
 {
     begin(root);
     disk.scanAnalyzer(root, true);
@@ -111,7 +111,7 @@ TEST_F(AnalyzerScan, forcedScanDuringAScanDoesNothing)
     EXPECT_EQ(disk.analyzerScanPath(), root);
 }
 
-TEST_F(AnalyzerScan, keepsTheTreeOnTheSamePathWithinTheLifetime)
+TEST_F(AnalyzerScanTest, keepsTheTreeOnTheSamePathWithinTheLifetime)
 {
     scan(root, false);
     const auto tree = disk.analyzerRoot();
@@ -123,7 +123,7 @@ TEST_F(AnalyzerScan, keepsTheTreeOnTheSamePathWithinTheLifetime)
     EXPECT_NE(disk.analyzerRoot(), tree);
 }
 
-TEST_F(AnalyzerScan, onAnotherPathAlwaysScans)
+TEST_F(AnalyzerScanTest, onAnotherPathAlwaysScans)
 {
     scan(root, false);
     scan(test.home, false);
@@ -132,7 +132,7 @@ TEST_F(AnalyzerScan, onAnotherPathAlwaysScans)
     EXPECT_EQ(disk.analyzerRoot()->path, root);
 }
 
-TEST_F(AnalyzerScan, choosingAPathAloneKeepsTheTreeAndMakesTheNextUnforcedScanRun)
+TEST_F(AnalyzerScanTest, choosingAPathAloneKeepsTheTreeAndMakesTheNextUnforcedScanRun)
 {
     scan(root, false);
     disk.setAnalyzerScanPath(test.home);
@@ -141,7 +141,7 @@ TEST_F(AnalyzerScan, choosingAPathAloneKeepsTheTreeAndMakesTheNextUnforcedScanRu
     EXPECT_EQ(disk.analyzerRoot()->path, test.home);
 }
 
-TEST_F(AnalyzerScan, forcePassesTheCacheOver)
+TEST_F(AnalyzerScanTest, forcePassesTheCacheOver)
 {
     scan(root);
     const auto tree = disk.analyzerRoot();
@@ -149,7 +149,7 @@ TEST_F(AnalyzerScan, forcePassesTheCacheOver)
     EXPECT_NE(disk.analyzerRoot(), tree);
 }
 
-TEST_F(AnalyzerScan, breakdownsDateDoesNotMakeItFresh)
+TEST_F(AnalyzerScanTest, breakdownsDateDoesNotMakeItFresh)
 {
     disk.scanStorage(true);
     scan(root, false);
@@ -162,7 +162,7 @@ TEST_F(AnalyzerScan, breakdownsDateDoesNotMakeItFresh)
     EXPECT_NE(disk.analyzerRoot(), tree);
 }
 
-TEST_F(AnalyzerScan, cancelledScanLeavesAPartialTreeThatTheNextUnforcedCallReuses)
+TEST_F(AnalyzerScanTest, cancelledScanLeavesAPartialTreeThatTheNextUnforcedCallReuses)
 {
     test.temp.file("root/file", QByteArray(3, 'x'));
     test.temp.file("root/sub/file", QByteArray(1000, 'x'));
@@ -186,7 +186,7 @@ TEST_F(AnalyzerScan, cancelledScanLeavesAPartialTreeThatTheNextUnforcedCallReuse
     EXPECT_EQ(disk.analyzerRoot(), partial);
 }
 
-TEST_F(AnalyzerScan, cancelClearsTheFlagInALaterTurn)
+TEST_F(AnalyzerScanTest, cancelClearsTheFlagInALaterTurn)
 {
     begin(root);
     disk.cancelAnalyzerScan();
@@ -198,7 +198,7 @@ TEST_F(AnalyzerScan, cancelClearsTheFlagInALaterTurn)
     test.settle();
 }
 
-TEST_F(AnalyzerScan, newScanClearsTheCancelOfTheOneBefore)
+TEST_F(AnalyzerScanTest, newScanClearsTheCancelOfTheOneBefore)
 {
     test.temp.file("root/file", QByteArray(3, 'x'));
     disk.cancelAnalyzerScan();
@@ -207,7 +207,7 @@ TEST_F(AnalyzerScan, newScanClearsTheCancelOfTheOneBefore)
     EXPECT_EQ(disk.analyzerRoot()->size, 3);
 }
 
-TEST_F(AnalyzerScan, resultOfAScanThatALaterOneHasOvertakenIsDropped)
+TEST_F(AnalyzerScanTest, resultOfAScanThatALaterOneHasOvertakenIsDropped)
 {
     begin(root);
     disk.cancelAnalyzerScan();
@@ -226,7 +226,7 @@ TEST_F(AnalyzerScan, resultOfAScanThatALaterOneHasOvertakenIsDropped)
     EXPECT_FALSE(disk.isScanningAnalyzer());
 }
 
-TEST_F(AnalyzerScan, ofTwoCallsInOneTurnOnlyTheLaterPublishes)
+TEST_F(AnalyzerScanTest, ofTwoCallsInOneTurnOnlyTheLaterPublishes)
 {
     disk.scanAnalyzer(root, false);
     disk.scanAnalyzer(test.home, false);
@@ -237,7 +237,7 @@ TEST_F(AnalyzerScan, ofTwoCallsInOneTurnOnlyTheLaterPublishes)
     EXPECT_FALSE(disk.isScanningAnalyzer());
 }
 
-TEST_F(AnalyzerScan, marksItselfDeniedWithoutFullDiskAccessAndClearsThatWithIt)
+TEST_F(AnalyzerScanTest, marksItselfDeniedWithoutFullDiskAccessAndClearsThatWithIt)
 {
     scan(root); // the home folder has none of the protected folders yet
     EXPECT_TRUE(test.access.deniedContexts().contains("Disk Analyzer"));
@@ -247,7 +247,7 @@ TEST_F(AnalyzerScan, marksItselfDeniedWithoutFullDiskAccessAndClearsThatWithIt)
     EXPECT_FALSE(test.access.deniedContexts().contains("Disk Analyzer"));
 }
 
-TEST_F(AnalyzerScan, doesNotAskForFullDiskAccessWhenItIsSkipped)
+TEST_F(AnalyzerScanTest, doesNotAskForFullDiskAccessWhenItIsSkipped)
 {
     test.temp.folder("home/Library/Safari");
     scan(root, false);
@@ -256,7 +256,7 @@ TEST_F(AnalyzerScan, doesNotAskForFullDiskAccessWhenItIsSkipped)
     EXPECT_TRUE(test.access.deniedContexts().contains("Disk Analyzer"));
 }
 
-TEST_F(AnalyzerScan, missingFolderGivesATreeWithoutChildren)
+TEST_F(AnalyzerScanTest, missingFolderGivesATreeWithoutChildren)
 {
     scan(test.temp.at("missing"));
     ASSERT_TRUE(disk.analyzerRoot());
@@ -264,7 +264,7 @@ TEST_F(AnalyzerScan, missingFolderGivesATreeWithoutChildren)
     EXPECT_FALSE(disk.analyzerRoot()->children);
 }
 
-TEST_F(AnalyzerScan, fieldsAreSetBeforeAnyChangeIsNotified)
+TEST_F(AnalyzerScanTest, fieldsAreSetBeforeAnyChangeIsNotified)
 {
     disk.setAnalyzerScanPath("/before");
     QStringList seen;

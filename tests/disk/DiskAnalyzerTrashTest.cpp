@@ -11,7 +11,7 @@
 namespace {
 
 /// The Disk Analyzer's Move to Trash, over a scanned home with a folder and a file.
-struct DiskAnalyzerTrash : public testing::Test
+struct DiskAnalyzerTrashTest : public testing::Test
 {
     DiskServices services;
     TestPlatform &test = services.test;
@@ -52,7 +52,7 @@ struct DiskAnalyzerTrash : public testing::Test
 
 } // namespace
 
-TEST_F(DiskAnalyzerTrash, movesTheRowsEntryAndOpensTheEntryOnViewOnceMore)
+TEST_F(DiskAnalyzerTrashTest, movesTheRowsEntryAndOpensTheEntryOnViewOnceMore)
 {
     trashMoves();
     const DiskAnalyzerView::Entry shown = view->currentEntry();
@@ -71,7 +71,7 @@ TEST_F(DiskAnalyzerTrash, movesTheRowsEntryAndOpensTheEntryOnViewOnceMore)
     EXPECT_EQ(rowOf(QStringLiteral("big.bin")), -1);
 }
 
-TEST_F(DiskAnalyzerTrash, dropsAFailureWithoutAWord)
+TEST_F(DiskAnalyzerTrashTest, dropsAFailureWithoutAWord)
 {
     moveToTrash(QStringLiteral("big.bin")); // the service refuses silently
     EXPECT_TRUE(files::exists(path));
@@ -79,7 +79,7 @@ TEST_F(DiskAnalyzerTrash, dropsAFailureWithoutAWord)
     EXPECT_TRUE(test.systemLog.lines.isEmpty());
 }
 
-TEST_F(DiskAnalyzerTrash, isDisabledWhileAScanRuns)
+TEST_F(DiskAnalyzerTrashTest, isDisabledWhileAScanRuns)
 {
     EXPECT_EQ(view->trashText(), QStringLiteral("Move to Trash"));
     EXPECT_TRUE(view->canTrash());
@@ -94,7 +94,7 @@ TEST_F(DiskAnalyzerTrash, isDisabledWhileAScanRuns)
     EXPECT_TRUE(view->canTrash());
 }
 
-TEST_F(DiskAnalyzerTrash, takesNoSecondMoveWhileOneIsUnderWay)
+TEST_F(DiskAnalyzerTrashTest, takesNoSecondMoveWhileOneIsUnderWay)
 {
     Recycler::Completion answer;
     test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
@@ -109,7 +109,7 @@ TEST_F(DiskAnalyzerTrash, takesNoSecondMoveWhileOneIsUnderWay)
     EXPECT_TRUE(view->canTrash());
 }
 
-TEST_F(DiskAnalyzerTrash, livesUntilItsMoveHasEndedThoughAnotherScreenIsChosenMeanwhile)
+TEST_F(DiskAnalyzerTrashTest, livesUntilItsMoveHasEndedThoughAnotherScreenIsChosenMeanwhile)
 {
     Recycler::Completion answer;
     test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
@@ -126,7 +126,7 @@ TEST_F(DiskAnalyzerTrash, livesUntilItsMoveHasEndedThoughAnotherScreenIsChosenMe
     EXPECT_TRUE(model.expired());
 }
 
-TEST_F(DiskAnalyzerTrash, movesNothingOnceItsScreenIsGone)
+TEST_F(DiskAnalyzerTrashTest, movesNothingOnceItsScreenIsGone)
 {
     view->moveToTrash(rowOf(QStringLiteral("big.bin")));
     view.reset();
@@ -134,7 +134,7 @@ TEST_F(DiskAnalyzerTrash, movesNothingOnceItsScreenIsGone)
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
 }
 
-TEST_F(DiskAnalyzerTrash, staysWhereTheUserHasGoneMeanwhile)
+TEST_F(DiskAnalyzerTrashTest, staysWhereTheUserHasGoneMeanwhile)
 {
     Recycler::Completion answer;
     test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
@@ -151,7 +151,7 @@ TEST_F(DiskAnalyzerTrash, staysWhereTheUserHasGoneMeanwhile)
     EXPECT_EQ(view->breadcrumb().size(), 1U);
 }
 
-TEST_F(DiskAnalyzerTrash, aScanTellsWhetherProtectedFoldersCouldBeRead)
+TEST_F(DiskAnalyzerTrashTest, aScanTellsWhetherProtectedFoldersCouldBeRead)
 {
     EXPECT_EQ(test.access.deniedContexts(), QSet<QString>{QStringLiteral("Disk Analyzer")});
     EXPECT_TRUE(view->banner()->isShown());

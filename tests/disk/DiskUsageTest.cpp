@@ -4,7 +4,7 @@
 
 namespace {
 
-struct DiskUsageQuery : testing::Test
+struct DiskUsageTest : testing::Test
 {
     DiskServices services;
 
@@ -17,18 +17,18 @@ struct DiskUsageQuery : testing::Test
 
 } // namespace
 
-TEST_F(DiskUsageQuery, usedIsTotalLessAvailable)
+TEST_F(DiskUsageTest, usedIsTotalLessAvailable)
 {
     EXPECT_EQ(usageOf(SystemInfo::Volume{1000, 400, "Disk"}), (DiskUsage{1000, 600, 400, "Disk"}));
 }
 
-TEST_F(DiskUsageQuery, volumeWithoutANameIsMacintoshHdWithRealSizes)
+TEST_F(DiskUsageTest, volumeWithoutANameIsMacintoshHdWithRealSizes)
 {
     EXPECT_EQ(usageOf(SystemInfo::Volume{1000, 400, std::nullopt}),
               (DiskUsage{1000, 600, 400, "Macintosh HD"}));
 }
 
-TEST_F(DiskUsageQuery, isZerosAndUnknownWhenTheVolumeCannotBeAsked)
+TEST_F(DiskUsageTest, isZerosAndUnknownWhenTheVolumeCannotBeAsked)
 {
     EXPECT_EQ(usageOf(std::nullopt), (DiskUsage{0, 0, 0, "Unknown"}));
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-struct LargestDirectories : testing::Test
+struct LargestDirectoriesTest : testing::Test
 {
     DiskServices services;
     TestPlatform &test = services.test;
@@ -57,11 +57,11 @@ struct LargestDirectories : testing::Test
     }
 };
 
-using DrillChildren = LargestDirectories;
+using DrillChildrenTest = LargestDirectoriesTest;
 
 } // namespace
 
-TEST_F(LargestDirectories, realFoldersAndFilesCompeteByTheirAllocatedSize)
+TEST_F(LargestDirectoriesTest, realFoldersAndFilesCompeteByTheirAllocatedSize)
 {
     test.temp.file("home/Documents/Project/part one", noise(6'000'000));
     test.temp.file("home/Documents/Project/part two", noise(6'000'000));
@@ -78,7 +78,7 @@ TEST_F(LargestDirectories, realFoldersAndFilesCompeteByTheirAllocatedSize)
     EXPECT_NE(entries[0].id, entries[1].id);
 }
 
-TEST_F(LargestDirectories, aFileOf500MegabytesInDownloadsAppearsAsAnEntry)
+TEST_F(LargestDirectoriesTest, aFileOf500MegabytesInDownloadsAppearsAsAnEntry)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Downloads/movie.mkv", 500'000'000 / 1024);
@@ -87,7 +87,7 @@ TEST_F(LargestDirectories, aFileOf500MegabytesInDownloadsAppearsAsAnEntry)
     EXPECT_EQ(entries.front().path, services.inHome("Downloads/movie.mkv"));
 }
 
-TEST_F(LargestDirectories, onlyWhatIsAbove10MillionBytesIsKept)
+TEST_F(LargestDirectoriesTest, onlyWhatIsAbove10MillionBytesIsKept)
 {
     services.useDuThatReadsSizes();       // whole KiB, so the two nearest counts around the limit
     fileOf("home/Documents/below", 9765); // 9,999,360 bytes
@@ -95,7 +95,7 @@ TEST_F(LargestDirectories, onlyWhatIsAbove10MillionBytesIsKept)
     EXPECT_EQ(names(disk.computeLargestDirectories()), QStringList({"above"}));
 }
 
-TEST_F(LargestDirectories, theEightLargestWinWithoutAQuotaForARoot)
+TEST_F(LargestDirectoriesTest, theEightLargestWinWithoutAQuotaForARoot)
 {
     services.useDuThatReadsSizes();
     for (int i = 0; i < 9; ++i)
@@ -107,7 +107,7 @@ TEST_F(LargestDirectories, theEightLargestWinWithoutAQuotaForARoot)
         QStringList({"movie8", "movie7", "movie6", "movie5", "movie4", "Tool.app", "movie3", "movie2"}));
 }
 
-TEST_F(LargestDirectories, equalOnesComeInTheOrderOfTheirRoots)
+TEST_F(LargestDirectoriesTest, equalOnesComeInTheOrderOfTheirRoots)
 {
     services.useDuThatReadsSizes();
     const QStringList folders = {"home/Movies",  "home/Desktop",   "home/Music",   "home/Pictures",
@@ -119,7 +119,7 @@ TEST_F(LargestDirectories, equalOnesComeInTheOrderOfTheirRoots)
                            "in Music", "in Desktop", "in Movies"}));
 }
 
-TEST_F(LargestDirectories, namesThatBeginWithADotAreNotMeasured)
+TEST_F(LargestDirectoriesTest, namesThatBeginWithADotAreNotMeasured)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Documents/.hidden", 50'000);
@@ -127,7 +127,7 @@ TEST_F(LargestDirectories, namesThatBeginWithADotAreNotMeasured)
     EXPECT_EQ(names(disk.computeLargestDirectories()), QStringList({"plain"}));
 }
 
-TEST_F(LargestDirectories, rootThatCannotBeReadIsSkippedSilently)
+TEST_F(LargestDirectoriesTest, rootThatCannotBeReadIsSkippedSilently)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Documents/locked", 50'000);
@@ -136,7 +136,7 @@ TEST_F(LargestDirectories, rootThatCannotBeReadIsSkippedSilently)
     EXPECT_EQ(names(disk.computeLargestDirectories()), QStringList({"song"}));
 }
 
-TEST_F(LargestDirectories, whatVanishesOrLeadsNowhereIsNotMeasured)
+TEST_F(LargestDirectoriesTest, whatVanishesOrLeadsNowhereIsNotMeasured)
 {
     services.countRuns();
     test.temp.file("home/Documents/stays");
@@ -148,7 +148,7 @@ TEST_F(LargestDirectories, whatVanishesOrLeadsNowhereIsNotMeasured)
               DiskServices::bytes(services.inHome("Documents/stays")) + "\n");
 }
 
-TEST_F(LargestDirectories, aRootInsideAnotherIsMeasuredThroughItsOwnChildrenOnly)
+TEST_F(LargestDirectoriesTest, aRootInsideAnotherIsMeasuredThroughItsOwnChildrenOnly)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Documents/Pictures/size", 50'000);
@@ -156,7 +156,7 @@ TEST_F(LargestDirectories, aRootInsideAnotherIsMeasuredThroughItsOwnChildrenOnly
     EXPECT_EQ(largestBelow({"Documents", "Documents/Pictures"}), QStringList({"size", "photo"}));
 }
 
-TEST_F(LargestDirectories, anEntryThatLeadsToARootFurtherDownIsNotMeasured)
+TEST_F(LargestDirectoriesTest, anEntryThatLeadsToARootFurtherDownIsNotMeasured)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Documents/size", 90'000);
@@ -169,7 +169,7 @@ TEST_F(LargestDirectories, anEntryThatLeadsToARootFurtherDownIsNotMeasured)
               QStringList({"size", "Mine too", "photo"}));
 }
 
-TEST_F(LargestDirectories, aRootReachedThroughALinkIsSeenToLieInAnother)
+TEST_F(LargestDirectoriesTest, aRootReachedThroughALinkIsSeenToLieInAnother)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Documents/Mine/size", 60'000);
@@ -180,7 +180,7 @@ TEST_F(LargestDirectories, aRootReachedThroughALinkIsSeenToLieInAnother)
     EXPECT_EQ(largestBelow({"Papers", "Pictures"}), QStringList({"photo"}));
 }
 
-TEST_F(LargestDirectories, anEntryThatIsALinkToWhatHoldsARootIsNotMeasured)
+TEST_F(LargestDirectoriesTest, anEntryThatIsALinkToWhatHoldsARootIsNotMeasured)
 {
     services.useDuThatReadsSizes();
     fileOf("elsewhere/size", 60'000);
@@ -191,7 +191,7 @@ TEST_F(LargestDirectories, anEntryThatIsALinkToWhatHoldsARootIsNotMeasured)
     EXPECT_EQ(largestBelow({"Documents", "Pictures"}), QStringList({"photo"}));
 }
 
-TEST_F(LargestDirectories, twoRootsThatAreOneFolderListItOnce)
+TEST_F(LargestDirectoriesTest, twoRootsThatAreOneFolderListItOnce)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Music/song", 20'000);
@@ -199,14 +199,14 @@ TEST_F(LargestDirectories, twoRootsThatAreOneFolderListItOnce)
     EXPECT_EQ(largestBelow({"Music", "Movies", "Music"}), QStringList({"song"}));
 }
 
-TEST_F(LargestDirectories, aRootThatIsNotThereHidesNothing)
+TEST_F(LargestDirectoriesTest, aRootThatIsNotThereHidesNothing)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Documents/Mine/size", 60'000);
     EXPECT_EQ(largestBelow({"Documents", "Documents/Mine/Pictures"}), QStringList({"Mine"}));
 }
 
-TEST_F(LargestDirectories, emptyResultRescansEachTimeAlthoughTheDateIsFresh)
+TEST_F(LargestDirectoriesTest, emptyResultRescansEachTimeAlthoughTheDateIsFresh)
 {
     disk.scanStorage(true);
     test.settle();
@@ -216,7 +216,7 @@ TEST_F(LargestDirectories, emptyResultRescansEachTimeAlthoughTheDateIsFresh)
     EXPECT_EQ(jobsOfUnforcedScan(), 1U);
 }
 
-TEST_F(LargestDirectories, goesStaleWithTheBreakdownAndNeverSetsItsDate)
+TEST_F(LargestDirectoriesTest, goesStaleWithTheBreakdownAndNeverSetsItsDate)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Music/song", 20'000);
@@ -232,7 +232,7 @@ TEST_F(LargestDirectories, goesStaleWithTheBreakdownAndNeverSetsItsDate)
     EXPECT_NE(disk.lastBreakdownScan(), test.clock.now());
 }
 
-TEST_F(LargestDirectories, forceAndRefreshRunAnewUnlessARunIsOn)
+TEST_F(LargestDirectoriesTest, forceAndRefreshRunAnewUnlessARunIsOn)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Music/song", 20'000);
@@ -256,7 +256,7 @@ TEST_F(LargestDirectories, forceAndRefreshRunAnewUnlessARunIsOn)
     EXPECT_EQ(disk.lastBreakdownScan(), date);
 }
 
-TEST_F(LargestDirectories, fieldsAreSetBeforeAnyChangeIsNotified)
+TEST_F(LargestDirectoriesTest, fieldsAreSetBeforeAnyChangeIsNotified)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Music/song", 20'000);
@@ -275,7 +275,7 @@ TEST_F(LargestDirectories, fieldsAreSetBeforeAnyChangeIsNotified)
     EXPECT_EQ(seen, QStringList({"flag 1 0", "list 0 1", "flag 0 1"}));
 }
 
-TEST_F(LargestDirectories, stopClearsTheFlagAndTheRunStillPublishes)
+TEST_F(LargestDirectoriesTest, stopClearsTheFlagAndTheRunStillPublishes)
 {
     services.useDuThatReadsSizes();
     fileOf("home/Music/song", 20'000);
@@ -289,7 +289,7 @@ TEST_F(LargestDirectories, stopClearsTheFlagAndTheRunStillPublishes)
     EXPECT_FALSE(disk.isScanningLargestDirs());
 }
 
-TEST_F(DrillChildren, gives10OfTheLargestLargestFirst)
+TEST_F(DrillChildrenTest, gives10OfTheLargestLargestFirst)
 {
     services.useDuThatReadsSizes();
     for (int i = 1; i <= 12; ++i)
@@ -301,7 +301,7 @@ TEST_F(DrillChildren, gives10OfTheLargestLargestFirst)
     EXPECT_EQ(entries.front().size, 12 * 1024);
 }
 
-TEST_F(DrillChildren, leavesOutDotNamesAndEmptyOnes)
+TEST_F(DrillChildrenTest, leavesOutDotNamesAndEmptyOnes)
 {
     services.useDuThatReadsSizes();
     fileOf("home/folder/.hidden", 9);
@@ -311,7 +311,7 @@ TEST_F(DrillChildren, leavesOutDotNamesAndEmptyOnes)
     EXPECT_EQ(names(disk.drillChildren(services.inHome("folder"))), QStringList({"small"}));
 }
 
-TEST_F(DrillChildren, measuresRealFoldersWithTheirHiddenContent)
+TEST_F(DrillChildrenTest, measuresRealFoldersWithTheirHiddenContent)
 {
     test.temp.file("home/folder/sub/.hidden", QByteArray(40'000, 'x'));
     const auto entries = disk.drillChildren(services.inHome("folder"));
@@ -319,7 +319,7 @@ TEST_F(DrillChildren, measuresRealFoldersWithTheirHiddenContent)
     EXPECT_GE(entries.front().size, 40'000);
 }
 
-TEST_F(DrillChildren, equalOnesKeepTheirListingOrder)
+TEST_F(DrillChildrenTest, equalOnesKeepTheirListingOrder)
 {
     services.useDuThatReadsSizes();
     for (int i = 0; i < 8; ++i)
@@ -329,7 +329,7 @@ TEST_F(DrillChildren, equalOnesKeepTheirListingOrder)
               QStringList(listed.begin(), listed.end()));
 }
 
-TEST_F(DrillChildren, isEmptyOnAFileAndOnAnUnreadableFolder)
+TEST_F(DrillChildrenTest, isEmptyOnAFileAndOnAnUnreadableFolder)
 {
     const QString file = test.temp.file("home/file", "x");
     EXPECT_TRUE(disk.drillChildren(file).empty());

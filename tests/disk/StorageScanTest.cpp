@@ -10,13 +10,13 @@
 
 namespace {
 
-struct StorageScan : testing::Test
+struct StorageScanTest : testing::Test
 {
     DiskServices services;
     TestPlatform &test = services.test;
     DiskService &disk = services.disk;
 
-    StorageScan() { services.countRuns(); }
+    StorageScanTest() { services.countRuns(); }
 
     void scan(bool force)
     {
@@ -42,7 +42,7 @@ struct StorageScan : testing::Test
 
 } // namespace
 
-TEST_F(StorageScan, startsWithNothing)
+TEST_F(StorageScanTest, startsWithNothing)
 {
     EXPECT_TRUE(disk.cachedCategories().empty());
     EXPECT_TRUE(disk.cachedLargeDirs().empty());
@@ -55,7 +55,7 @@ TEST_F(StorageScan, startsWithNothing)
     EXPECT_FALSE(disk.lastAnalyzerScan());
 }
 
-TEST_F(StorageScan, givesTheSevenFoldersInTheirOrderWithTheirSizes)
+TEST_F(StorageScanTest, givesTheSevenFoldersInTheirOrderWithTheirSizes)
 {
     services.useDuThatReadsSizes();
     const struct
@@ -89,7 +89,7 @@ TEST_F(StorageScan, givesTheSevenFoldersInTheirOrderWithTheirSizes)
     EXPECT_EQ(ids.size(), 7);
 }
 
-TEST_F(StorageScan, measuresRealFoldersOneAfterTheOther)
+TEST_F(StorageScanTest, measuresRealFoldersOneAfterTheOther)
 {
     test.temp.file("home/Documents/file", QByteArray(100'000, 'x'));
     scan(false);
@@ -100,7 +100,7 @@ TEST_F(StorageScan, measuresRealFoldersOneAfterTheOther)
     EXPECT_EQ(services.runs(), 7 + 1);
 }
 
-TEST_F(StorageScan, runsOnAUserInitiatedThreadAndRaisesItsFlagInALaterTurn)
+TEST_F(StorageScanTest, runsOnAUserInitiatedThreadAndRaisesItsFlagInALaterTurn)
 {
     disk.scanStorage(false);
     EXPECT_FALSE(disk.isScanningStorage());
@@ -115,7 +115,7 @@ TEST_F(StorageScan, runsOnAUserInitiatedThreadAndRaisesItsFlagInALaterTurn)
     EXPECT_EQ(disk.lastBreakdownScan(), test.clock.now());
 }
 
-TEST_F(StorageScan, secondScanWithinFiveMinutesStartsNothingAndOneAfterThemRescans)
+TEST_F(StorageScanTest, secondScanWithinFiveMinutesStartsNothingAndOneAfterThemRescans)
 {
     scan(false);
     test.clock.advance(299.5);
@@ -125,7 +125,7 @@ TEST_F(StorageScan, secondScanWithinFiveMinutesStartsNothingAndOneAfterThemResca
     EXPECT_EQ(disk.lastBreakdownScan(), test.clock.now());
 }
 
-TEST_F(StorageScan, lifetimeBelowOneMinuteBehavesAsFive)
+TEST_F(StorageScanTest, lifetimeBelowOneMinuteBehavesAsFive)
 {
     for (const qint64 minutes : {qint64(0), qint64(-1), std::numeric_limits<qint64>::min()}) {
         test.defaults.set(settings::diskCacheLifetimeMinutes, minutes);
@@ -140,7 +140,7 @@ TEST_F(StorageScan, lifetimeBelowOneMinuteBehavesAsFive)
     EXPECT_EQ(disk.cacheLifetime(), 60);
 }
 
-TEST_F(StorageScan, lifetimeShortenedInTheSettingsTakesEffectAtTheNextCheck)
+TEST_F(StorageScanTest, lifetimeShortenedInTheSettingsTakesEffectAtTheNextCheck)
 {
     scan(false);
     test.clock.advance(120);
@@ -149,13 +149,13 @@ TEST_F(StorageScan, lifetimeShortenedInTheSettingsTakesEffectAtTheNextCheck)
     EXPECT_EQ(jobsOfUnforcedScan(), 1U);
 }
 
-TEST_F(StorageScan, forcePassesTheCacheOver)
+TEST_F(StorageScanTest, forcePassesTheCacheOver)
 {
     scan(false);
     EXPECT_EQ(jobsOf([this] { disk.scanStorage(true); }), 1U);
 }
 
-TEST_F(StorageScan, forcedScanDuringARunningOneStartsNothing)
+TEST_F(StorageScanTest, forcedScanDuringARunningOneStartsNothing)
 {
     disk.scanStorage(false);
     test.mainQueue.run();
@@ -167,7 +167,7 @@ TEST_F(StorageScan, forcedScanDuringARunningOneStartsNothing)
               1U); // the first one's
 }
 
-TEST_F(StorageScan, breakdownWithEverySizeZeroCountsAsCached)
+TEST_F(StorageScanTest, breakdownWithEverySizeZeroCountsAsCached)
 {
     test.platform.programs.du = test.temp.at("missing");
     scan(false);
@@ -177,7 +177,7 @@ TEST_F(StorageScan, breakdownWithEverySizeZeroCountsAsCached)
     EXPECT_EQ(jobsOfUnforcedScan(), 0U);
 }
 
-TEST_F(StorageScan, twoCallsInOneTurnStartTwoRunsOfWhichTheLaterOverwrites)
+TEST_F(StorageScanTest, twoCallsInOneTurnStartTwoRunsOfWhichTheLaterOverwrites)
 {
     EXPECT_EQ(jobsOf([this] {
                   disk.scanStorage(false);
@@ -189,7 +189,7 @@ TEST_F(StorageScan, twoCallsInOneTurnStartTwoRunsOfWhichTheLaterOverwrites)
     EXPECT_FALSE(disk.isScanningStorage());
 }
 
-TEST_F(StorageScan, refreshRunsAnewAndLeavesTheDateAlone)
+TEST_F(StorageScanTest, refreshRunsAnewAndLeavesTheDateAlone)
 {
     scan(false);
     const auto date = disk.lastBreakdownScan();
@@ -200,7 +200,7 @@ TEST_F(StorageScan, refreshRunsAnewAndLeavesTheDateAlone)
     EXPECT_EQ(disk.lastBreakdownScan(), date);
 }
 
-TEST_F(StorageScan, refreshWithoutAScanBeforeLeavesNoDate)
+TEST_F(StorageScanTest, refreshWithoutAScanBeforeLeavesNoDate)
 {
     disk.refreshStorage();
     test.settle();
@@ -209,7 +209,7 @@ TEST_F(StorageScan, refreshWithoutAScanBeforeLeavesNoDate)
     EXPECT_EQ(jobsOfUnforcedScan(), 1U); // a result without a date is not cached
 }
 
-TEST_F(StorageScan, oldFiguresStayOnViewWhileANewScanRuns)
+TEST_F(StorageScanTest, oldFiguresStayOnViewWhileANewScanRuns)
 {
     scan(false);
     disk.scanStorage(true);
@@ -219,7 +219,7 @@ TEST_F(StorageScan, oldFiguresStayOnViewWhileANewScanRuns)
     test.settle();
 }
 
-TEST_F(StorageScan, fieldsAreSetBeforeAnyChangeIsNotified)
+TEST_F(StorageScanTest, fieldsAreSetBeforeAnyChangeIsNotified)
 {
     QStringList seen;
     const auto note = [this, &seen](const char *signal) {
@@ -236,7 +236,7 @@ TEST_F(StorageScan, fieldsAreSetBeforeAnyChangeIsNotified)
     EXPECT_EQ(seen, QStringList({"flag 1 0 0", "list 0 7 1", "date 0 7 1", "flag 0 7 1"}));
 }
 
-TEST_F(StorageScan, stopClearsTheFlagAtOnceAndAnotherRunMayStartBesideTheFirst)
+TEST_F(StorageScanTest, stopClearsTheFlagAtOnceAndAnotherRunMayStartBesideTheFirst)
 {
     disk.scanStorage(false);
     test.mainQueue.run();
@@ -248,7 +248,7 @@ TEST_F(StorageScan, stopClearsTheFlagAtOnceAndAnotherRunMayStartBesideTheFirst)
     EXPECT_EQ(jobsOf([this] { disk.scanStorage(false); }), 2U);
 }
 
-TEST_F(StorageScan, stopOnTheDashboardEndsARunningAnalyzerScanToo)
+TEST_F(StorageScanTest, stopOnTheDashboardEndsARunningAnalyzerScanToo)
 {
     for (const bool isBreakdown : {true, false}) {
         disk.scanAnalyzer(test.home, true);
@@ -262,7 +262,7 @@ TEST_F(StorageScan, stopOnTheDashboardEndsARunningAnalyzerScanToo)
     }
 }
 
-TEST_F(StorageScan, stopWithoutAnAnalyzerScanLeavesItsFlagAlone)
+TEST_F(StorageScanTest, stopWithoutAnAnalyzerScanLeavesItsFlagAlone)
 {
     disk.cancelStorageScan();
     disk.cancelLargestDirsScan();
@@ -286,7 +286,7 @@ qint64 sizeOverPlaces(DiskServices &services, const QStringList &places)
 
 } // namespace
 
-TEST_F(StorageScan, rowOfSeveralPlacesIsTheirSumAndASwitchedOffOneIsZero)
+TEST_F(StorageScanTest, rowOfSeveralPlacesIsTheirSumAndASwitchedOffOneIsZero)
 {
     const QString one = test.temp.folder("one");
     const QString two = test.temp.folder("two");
@@ -298,7 +298,7 @@ TEST_F(StorageScan, rowOfSeveralPlacesIsTheirSumAndASwitchedOffOneIsZero)
     EXPECT_EQ(sizeOverPlaces(services, {one, test.temp.at("missing"), two}), expected);
 }
 
-TEST_F(StorageScan, placesWhoseSumIsBeyond64BitsDoNotEndTheProgram)
+TEST_F(StorageScanTest, placesWhoseSumIsBeyond64BitsDoNotEndTheProgram)
 {
     services.useDu(
         "[ \"$2\" = /huge ] && size=9007199254740991 || size=4\nprintf '%s\\t%s\\n' $size \"$2\"\n");

@@ -11,7 +11,7 @@
 
 namespace {
 
-struct FileOperations : testing::Test
+struct FileOperationsTest : testing::Test
 {
     TestPlatform test;
     FileSystemService service{test.platform, test.probes};
@@ -33,7 +33,7 @@ struct FileOperations : testing::Test
 
 } // namespace
 
-TEST_F(FileOperations, renameGivesAnotherNameInTheSameFolder)
+TEST_F(FileOperationsTest, renameGivesAnotherNameInTheSameFolder)
 {
     const QString path = test.temp.file("folder/old", "content");
     service.renameItem(path, "new");
@@ -41,7 +41,7 @@ TEST_F(FileOperations, renameGivesAnotherNameInTheSameFolder)
     EXPECT_EQ(content(test.temp.at("folder/new")), "content");
 }
 
-TEST_F(FileOperations, renameNeverReplacesAnotherEntry)
+TEST_F(FileOperationsTest, renameNeverReplacesAnotherEntry)
 {
     const QString path = test.temp.file("folder/old", "mine");
     const QString taken = test.temp.file("folder/taken", "theirs");
@@ -50,39 +50,39 @@ TEST_F(FileOperations, renameNeverReplacesAnotherEntry)
     EXPECT_EQ(content(taken), "theirs");
 }
 
-TEST_F(FileOperations, renameOfAMissingEntryPassesTheSystemsErrorOn)
+TEST_F(FileOperationsTest, renameOfAMissingEntryPassesTheSystemsErrorOn)
 {
     EXPECT_EQ(codeOf([&] { service.renameItem(test.temp.at("missing"), "new"); }), ENOENT);
 }
 
-TEST_F(FileOperations, renameToAHostileNameKeepsItsBytes)
+TEST_F(FileOperationsTest, renameToAHostileNameKeepsItsBytes)
 {
     const QString name = paths::fromBytes("two\nlines\xff");
     service.renameItem(test.temp.file("folder/old", "content"), name);
     EXPECT_EQ(files::list(test.temp.at("folder")), std::vector<QString>{name});
 }
 
-TEST_F(FileOperations, createFolderMakesAnEmptyFolder)
+TEST_F(FileOperationsTest, createFolderMakesAnEmptyFolder)
 {
     service.createFolder(test.home, "new folder");
     EXPECT_TRUE(files::isDirectory(paths::join(test.home, "new folder")));
     EXPECT_EQ(files::list(paths::join(test.home, "new folder")), std::vector<QString>());
 }
 
-TEST_F(FileOperations, createFolderMakesNoFolderAboveItsOwn)
+TEST_F(FileOperationsTest, createFolderMakesNoFolderAboveItsOwn)
 {
     EXPECT_EQ(codeOf([&] { service.createFolder(test.temp.at("missing"), "new"); }), ENOENT);
     EXPECT_FALSE(files::exists(test.temp.at("missing")));
 }
 
-TEST_F(FileOperations, createFolderRefusesATakenName)
+TEST_F(FileOperationsTest, createFolderRefusesATakenName)
 {
     test.temp.file("home/taken", "content");
     EXPECT_EQ(codeOf([&] { service.createFolder(test.home, "taken"); }), EEXIST);
     EXPECT_EQ(content(test.temp.at("home/taken")), "content");
 }
 
-TEST_F(FileOperations, textPrefixIsNoLongerThanAskedFor)
+TEST_F(FileOperationsTest, textPrefixIsNoLongerThanAskedFor)
 {
     const QString path = test.temp.file("text", "0123456789");
     EXPECT_EQ(service.readTextPrefix(path, 4), "0123");
@@ -90,47 +90,47 @@ TEST_F(FileOperations, textPrefixIsNoLongerThanAskedFor)
     EXPECT_EQ(service.readTextPrefix(path, 0), "");
 }
 
-TEST_F(FileOperations, textPrefixOfAnEmptyFileIsAnEmptyText)
+TEST_F(FileOperationsTest, textPrefixOfAnEmptyFileIsAnEmptyText)
 {
     const auto text = service.readTextPrefix(test.temp.file("empty"), 10);
     ASSERT_TRUE(text);
     EXPECT_EQ(*text, "");
 }
 
-TEST_F(FileOperations, textPrefixOfABinaryFileIsNone)
+TEST_F(FileOperationsTest, textPrefixOfABinaryFileIsNone)
 {
     EXPECT_FALSE(
         service.readTextPrefix(test.temp.file("binary", QByteArray("\x7f\x45\x4c\x46\xc3\x28\xff", 7)), 100));
 }
 
-TEST_F(FileOperations, textPrefixCutInsideACharacterIsNone)
+TEST_F(FileOperationsTest, textPrefixCutInsideACharacterIsNone)
 {
     const QString path = test.temp.file("text", "ab\xc3\xbc"); // "abü"
     EXPECT_FALSE(service.readTextPrefix(path, 3));
     EXPECT_EQ(service.readTextPrefix(path, 4), "abü");
 }
 
-TEST_F(FileOperations, textPrefixOfWhatCannotBeOpenedIsNone)
+TEST_F(FileOperationsTest, textPrefixOfWhatCannotBeOpenedIsNone)
 {
     EXPECT_FALSE(service.readTextPrefix(test.temp.at("missing"), 10));
     EXPECT_FALSE(service.readTextPrefix(test.temp.folder("folder"), 10));
 }
 
-TEST_F(FileOperations, textPrefixOfAPipeIsNoneAndDoesNotWaitForAWriter)
+TEST_F(FileOperationsTest, textPrefixOfAPipeIsNoneAndDoesNotWaitForAWriter)
 {
     const QString path = test.temp.at("pipe");
     ASSERT_EQ(mkfifo(paths::toBytes(path).constData(), 0600), 0);
     EXPECT_FALSE(service.readTextPrefix(path, 10));
 }
 
-TEST_F(FileOperations, openInTerminalExpandsALeadingTilde)
+TEST_F(FileOperationsTest, openInTerminalExpandsALeadingTilde)
 {
     service.openInTerminal("~/Documents");
     service.openInTerminal("/a/~/b");
     EXPECT_EQ(test.workspace.calls, QStringList({"terminal " + test.home + "/Documents", "terminal /a/~/b"}));
 }
 
-TEST_F(FileOperations, revealHandsThePathToTheDesktop)
+TEST_F(FileOperationsTest, revealHandsThePathToTheDesktop)
 {
     service.revealInFinder("/a/b c");
     EXPECT_EQ(test.workspace.calls, QStringList({"reveal /a/b c"}));

@@ -13,7 +13,7 @@
 
 namespace {
 
-struct ListDirectory : testing::Test
+struct ListDirectoryTest : testing::Test
 {
     TestPlatform test;
     FileSystemService service{test.platform, test.probes};
@@ -36,7 +36,7 @@ struct ListDirectory : testing::Test
 
 } // namespace
 
-TEST_F(ListDirectory, fillsEveryFieldOfAFile)
+TEST_F(ListDirectoryTest, fillsEveryFieldOfAFile)
 {
     const QString path = test.temp.file("folder/Notes.TXT", "12345");
     const timespec times[] = {{0, UTIME_OMIT}, {1'600'000'000, 123'456'789}};
@@ -56,7 +56,7 @@ TEST_F(ListDirectory, fillsEveryFieldOfAFile)
     EXPECT_FALSE(item.isHidden);
 }
 
-TEST_F(ListDirectory, keepsTheFileSystemsOrder)
+TEST_F(ListDirectoryTest, keepsTheFileSystemsOrder)
 {
     for (int i = 0; i < 50; ++i)
         test.temp.file(QStringLiteral("folder/%1").arg(i * 7919 % 50));
@@ -64,7 +64,7 @@ TEST_F(ListDirectory, keepsTheFileSystemsOrder)
     EXPECT_EQ(names(test.temp.at("folder"), false), QStringList(order.begin(), order.end()));
 }
 
-TEST_F(ListDirectory, leavesHiddenEntriesOutUnlessAskedFor)
+TEST_F(ListDirectoryTest, leavesHiddenEntriesOutUnlessAskedFor)
 {
     test.temp.file("folder/plain");
     test.temp.file("folder/.hidden");
@@ -75,7 +75,7 @@ TEST_F(ListDirectory, leavesHiddenEntriesOutUnlessAskedFor)
         EXPECT_EQ(item.isHidden, item.name.startsWith(u'.')) << qPrintable(item.name);
 }
 
-TEST_F(ListDirectory, givesOneLevelOnly)
+TEST_F(ListDirectoryTest, givesOneLevelOnly)
 {
     test.temp.file("folder/below/deep");
     const auto items = service.listDirectory(test.temp.at("folder"), true);
@@ -84,7 +84,7 @@ TEST_F(ListDirectory, givesOneLevelOnly)
     EXPECT_EQ(items.front().name, "below");
 }
 
-TEST_F(ListDirectory, linkToAFolderIsNoFolderAndHasItsOwnSize)
+TEST_F(ListDirectoryTest, linkToAFolderIsNoFolderAndHasItsOwnSize)
 {
     const QString target = test.temp.folder("target");
     test.temp.link("folder/link", target);
@@ -97,21 +97,21 @@ TEST_F(ListDirectory, linkToAFolderIsNoFolderAndHasItsOwnSize)
     EXPECT_EQ(items[1].size, paths::toBytes(target).size());
 }
 
-TEST_F(ListDirectory, isEmptyForAnUnreadableFolder)
+TEST_F(ListDirectoryTest, isEmptyForAnUnreadableFolder)
 {
     test.temp.file("folder/a");
     const InjectedFaults faults(files::Operation::list, test.temp.at("folder"));
     EXPECT_TRUE(service.listDirectory(test.temp.at("folder"), true).empty());
 }
 
-TEST_F(ListDirectory, isEmptyForAFileAndForNothing)
+TEST_F(ListDirectoryTest, isEmptyForAFileAndForNothing)
 {
     const QString file = test.temp.file("file");
     EXPECT_TRUE(service.listDirectory(file, true).empty());
     EXPECT_TRUE(service.listDirectory(test.temp.at("missing"), true).empty());
 }
 
-TEST_F(ListDirectory, leavesOutAnEntryThatVanishes)
+TEST_F(ListDirectoryTest, leavesOutAnEntryThatVanishes)
 {
     test.temp.file("folder/stays");
     test.temp.file("folder/vanishes");
@@ -121,7 +121,7 @@ TEST_F(ListDirectory, leavesOutAnEntryThatVanishes)
     EXPECT_EQ(names(test.temp.at("folder"), true), QStringList({"stays"}));
 }
 
-TEST_F(ListDirectory, carriesHostileNamesThrough)
+TEST_F(ListDirectoryTest, carriesHostileNamesThrough)
 {
     const QSet<QString> hostile = {
         "two\nlines",
@@ -147,7 +147,7 @@ TEST_F(ListDirectory, carriesHostileNamesThrough)
         EXPECT_EQ(service.makeFileItem(item.path)->size, 1) << qPrintable(item.name);
 }
 
-TEST_F(ListDirectory, makesNoItemOfWhatCannotBeRead)
+TEST_F(ListDirectoryTest, makesNoItemOfWhatCannotBeRead)
 {
     EXPECT_FALSE(service.makeFileItem(test.temp.at("missing")));
     const QString path = test.temp.file("locked");

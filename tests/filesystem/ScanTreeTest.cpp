@@ -39,14 +39,14 @@ const FileEntry &childNamed(const FileEntry &entry, const QString &name)
 constexpr qint64 probedSize = 1024;
 
 /// A scan whose `du` writes down what it is asked for and says 1 KiB.
-struct ScanTree : testing::Test
+struct ScanTreeTest : testing::Test
 {
     TestPlatform test;
     const TempHome &temp = test.temp;
     QString root = temp.folder("root");
     FileSystemService service{test.platform, test.probes};
 
-    ScanTree() { useDuThatSays("1"); }
+    ScanTreeTest() { useDuThatSays("1"); }
 
     void useDuThatSays(const QByteArray &kibibytes)
     {
@@ -76,7 +76,7 @@ struct ScanTree : testing::Test
 
 } // namespace
 
-TEST_F(ScanTree, atTheDepthLimitGivesTheProbesSizeAndListsNothing)
+TEST_F(ScanTreeTest, atTheDepthLimitGivesTheProbesSizeAndListsNothing)
 {
     temp.file("root/a", bytesOf(5));
     const InjectedFaults faults([this](files::Operation, const QString &path) {
@@ -90,12 +90,12 @@ TEST_F(ScanTree, atTheDepthLimitGivesTheProbesSizeAndListsNothing)
     EXPECT_EQ(probed(), QStringList({root}));
 }
 
-TEST_F(ScanTree, beyondTheDepthLimitProbesToo)
+TEST_F(ScanTreeTest, beyondTheDepthLimitProbesToo)
 {
     EXPECT_EQ(service.scanTree(root, 3, 2).size, probedSize);
 }
 
-TEST_F(ScanTree, listsAboveTheLimitAndProbesAtIt)
+TEST_F(ScanTreeTest, listsAboveTheLimitAndProbesAtIt)
 {
     temp.file("root/file", bytesOf(7));
     temp.file("root/sub/inner", bytesOf(11));
@@ -113,7 +113,7 @@ TEST_F(ScanTree, listsAboveTheLimitAndProbesAtIt)
     EXPECT_EQ(probed(), QStringList({temp.at("root/sub/deep")}));
 }
 
-TEST_F(ScanTree, everyNodeKnowsItsNamePathAndAnIdOfItsOwn)
+TEST_F(ScanTreeTest, everyNodeKnowsItsNamePathAndAnIdOfItsOwn)
 {
     temp.file("root/sub/inner");
     const FileEntry entry = scan(2);
@@ -128,7 +128,7 @@ TEST_F(ScanTree, everyNodeKnowsItsNamePathAndAnIdOfItsOwn)
     EXPECT_EQ(QSet<QUuid>({entry.id, sub.id, inner.id, QUuid()}).size(), 4);
 }
 
-TEST_F(ScanTree, aFolderWithASlashAtItsEndHasItsOwnName)
+TEST_F(ScanTreeTest, aFolderWithASlashAtItsEndHasItsOwnName)
 {
     temp.file("root/a", bytesOf(3));
     const FileEntry entry = service.scanTree(root + u'/', 0, 1);
@@ -136,28 +136,28 @@ TEST_F(ScanTree, aFolderWithASlashAtItsEndHasItsOwnName)
     EXPECT_EQ(childNamed(entry, "a").path, temp.at("root/a"));
 }
 
-TEST_F(ScanTree, childrenComeLargestFirst)
+TEST_F(ScanTreeTest, childrenComeLargestFirst)
 {
     for (const int size : {5, 90, 1, 40, 17})
         temp.file(QStringLiteral("root/%1").arg(size), bytesOf(size));
     EXPECT_EQ(childNames(scan(1)), QStringList({"90", "40", "17", "5", "1"}));
 }
 
-TEST_F(ScanTree, ofTwoFilesOfEqualSizeTheOneListedFirstStaysFirst)
+TEST_F(ScanTreeTest, ofTwoFilesOfEqualSizeTheOneListedFirstStaysFirst)
 {
     for (int i = 0; i < 25; ++i)
         temp.file(QStringLiteral("root/%1").arg(i * 7919 % 25), bytesOf(10));
     EXPECT_EQ(childNames(scan(1)), listed());
 }
 
-TEST_F(ScanTree, equalFilesBeyondTheLimitDropInListingOrder)
+TEST_F(ScanTreeTest, equalFilesBeyondTheLimitDropInListingOrder)
 {
     for (int i = 0; i < 40; ++i)
         temp.file(QStringLiteral("root/%1").arg(i * 7919 % 40), bytesOf(10));
     EXPECT_EQ(childNames(scan(1)), listed().first(30));
 }
 
-TEST_F(ScanTree, keepsThe30LargestOf31AndCountsAll)
+TEST_F(ScanTreeTest, keepsThe30LargestOf31AndCountsAll)
 {
     for (int size = 1; size <= 31; ++size)
         temp.file(QStringLiteral("root/%1").arg(size), bytesOf(size));
@@ -168,14 +168,14 @@ TEST_F(ScanTree, keepsThe30LargestOf31AndCountsAll)
     EXPECT_EQ(entry.children->back().size, 2);
 }
 
-TEST_F(ScanTree, keepsAll30Of30)
+TEST_F(ScanTreeTest, keepsAll30Of30)
 {
     for (int size = 1; size <= 30; ++size)
         temp.file(QStringLiteral("root/%1").arg(size), bytesOf(size));
     EXPECT_EQ(scan(1).children->size(), 30U);
 }
 
-TEST_F(ScanTree, emptyFolderHasAnEmptyListOfChildren)
+TEST_F(ScanTreeTest, emptyFolderHasAnEmptyListOfChildren)
 {
     const FileEntry entry = scan(1);
     EXPECT_EQ(entry.size, 0);
@@ -184,7 +184,7 @@ TEST_F(ScanTree, emptyFolderHasAnEmptyListOfChildren)
     EXPECT_FALSE(entry.hasChildren());
 }
 
-TEST_F(ScanTree, hiddenEntriesAreNotVisited)
+TEST_F(ScanTreeTest, hiddenEntriesAreNotVisited)
 {
     temp.file("root/.hidden", bytesOf(100));
     temp.file("root/.folder/inside", bytesOf(100));
@@ -195,7 +195,7 @@ TEST_F(ScanTree, hiddenEntriesAreNotVisited)
     EXPECT_TRUE(probed().isEmpty());
 }
 
-TEST_F(ScanTree, linksAreNotFollowedAndCountThemselves)
+TEST_F(ScanTreeTest, linksAreNotFollowedAndCountThemselves)
 {
     temp.file("elsewhere/big", bytesOf(5000));
     temp.link("root/to folder", temp.at("elsewhere"));
@@ -209,13 +209,13 @@ TEST_F(ScanTree, linksAreNotFollowedAndCountThemselves)
     EXPECT_TRUE(probed().isEmpty());
 }
 
-TEST_F(ScanTree, filesCountTheirLogicalSize)
+TEST_F(ScanTreeTest, filesCountTheirLogicalSize)
 {
     temp.sparseFile("root/sparse", qint64(5) << 30);
     EXPECT_EQ(scan(1).size, qint64(5) << 30);
 }
 
-TEST_F(ScanTree, pipesAreNotOpened)
+TEST_F(ScanTreeTest, pipesAreNotOpened)
 {
     ASSERT_EQ(mkfifo(paths::toBytes(temp.at("root/pipe")).constData(), 0600), 0);
     const FileEntry entry = scan(1);
@@ -223,7 +223,7 @@ TEST_F(ScanTree, pipesAreNotOpened)
     EXPECT_EQ(childNames(entry), QStringList({"pipe"}));
 }
 
-TEST_F(ScanTree, whileCancelledGivesNothingForAnyPathAndTouchesNoDisk)
+TEST_F(ScanTreeTest, whileCancelledGivesNothingForAnyPathAndTouchesNoDisk)
 {
     temp.file("root/a", bytesOf(5));
     service.scanCancelled = true;
@@ -245,7 +245,7 @@ TEST_F(ScanTree, whileCancelledGivesNothingForAnyPathAndTouchesNoDisk)
     EXPECT_TRUE(service.scanCancelled); // only a scan's starter clears it
 }
 
-TEST_F(ScanTree, cancelTakesEffectAtTheNextFolderAndStillAddsTheFilesOfThisOne)
+TEST_F(ScanTreeTest, cancelTakesEffectAtTheNextFolderAndStillAddsTheFilesOfThisOne)
 {
     for (int i = 0; i < 4; ++i) {
         temp.file(QStringLiteral("root/folder%1/inside").arg(i), bytesOf(1000));
@@ -265,7 +265,7 @@ TEST_F(ScanTree, cancelTakesEffectAtTheNextFolderAndStillAddsTheFilesOfThisOne)
     EXPECT_EQ(entry.children->size(), 8U);
 }
 
-TEST_F(ScanTree, unreadableFolderLooksExactlyLikeACancelledOne)
+TEST_F(ScanTreeTest, unreadableFolderLooksExactlyLikeACancelledOne)
 {
     temp.file("root/locked/a", bytesOf(5));
     temp.file("root/open", bytesOf(3));
@@ -278,7 +278,7 @@ TEST_F(ScanTree, unreadableFolderLooksExactlyLikeACancelledOne)
     EXPECT_FALSE(locked.children);
 }
 
-TEST_F(ScanTree, missingFolderIsAnEmptyOneWithoutChildren)
+TEST_F(ScanTreeTest, missingFolderIsAnEmptyOneWithoutChildren)
 {
     const FileEntry entry = service.scanTree(temp.at("missing"), 0, 2);
     EXPECT_EQ(entry.name, "missing");
@@ -286,7 +286,7 @@ TEST_F(ScanTree, missingFolderIsAnEmptyOneWithoutChildren)
     EXPECT_FALSE(entry.children);
 }
 
-TEST_F(ScanTree, entryThatVanishesIsSkippedWithoutAddingToTheTotal)
+TEST_F(ScanTreeTest, entryThatVanishesIsSkippedWithoutAddingToTheTotal)
 {
     temp.file("root/stays", bytesOf(3));
     temp.file("root/vanishes", bytesOf(100));
@@ -300,7 +300,7 @@ TEST_F(ScanTree, entryThatVanishesIsSkippedWithoutAddingToTheTotal)
     EXPECT_EQ(childNames(entry), QStringList({"stays"}));
 }
 
-TEST_F(ScanTree, folderThatVanishesBeforeItIsOpenedCountsZero)
+TEST_F(ScanTreeTest, folderThatVanishesBeforeItIsOpenedCountsZero)
 {
     temp.file("root/gone/a", bytesOf(5));
     const InjectedFaults faults([](files::Operation operation, const QString &path) {
@@ -309,7 +309,7 @@ TEST_F(ScanTree, folderThatVanishesBeforeItIsOpenedCountsZero)
     EXPECT_EQ(scan(2).size, 0);
 }
 
-TEST_F(ScanTree, hostileNamesKeepTheirBytesInNamesAndPaths)
+TEST_F(ScanTreeTest, hostileNamesKeepTheirBytesInNamesAndPaths)
 {
     const QString fileName = paths::fromBytes("two\nlines \"'$(x)\\ \xff");
     const QString folderName = paths::fromBytes("-sk\t\xfe");
@@ -321,7 +321,7 @@ TEST_F(ScanTree, hostileNamesKeepTheirBytesInNamesAndPaths)
     EXPECT_EQ(probed(), QStringList({temp.at("root/" + folderName)}));
 }
 
-TEST_F(ScanTree, totalBeyond64BitsEndsTheProcess)
+TEST_F(ScanTreeTest, totalBeyond64BitsEndsTheProcess)
 {
     GTEST_FLAG_SET(death_test_style, "fast"); // the other style would leave a second temporary home behind
     temp.folder("root/a");

@@ -1,4 +1,6 @@
-#include "disk/DiskServices.h"
+#include "base/Files.h"
+#include "base/Paths.h"
+#include "support/TestPlatform.h"
 
 #include <limits>
 
@@ -7,18 +9,18 @@
 
 namespace {
 
-struct SizeProbe : testing::Test
+struct SizeProbesTest : testing::Test
 {
-    DiskServices services;
-    TempHome &temp = services.test.temp;
+    TestPlatform test;
+    TempHome &temp = test.temp;
 
-    qint64 probe(const QString &path) { return services.probes.probeSize(path, ProbeContext::generic); }
-    qint64 probeHome() { return probe(services.test.home); }
+    qint64 probe(const QString &path) { return test.probes.probeSize(path, ProbeContext::generic); }
+    qint64 probeHome() { return probe(test.home); }
 
     /// The size that a `du` makes of which the output is `text`, an argument of printf.
     qint64 sizeOf(const QByteArray &text)
     {
-        services.useDu("printf -- '" + text + "'\n");
+        test.useDu("printf -- '" + text + "'\n");
         return probeHome();
     }
 
@@ -33,7 +35,7 @@ struct SizeProbe : testing::Test
 
 } // namespace
 
-TEST_F(SizeProbe, countsTheAllocatedBytesOfEverythingBelow)
+TEST_F(SizeProbesTest, countsTheAllocatedBytesOfEverythingBelow)
 {
     const QString folder = temp.folder("folder");
     const QString file = temp.file("folder/file", QByteArray(10'000, 'x'));
@@ -44,39 +46,39 @@ TEST_F(SizeProbe, countsTheAllocatedBytesOfEverythingBelow)
     EXPECT_EQ(probe(folder), expected);
 }
 
-TEST_F(SizeProbe, sparseFileCountsOnlyWhatIsAllocated)
+TEST_F(SizeProbesTest, sparseFileCountsOnlyWhatIsAllocated)
 {
     const QString file = temp.sparseFile("sparse", qint64(1) << 30);
     EXPECT_EQ(probe(file), allocated(file));
     EXPECT_LT(probe(file), 1 << 20);
 }
 
-TEST_F(SizeProbe, linkCountsItselfAndNotItsTarget)
+TEST_F(SizeProbesTest, linkCountsItselfAndNotItsTarget)
 {
     temp.file("target/big", QByteArray(200'000, 'x'));
     const QString link = temp.link("link", temp.at("target"));
     EXPECT_EQ(probe(link), allocated(link));
 }
 
-TEST_F(SizeProbe, missingPathIsZero)
+TEST_F(SizeProbesTest, missingPathIsZero)
 {
     EXPECT_EQ(probe(temp.at("missing")), 0);
 }
 
-TEST_F(SizeProbe, outputIsACountOfKibibytes)
+TEST_F(SizeProbesTest, outputIsACountOfKibibytes)
 {
     EXPECT_EQ(sizeOf("4096\\t/a/b\\n"), 4194304);
 }
 
-TEST_F(SizeProbe, passesTheOptionAndThePathAsTwoArgumentsUnchanged)
+TEST_F(SizeProbesTest, passesTheOptionAndThePathAsTwoArgumentsUnchanged)
 {
-    services.useDu("printf '%s\\n' $# \"$1\" \"$2\" >'" + DiskServices::bytes(temp.at("arguments")) + "'\n");
+    test.useDu("printf '%s\\n' $# \"$1\" \"$2\" >'" + paths::toBytes(temp.at("arguments")) + "'\n");
     const QString path = paths::fromBytes("/a b/\"c\" 'd' $(e) \\ *\n%1\xff");
     probe(path);
     EXPECT_EQ(files::readPrefix(temp.at("arguments"), 1000), "2\n-sk\n" + paths::toBytes(path) + "\n");
 }
 
-TEST_F(SizeProbe, measuresFoldersWithHostileNames)
+TEST_F(SizeProbesTest, measuresFoldersWithHostileNames)
 {
     for (const QByteArray &name : {QByteArray("two words"), QByteArray("\"quotes' "), QByteArray("tab\there"),
                                    QByteArray("two\nlines"), QByteArray("-sk"), QByteArray("raw\xff\xc3")}) {
@@ -86,29 +88,29 @@ TEST_F(SizeProbe, measuresFoldersWithHostileNames)
     }
 }
 
-TEST_F(SizeProbe, emptyOutputIsZero)
+TEST_F(SizeProbesTest, emptyOutputIsZero)
 {
-    services.useDu("exit 0\n");
+    test.useDu("exit 0\n");
     EXPECT_EQ(probeHome(), 0);
 }
 
-TEST_F(SizeProbe, bareNumberAndNewlineWithoutATabIsZero)
+TEST_F(SizeProbesTest, bareNumberAndNewlineWithoutATabIsZero)
 {
     EXPECT_EQ(sizeOf("4096\\n"), 0);
 }
 
-TEST_F(SizeProbe, bareNumberWithoutAnythingElseCounts)
+TEST_F(SizeProbesTest, bareNumberWithoutAnythingElseCounts)
 {
     EXPECT_EQ(sizeOf("4096"), 4194304);
 }
 
-TEST_F(SizeProbe, emptyPiecesBeforeTheNumberArePassedOver)
+TEST_F(SizeProbesTest, emptyPiecesBeforeTheNumberArePassedOver)
 {
     EXPECT_EQ(sizeOf("\\t\\t4\\t/a\\n"), 4096);
     EXPECT_EQ(sizeOf("\\t\\t"), 0);
 }
 
-TEST_F(SizeProbe, nonsenseIsZero)
+TEST_F(SizeProbesTest, nonsenseIsZero)
 {
     for (const char *text : {"du: no\\n", "12a\\t/a\\n", " 12\\t/a\\n", "12 \\t/a\\n", "1.5\\t/a\\n",
                              "0x10\\t/a\\n", "1,024\\t/a\\n", "+\\t/a\\n", "-\\t/a\\n", "+-1\\t/a\\n",
@@ -116,20 +118,20 @@ TEST_F(SizeProbe, nonsenseIsZero)
         EXPECT_EQ(sizeOf(text), 0) << text;
 }
 
-TEST_F(SizeProbe, signIsPartOfANumber)
+TEST_F(SizeProbesTest, signIsPartOfANumber)
 {
     EXPECT_EQ(sizeOf("+4\\t/a\\n"), 4096);
     EXPECT_EQ(sizeOf("-4\\t/a\\n"), -4096);
 }
 
-TEST_F(SizeProbe, numberBeyond64BitsIsZero)
+TEST_F(SizeProbesTest, numberBeyond64BitsIsZero)
 {
     EXPECT_EQ(sizeOf("9223372036854775808\\t/a\\n"), 0);
     EXPECT_EQ(sizeOf("-9223372036854775809\\t/a\\n"), 0);
     EXPECT_EQ(sizeOf("99999999999999999999999999999999\\t/a\\n"), 0);
 }
 
-TEST_F(SizeProbe, productBeyond64BitsIsZero)
+TEST_F(SizeProbesTest, productBeyond64BitsIsZero)
 {
     const qint64 most = std::numeric_limits<qint64>::max() / 1024;
     EXPECT_EQ(sizeOf(QByteArray::number(most) + "\\t/a\\n"), most * 1024);
@@ -137,46 +139,46 @@ TEST_F(SizeProbe, productBeyond64BitsIsZero)
     EXPECT_EQ(sizeOf(QByteArray::number(-most - 2) + "\\t/a\\n"), 0);
 }
 
-TEST_F(SizeProbe, totalCountsAlthoughTheExitStatusIsAnError)
+TEST_F(SizeProbesTest, totalCountsAlthoughTheExitStatusIsAnError)
 {
-    services.useDu("echo 'cannot read directory' >&2\nprintf '8\\t%s\\n' \"$2\"\nexit 1\n");
+    test.useDu("echo 'cannot read directory' >&2\nprintf '8\\t%s\\n' \"$2\"\nexit 1\n");
     EXPECT_EQ(probeHome(), 8192);
 }
 
-TEST_F(SizeProbe, whatStandardErrorSaysIsNotRead)
+TEST_F(SizeProbesTest, whatStandardErrorSaysIsNotRead)
 {
-    services.useDu("printf '8\\t%s\\n' \"$2\" >&2\n");
+    test.useDu("printf '8\\t%s\\n' \"$2\" >&2\n");
     EXPECT_EQ(probeHome(), 0);
 }
 
-TEST_F(SizeProbe, programThatIsMissingOrCannotBeStartedIsZero)
+TEST_F(SizeProbesTest, programThatIsMissingOrCannotBeStartedIsZero)
 {
     for (const QString &program :
          {temp.at("missing"), temp.file("no permission", "#!/bin/sh\necho 1\n"), temp.path()}) {
-        services.test.platform.programs.du = program;
+        test.platform.programs.du = program;
         EXPECT_EQ(probeHome(), 0) << qPrintable(program);
-        EXPECT_TRUE(services.probes.liveSizeProbes().at(ProbeContext::generic).empty());
+        EXPECT_TRUE(test.probes.liveSizeProbes().at(ProbeContext::generic).empty());
     }
 }
 
-TEST_F(SizeProbe, programThatASignalEndsIsZero)
+TEST_F(SizeProbesTest, programThatASignalEndsIsZero)
 {
-    services.useDu("kill -KILL $$\n");
+    test.useDu("kill -KILL $$\n");
     EXPECT_EQ(probeHome(), 0);
 }
 
-TEST_F(SizeProbe, aFinishedProbeLeavesAnEmptyListAndNothingElse)
+TEST_F(SizeProbesTest, aFinishedProbeLeavesAnEmptyListAndNothingElse)
 {
-    EXPECT_TRUE(services.probes.liveSizeProbes().empty());
-    services.probes.probeSize(services.test.home, ProbeContext::largestDirs);
-    const auto live = services.probes.liveSizeProbes();
+    EXPECT_TRUE(test.probes.liveSizeProbes().empty());
+    test.probes.probeSize(test.home, ProbeContext::largestDirs);
+    const auto live = test.probes.liveSizeProbes();
     ASSERT_EQ(live.size(), 1U);
     EXPECT_TRUE(live.at(ProbeContext::largestDirs).empty());
 }
 
-TEST_F(SizeProbe, cancellingAContextWithoutProbesDoesNothing)
+TEST_F(SizeProbesTest, cancellingAContextWithoutProbesDoesNothing)
 {
-    services.probes.cancelProbes(ProbeContext::storage);
-    services.probes.cancelProbes();
+    test.probes.cancelProbes(ProbeContext::storage);
+    test.probes.cancelProbes();
     EXPECT_GT(probe(temp.file("file", "x")), 0);
 }
