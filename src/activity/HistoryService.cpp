@@ -2,6 +2,7 @@
 
 #include "activity/HistoryFile.h"
 #include "activity/Loggers.h"
+#include "base/AtomicWrite.h"
 #include "base/Error.h"
 #include "base/Files.h"
 #include "base/GuardedPost.h"

@@ -1,6 +1,7 @@
 #include "base/Defaults.h"
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -54,14 +55,46 @@ std::optional<qint64> Defaults::integerIfAny(const QString &key) const
     return found.typeId() == QMetaType::Double ? static_cast<qint64>(found.toDouble()) : found.toLongLong();
 }
 
-void Defaults::set(const QString &key, const QVariant &value)
+std::optional<QStringList> Defaults::texts(const QString &key) const
 {
-    store(key, value);
+    const QVariant found = value(key);
+    if (found.typeId() != QMetaType::QVariantList && found.typeId() != QMetaType::QStringList)
+        return std::nullopt;
+    QStringList texts;
+    const QVariantList values = found.toList();
+    for (const QVariant &each : values) {
+        if (each.typeId() != QMetaType::QString)
+            return std::nullopt;
+        texts << each.toString();
+    }
+    return texts;
+}
+
+void Defaults::set(const QString &key, const QVariant &newValue)
+{
+    const QVariant before = value(key);
+    // As a store gives it back, so that the same list set again is no change.
+    const bool isTexts = newValue.typeId() == QMetaType::QStringList;
+    store(key, isTexts ? QVariant(newValue.toList()) : newValue);
+    tellOfChange(key, before);
 }
 
 void Defaults::remove(const QString &key)
 {
+    const QVariant before = value(key);
     erase(key);
+    tellOfChange(key, before);
+}
+
+void Defaults::observe(const QString &key, QObject *owner, std::function<void()> changed)
+{
+    changes_.observe(key, owner, [changed = std::move(changed)](const QVariant &) { changed(); });
+}
+
+void Defaults::tellOfChange(const QString &key, const QVariant &before)
+{
+    if (value(key) != before)
+        changes_.post(key);
 }
 
 QVariant Defaults::stored(const QString &key) const

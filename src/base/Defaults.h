@@ -1,9 +1,13 @@
 #pragma once
 
+#include "base/NotificationCenter.h"
+
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QVariantMap>
 
+#include <functional>
 #include <optional>
 
 /// The user's settings: values by key, with registered values in the place of what was never set. Read at the
@@ -32,11 +36,20 @@ public:
     /// The same, with none in those cases, for who has a value of its own to fall back on.
     std::optional<qint64> integerIfAny(const QString &key) const;
 
-    /// Stores a boolean, a number, a text, or a list or map of these. Written through before the call returns.
+    /// The list of texts under a key; none for a missing key and for a value that is anything else, a list with one
+    /// value of another type included.
+    std::optional<QStringList> texts(const QString &key) const;
+
+    /// Stores a boolean, a number, a text, a list of texts, or a list or map of these. Written through before the call
+    /// returns.
     void set(const QString &key, const QVariant &value);
 
     /// Takes the stored value away, which brings the registered one back.
     void remove(const QString &key);
+
+    /// Runs `changed` at each `set` and `remove` of this process that makes a read of `key` give another value, inside
+    /// the call, for as long as `owner` lives. Any number of observers may watch a key.
+    void observe(const QString &key, QObject *owner, std::function<void()> changed);
 
 protected:
     virtual QVariant stored(const QString &key) const;
@@ -44,6 +57,9 @@ protected:
     virtual void erase(const QString &key);
 
 private:
+    void tellOfChange(const QString &key, const QVariant &before);
+
+    NotificationCenter changes_;
     QVariantMap registered_;
     QVariantMap memory_;
 };

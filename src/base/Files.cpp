@@ -1,12 +1,12 @@
 #include "base/Files.h"
 
 #include "base/Error.h"
+#include "base/FileCalls.h"
 #include "base/Paths.h"
 #include "base/SystemCalls.h"
 
-#include <QScopeGuard>
-
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -21,57 +21,6 @@ namespace {
 
 /// Without waiting, since a pipe would wait for a writer; without becoming the terminal of the process.
 constexpr int readingFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-
-std::function<int(Operation, const QString &)> &faults()
-{
-    static std::function<int(Operation, const QString &)> injected;
-    return injected;
-}
-
-/// True when a test wants this call to fail; errno is set then.
-bool fails(Operation operation, const QString &path)
-{
-    const int code = faults() ? faults()(operation, path) : 0;
-    if (code != 0)
-        errno = code;
-    return code != 0;
-}
-
-/// The bytes of a path for the system. A NUL would cut the path short and name something else, so such a path
-/// becomes the empty one, which names nothing.
-QByteArray native(const QString &path)
-{
-    return path.contains(QChar::Null) ? QByteArray() : paths::toBytes(path);
-}
-
-/// An open file, closed with it.
-class Descriptor
-{
-public:
-    /// Takes what `open` gave; throws Error where that is -1.
-    explicit Descriptor(int number)
-        : number_(number)
-    {
-        if (number == -1)
-            throw errors::fromErrno(errno);
-    }
-    Descriptor(Descriptor &&other) noexcept
-        : number_(std::exchange(other.number_, -1))
-    {
-    }
-    ~Descriptor()
-    {
-        if (number_ != -1)
-            close(number_);
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-    int number() const { return number_; }
-
-private:
-    int number_;
-};
 
 /// A regular file. A pipe or device is refused, since opening or reading it could wait for ever.
 Descriptor openToRead(const QString &path)
@@ -102,34 +51,6 @@ QByteArray readUpTo(const Descriptor &file, qint64 most)
         content.append(chunk, count);
     }
     return content;
-}
-
-/// Writes all of `content`; `path` is only what a test knows the file by. Throws Error.
-void writeWhole(const Descriptor &file, const QString &path, QByteArrayView content)
-{
-    constexpr qsizetype mostAtOnce = 65536;
-    while (!content.isEmpty()) {
-        if (fails(Operation::write, path))
-            throw errors::fromErrno(errno);
-        const auto wanted = static_cast<size_t>(std::min(content.size(), mostAtOnce));
-        const ssize_t count = write(file.number(), content.data(), wanted);
-        if (count == -1 && errno == EINTR)
-            continue;
-        if (count == -1)
-            throw errors::fromErrno(errno);
-        content = content.sliced(count);
-    }
-}
-
-/// Makes a rename in `folder` last through a loss of power. The file is in its place by then, so that a file system
-/// which can't do this is no failure.
-void syncFolder(const QString &folder)
-{
-    const int descriptor = open(native(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor == -1)
-        return;
-    fsync(descriptor);
-    close(descriptor);
 }
 
 std::optional<struct stat> followed(const QString &path)
@@ -167,6 +88,13 @@ bool isDirectory(const QString &path)
     return status && S_ISDIR(status->st_mode);
 }
 
+std::optional<QString> linkTarget(const QString &path)
+{
+    char target[PATH_MAX];
+    const ssize_t length = readlink(native(path).constData(), target, sizeof target);
+    return length == -1 ? std::nullopt : std::optional(paths::fromBytes({target, length}));
+}
+
 std::optional<std::vector<QString>> list(const QString &folder)
 {
     DirectoryReader reader(folder);
@@ -202,27 +130,6 @@ QByteArray readAll(const QString &path, qint64 most)
     if (content.size() > most)
         throw errors::fromErrno(EFBIG);
     return content;
-}
-
-void writeAtomically(const QString &path, const QByteArray &content)
-{
-    const QString folder = paths::parent(path);
-    // Named by itself, since the file's own name may be as long as a name can be.
-    QByteArray temporary = native(paths::join(folder, QStringLiteral(".quillmere-XXXXXX")));
-    const Descriptor file(fails(Operation::open, path) ? -1 : mkostemp(temporary.data(), O_CLOEXEC));
-    auto removing = qScopeGuard([&temporary] { unlink(temporary.constData()); });
-
-    struct stat old = {};
-    const bool replaces = lstat(native(path).constData(), &old) == 0 && S_ISREG(old.st_mode);
-    if (replaces)
-        fchmod(file.number(), old.st_mode & 0777); // a file system that keeps no such bits may refuse
-    writeWhole(file, path, content);
-    if (fails(Operation::sync, path) || fsync(file.number()) == -1)
-        throw errors::fromErrno(errno);
-    if (fails(Operation::rename, path) || rename(temporary.constData(), native(path).constData()) == -1)
-        throw errors::fromErrno(errno);
-    removing.dismiss();
-    syncFolder(folder);
 }
 
 void makeDirectory(const QString &path)

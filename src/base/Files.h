@@ -56,6 +56,9 @@ bool isDirectory(const QString &path);
 /// Where a path really leads, without a link on the way. None when nothing is there.
 std::optional<QString> realPath(const QString &path);
 
+/// What a link reads, which may lead nowhere. None for anything else.
+std::optional<QString> linkTarget(const QString &path);
+
 /// The names in a folder without "." and "..", in the file system's order, hidden ones included. None when it
 /// can't be listed. Links are followed.
 std::optional<std::vector<QString>> list(const QString &folder);
@@ -67,12 +70,6 @@ std::optional<QByteArray> readPrefix(const QString &path, qint64 most);
 /// The whole of a regular file. Throws Error: the system's where it can't be opened or read, EFBIG for more than
 /// `most` bytes, which are not read then, and EINVAL for what is no regular file.
 QByteArray readAll(const QString &path, qint64 most);
-
-/// Replaces the content of a file, or makes it, so that a reader sees the old content or the new one and never a part:
-/// a temporary file beside it is written, synced and renamed over it. A new file is its user's alone (0600), a replaced
-/// one hands its permissions on. A link at `path` is replaced itself; what it leads to stays untouched. Throws Error
-/// (the system's), and leaves nothing behind then.
-void writeAtomically(const QString &path, const QByteArray &content);
 
 /// Makes one folder. Throws Error (the system's) when it can't, also when the name is taken.
 void makeDirectory(const QString &path);

@@ -1,9 +1,14 @@
+#include "base/AtomicWrite.h"
+
 #include "base/Error.h"
 #include "base/Files.h"
 #include "base/Paths.h"
+#include "support/AnotherProcess.h"
+#include "support/OrdinaryUser.h"
 #include "support/TempHome.h"
 
 #include <cerrno>
+#include <csignal>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -48,6 +53,35 @@ protected:
     /// Nothing but the file itself is in its folder.
     void expectAlone() const { EXPECT_EQ(files::list(temp.path()), std::vector{u"file"_s}); }
 
+    /// The name of the file that is written beside `path`, found while one is.
+    QString temporaryName() const
+    {
+        QString name;
+        files::injectFaults([&](Operation asked, const QString &) {
+            if (asked != Operation::sync)
+                return 0;
+            const auto names = files::list(temp.path()).value();
+            for (const QString &each : names)
+                name = each.startsWith(u".quillmere-") ? each : name;
+            return EIO;
+        });
+        EXPECT_EQ(failureOfWrite(), EIO);
+        files::injectFaults({});
+        EXPECT_NE(name, QString());
+        return name;
+    }
+    /// Dies half way through a write of `path`.
+    void dieWhileWriting() const
+    {
+        const int code = inAnotherProcess([this] {
+            files::injectFaults([](Operation asked, const QString &) {
+                return asked == Operation::sync ? raise(SIGKILL) : 0;
+            });
+            files::writeAtomically(path, "half");
+        });
+        EXPECT_EQ(code, -1);
+    }
+
     const TempHome temp;
     const QString path = temp.at(u"file"_s);
 };
@@ -69,6 +103,92 @@ TEST_F(AtomicWriteTest, replacesAFileAndHandsItsPermissionsOn)
     files::writeAtomically(path, "new");
     EXPECT_EQ(content(), "new");
     EXPECT_EQ(mode(), 0644U);
+    expectAlone();
+}
+
+TEST_F(AtomicWriteTest, makesAFileReadableAndWritableToItsUser)
+{
+    const std::pair<unsigned, unsigned> rows[] = {{0, 0600}, {0444, 0644}, {0200, 0600}, {0640, 0640}};
+    for (const auto &[before, after] : rows) {
+        temp.file(u"file"_s, "old");
+        temp.setMode(u"file"_s, before);
+        files::writeAtomically(path, "new");
+        EXPECT_EQ(mode(), after);
+    }
+}
+
+TEST_F(AtomicWriteTest, leavesOneFileHoweverManyWritersAreKilled)
+{
+    temp.file(u"file"_s, "old");
+    for (int i = 0; i < 5; ++i)
+        dieWhileWriting();
+    EXPECT_EQ(content(), "old");
+    EXPECT_EQ(files::list(temp.path())->size(), 2U);
+    files::writeAtomically(path, "new");
+    EXPECT_EQ(content(), "new");
+    expectAlone();
+}
+
+TEST_F(AtomicWriteTest, keepsTheTemporaryFilesOfAFoldersFilesApart)
+{
+    dieWhileWriting();
+    const auto left = files::list(temp.path()).value();
+    ASSERT_EQ(left.size(), 1U);
+    files::writeAtomically(temp.at(u"other"_s), "content");
+    EXPECT_TRUE(files::exists(temp.at(left[0])));
+}
+
+TEST_F(AtomicWriteTest, writesNothingThroughALinkAtItsTemporaryName)
+{
+    const QString target = temp.file(u"target"_s, "untouched");
+    const QString name = temporaryName();
+    for (const bool isHard : {false, true}) {
+        if (isHard) {
+            ASSERT_EQ(link(paths::toBytes(target).constData(), paths::toBytes(temp.at(name)).constData()), 0);
+        } else {
+            temp.link(name, target);
+        }
+        files::writeAtomically(path, "new");
+        EXPECT_EQ(content(), "new");
+        EXPECT_EQ(files::readAll(target, 100), "untouched");
+        EXPECT_EQ(files::list(temp.path())->size(), 2U);
+    }
+}
+
+TEST_F(AtomicWriteTest, passesOverAFolderAtItsTemporaryName)
+{
+    const QString inside = temp.file(temporaryName() + u"/inside"_s, "untouched");
+    files::writeAtomically(path, "new");
+    EXPECT_EQ(content(), "new");
+    EXPECT_EQ(files::readAll(inside, 100), "untouched");
+    EXPECT_EQ(files::list(temp.path())->size(), 2U);
+}
+
+TEST_F(AtomicWriteTest, takesALeftOverWithoutPermissionsAway)
+{
+    temp.setMode(u""_s, 0777);
+    const bool holds = holdsForOrdinaryUser([this] {
+        const QString name = temporaryName();
+        temp.file(name, "left");
+        temp.setMode(name, 0);
+        files::writeAtomically(path, "new");
+        EXPECT_EQ(content(), "new");
+        expectAlone();
+    });
+    EXPECT_TRUE(holds);
+}
+
+TEST_F(AtomicWriteTest, letsAnotherWriterFinishWhatItHasBegun)
+{
+    bool isFirst = true;
+    files::injectFaults([&](Operation asked, const QString &) {
+        if (asked == Operation::sync && std::exchange(isFirst, false))
+            files::writeAtomically(path, "the other's");
+        return 0;
+    });
+    files::writeAtomically(path, QByteArray(100'000, 'x'));
+    EXPECT_FALSE(isFirst);
+    EXPECT_EQ(content(), QByteArray(100'000, 'x'));
     expectAlone();
 }
 

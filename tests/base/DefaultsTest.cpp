@@ -163,6 +163,71 @@ TEST(Defaults, doNotFallBackToTheRegisteredValueForAWrongType)
     EXPECT_EQ(with(defaults, u"soon"_s).integer(key), 0);
 }
 
+TEST(Defaults, giveListsOfTextsBack)
+{
+    Defaults defaults;
+    const QString odd = u"/a/"_s + QChar(0xDCFF);
+    EXPECT_EQ(defaults.texts(key), std::nullopt);
+    EXPECT_EQ(with(defaults, QStringList{u"b"_s, odd, QString()}).texts(key),
+              QStringList({u"b"_s, odd, QString()}));
+    EXPECT_EQ(with(defaults, QStringList()).texts(key), QStringList());
+    EXPECT_EQ(with(defaults, QVariantList{u"a"_s}).texts(key), QStringList({u"a"_s}));
+    defaults.registerDefaults({{u"other"_s, QStringList{u"c"_s}}});
+    EXPECT_EQ(defaults.texts(u"other"_s), QStringList({u"c"_s}));
+}
+
+TEST(Defaults, giveNoTextsForAListWithAnythingElse)
+{
+    Defaults defaults;
+    for (const QVariant &value :
+         {QVariant(u"a"_s), QVariant(1), QVariant(QVariantList{u"a"_s, 1}),
+          QVariant(QVariantList{QVariant()}), QVariant(QVariantMap{{u"a"_s, u"b"_s}})})
+        EXPECT_EQ(with(defaults, value).texts(key), std::nullopt) << value.typeName();
+}
+
+TEST(Defaults, tellOfEachChangeOfAKey)
+{
+    Defaults defaults;
+    defaults.registerDefaults({{key, 5}});
+    QObject owner;
+    std::vector<qint64> seen;
+    defaults.observe(key, &owner, [&] { seen.push_back(defaults.integer(key)); });
+    defaults.set(key, 5); // as it stood
+    defaults.set(u"other"_s, 1);
+    EXPECT_TRUE(seen.empty());
+    defaults.set(key, 6);
+    defaults.set(key, 6);
+    defaults.remove(key);
+    defaults.remove(key);
+    EXPECT_EQ(seen, (std::vector<qint64>{6, 5}));
+}
+
+TEST(Defaults, tellOfAListOnlyWhenItIsAnother)
+{
+    Defaults defaults;
+    QObject owner;
+    int changes = 0;
+    defaults.set(key, QVariantList{u"a"_s});
+    defaults.observe(key, &owner, [&] { ++changes; });
+    defaults.set(key, QStringList{u"a"_s});
+    EXPECT_EQ(changes, 0);
+    defaults.set(key, QStringList{u"a"_s, u"b"_s});
+    EXPECT_EQ(changes, 1);
+}
+
+TEST(Defaults, tellNobodyWhoHasGone)
+{
+    Defaults defaults;
+    int changes = 0;
+    {
+        QObject owner;
+        defaults.observe(key, &owner, [&] { ++changes; });
+        defaults.set(key, 1);
+    }
+    defaults.set(key, 2);
+    EXPECT_EQ(changes, 1);
+}
+
 TEST(Defaults, writeThroughToTheSystemsStoreAtOnce)
 {
     WatchedDefaults defaults;

@@ -7,50 +7,35 @@ JsonDefaults::JsonDefaults(QString path)
 {
 }
 
-JsonDefaults::~JsonDefaults() = default;
-
 QVariant JsonDefaults::stored(const QString &key) const
 {
-    QSettings *settings = file();
-    return settings ? settings->value(key) : Defaults::stored(key);
+    if (!values_)
+        values_ = jsonsettings::read(path_).value_or(QVariantMap());
+    return values_->value(key);
 }
 
 void JsonDefaults::store(const QString &key, const QVariant &value)
 {
-    QSettings *settings = file();
-    if (!settings) {
-        Defaults::store(key, value);
-        return;
-    }
-    settings->setValue(key, value);
-    writeThrough(*settings);
+    change(key, value);
 }
 
 void JsonDefaults::erase(const QString &key)
 {
-    QSettings *settings = file();
-    if (!settings) {
-        Defaults::erase(key);
-        return;
+    change(key, std::nullopt);
+}
+
+void JsonDefaults::change(const QString &key, std::optional<QVariant> value)
+{
+    unwritten_[key] = std::move(value);
+    const auto onDisk = jsonsettings::read(path_);
+    QVariantMap values = onDisk ? *onDisk : values_.value_or(QVariantMap());
+    for (const auto &[changedKey, changed] : unwritten_) {
+        if (changed)
+            values.insert(changedKey, *changed);
+        else
+            values.remove(changedKey);
     }
-    settings->remove(key);
-    writeThrough(*settings);
-}
-
-QSettings *JsonDefaults::file() const
-{
-    if (!isOpened_ && jsonsettings::moveAsideIfDamaged(path_))
-        file_ = std::make_unique<QSettings>(path_, jsonsettings::format());
-    isOpened_ = true;
-    return file_.get();
-}
-
-void JsonDefaults::writeThrough(QSettings &settings)
-{
-    // The write reads the file again for what other processes have changed, and would replace one that has been
-    // damaged since.
-    if (!jsonsettings::moveAsideIfDamaged(path_))
-        return;
-    jsonsettings::clearStaleLock(path_);
-    settings.sync();
+    if (onDisk && jsonsettings::write(path_, values))
+        unwritten_.clear();
+    values_ = std::move(values);
 }

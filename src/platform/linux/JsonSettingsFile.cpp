@@ -1,44 +1,27 @@
 #include "platform/linux/JsonSettingsFile.h"
 
+#include "base/AtomicWrite.h"
 #include "base/Error.h"
 #include "base/Files.h"
+#include "base/Paths.h"
 
-#include <QIODevice>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLockFile>
 
 #include <cerrno>
-#include <optional>
 
 namespace {
 
 constexpr qint64 mostContent = 16 << 20; // bytes; ours is some hundred
-constexpr int lockIsStale = 1000;        // milliseconds; a write takes some
 constexpr int mostNames = 1000;          // of files moved aside, before we give up
+constexpr int mostLinks = 40;            // as many as the system follows
 
-std::optional<QJsonObject> parsed(const QByteArray &content)
+std::optional<QVariantMap> parsed(const QByteArray &content)
 {
     if (content.size() > mostContent)
         return std::nullopt;
     const QJsonDocument document = QJsonDocument::fromJson(content);
-    return document.isObject() ? std::optional(document.object()) : std::nullopt;
-}
-
-bool readSettings(QIODevice &device, QSettings::SettingsMap &settings)
-{
-    if (!device.isOpen()) // there is no file yet
-        return true;
-    const auto object = parsed(device.read(mostContent + 1));
-    if (object)
-        settings = object->toVariantMap();
-    return object.has_value();
-}
-
-bool writeSettings(QIODevice &device, const QSettings::SettingsMap &settings)
-{
-    const QByteArray content = QJsonDocument(QJsonObject::fromVariantMap(settings)).toJson();
-    return device.write(content) == content.size();
+    return document.isObject() ? std::optional(document.object().toVariantMap()) : std::nullopt;
 }
 
 /// False when the file is still at `path`.
@@ -57,33 +40,46 @@ bool moveAside(const QString &path)
     return false;
 }
 
+/// Where the links at `path` lead, whether something is there or not.
+QString followed(QString path)
+{
+    for (int i = 0; i < mostLinks; ++i) {
+        const auto target = files::linkTarget(path);
+        if (!target)
+            break;
+        path = target->startsWith(u'/') ? *target : paths::join(paths::parent(path), *target);
+    }
+    return path;
+}
+
 } // namespace
 
 namespace jsonsettings {
 
-QSettings::Format format()
+std::optional<QVariantMap> read(const QString &path)
 {
-    static const QSettings::Format registered =
-        QSettings::registerFormat(QStringLiteral("json"), readSettings, writeSettings);
-    return registered;
-}
-
-bool moveAsideIfDamaged(const QString &path)
-{
-    if (!files::attributes(path))
-        return true;
-    if (!files::exists(path)) // a link to a file that is yet to be made
-        return true;
+    // Nothing, or a link to a file that is yet to be made.
+    if (!files::attributes(path) || !files::exists(path))
+        return QVariantMap();
     const auto content = files::readPrefix(path, mostContent + 1);
-    return (content && parsed(*content)) || moveAside(path);
+    if (auto values = content ? parsed(*content) : std::nullopt)
+        return values;
+    return moveAside(path) ? std::optional(QVariantMap()) : std::nullopt;
 }
 
-void clearStaleLock(const QString &path)
+bool write(const QString &path, const QVariantMap &values)
 {
-    QLockFile lock(path + QStringLiteral(".lock")); // the one that QSettings takes
-    lock.setStaleLockTime(lockIsStale);
-    if (lock.tryLock(2 * lockIsStale))
-        lock.unlock();
+    const QByteArray content = QJsonDocument(QJsonObject::fromVariantMap(values)).toJson();
+    if (content.size() > mostContent) // it could not be read again
+        return false;
+    try {
+        const QString file = followed(path);
+        files::makeDirectories(paths::parent(file));
+        files::writeAtomically(file, content);
+        return true;
+    } catch (const Error &) {
+        return false;
+    }
 }
 
 } // namespace jsonsettings
