@@ -1,9 +1,10 @@
 #include "platform/linux/JsonDefaults.h"
 
 #include "base/Files.h"
-#include "ScratchFolder.h"
+#include "base/Paths.h"
 #include "support/AnotherProcess.h"
 #include "support/OrdinaryUser.h"
+#include "support/TempHome.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -77,28 +78,28 @@ void killWhileStoring(const QString &path, int stores)
 
 TEST(JsonDefaults, touchesNoDiskUntilTheFirstUse)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.write(name, "garbage");
+    const TempHome temp;
+    const QString path = temp.file(name, "garbage");
     {
         JsonDefaults defaults(path);
         defaults.registerDefaults({{u"a"_s, 1}});
     }
-    EXPECT_EQ(namesIn(scratch.path()), std::set<QString>{name});
+    EXPECT_EQ(namesIn(temp.path()), std::set<QString>{name});
     EXPECT_EQ(contentOf(path), "garbage");
 }
 
 TEST(JsonDefaults, readingMakesNoFile)
 {
-    const ScratchFolder scratch;
-    const JsonDefaults defaults(scratch.path(u"config/settings.json"_s));
+    const TempHome temp;
+    const JsonDefaults defaults(temp.at(u"config/settings.json"_s));
     EXPECT_FALSE(defaults.value(u"a"_s).isValid());
-    EXPECT_TRUE(namesIn(scratch.path()).empty());
+    EXPECT_TRUE(namesIn(temp.path()).empty());
 }
 
 TEST(JsonDefaults, writesEachSetThroughWithItsType)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(u"config/quillmere/settings.json"_s);
+    const TempHome temp;
+    const QString path = temp.at(u"config/quillmere/settings.json"_s);
     JsonDefaults defaults(path);
     defaults.set(u"flag"_s, true);
     EXPECT_EQ(objectIn(path), (QJsonObject{{u"flag"_s, true}}));
@@ -118,8 +119,8 @@ TEST(JsonDefaults, writesEachSetThroughWithItsType)
 
 TEST(JsonDefaults, readsWhatAnEarlierProcessStored)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(name);
+    const TempHome temp;
+    const QString path = temp.at(name);
     ASSERT_EQ(inAnotherProcess([&path] {
                   JsonDefaults defaults(path);
                   defaults.set(u"flag"_s, true);
@@ -135,8 +136,8 @@ TEST(JsonDefaults, readsWhatAnEarlierProcessStored)
 
 TEST(JsonDefaults, keepsWholeNumbersOf64BitsExact)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(name);
+    const TempHome temp;
+    const QString path = temp.at(name);
     ASSERT_EQ(inAnotherProcess([&path] {
                   JsonDefaults defaults(path);
                   defaults.set(u"large"_s, (1LL << 53) + 1);
@@ -155,20 +156,20 @@ TEST(JsonDefaults, keepsWholeNumbersOf64BitsExact)
 
 TEST(JsonDefaults, removingBringsTheRegisteredValueBack)
 {
-    const ScratchFolder scratch;
-    JsonDefaults defaults(scratch.path(name));
+    const TempHome temp;
+    JsonDefaults defaults(temp.at(name));
     defaults.registerDefaults({{u"count"_s, 30}});
     defaults.set(u"count"_s, 7);
     EXPECT_EQ(defaults.integer(u"count"_s), 7);
     defaults.remove(u"count"_s);
     EXPECT_EQ(defaults.integer(u"count"_s), 30);
-    EXPECT_EQ(objectIn(scratch.path(name)), QJsonObject());
+    EXPECT_EQ(objectIn(temp.at(name)), QJsonObject());
 }
 
 TEST(JsonDefaults, keepsValuesOfWrongTypesAsTheyAre)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.write(
+    const TempHome temp;
+    const QString path = temp.file(
         name,
         R"({"flag": "yes", "count": [1], "none": null, "fraction": 1.5, "huge": 1e300, "unknown": {"a": [{}]}})");
     JsonDefaults defaults(path);
@@ -186,8 +187,8 @@ TEST(JsonDefaults, keepsValuesOfWrongTypesAsTheyAre)
 
 TEST(JsonDefaults, mergesWithWhatAnotherProcessStores)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(name);
+    const TempHome temp;
+    const QString path = temp.at(name);
     JsonDefaults defaults(path);
     defaults.set(u"ours"_s, 1);
     ASSERT_EQ(inAnotherProcess([&path] { JsonDefaults(path).set(u"theirs"_s, 2); }), 0);
@@ -202,8 +203,8 @@ class JsonDefaultsDamaged : public testing::TestWithParam<QByteArray>
 
 TEST_P(JsonDefaultsDamaged, movesTheFileAsideAndStartsEmpty)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.write(name, GetParam());
+    const TempHome temp;
+    const QString path = temp.file(name, GetParam());
     JsonDefaults defaults(path);
     defaults.registerDefaults({{u"count"_s, 30}});
     EXPECT_EQ(defaults.integer(u"count"_s), 30);
@@ -224,23 +225,23 @@ INSTANTIATE_TEST_SUITE_P(Contents, JsonDefaultsDamaged,
 
 TEST(JsonDefaults, neverReplacesAnEarlierDamagedFile)
 {
-    const ScratchFolder scratch;
-    scratch.write(u"settings.json.damaged"_s, "first");
-    scratch.write(u"settings.json.damaged-2"_s, "second");
-    const QString path = scratch.write(name, "third");
+    const TempHome temp;
+    temp.file(u"settings.json.damaged"_s, "first");
+    temp.file(u"settings.json.damaged-2"_s, "second");
+    const QString path = temp.file(name, "third");
     EXPECT_FALSE(JsonDefaults(path).value(u"a"_s).isValid());
-    EXPECT_EQ(contentOf(scratch.path(u"settings.json.damaged"_s)), "first");
-    EXPECT_EQ(contentOf(scratch.path(u"settings.json.damaged-2"_s)), "second");
-    EXPECT_EQ(contentOf(scratch.path(u"settings.json.damaged-3"_s)), "third");
+    EXPECT_EQ(contentOf(temp.at(u"settings.json.damaged"_s)), "first");
+    EXPECT_EQ(contentOf(temp.at(u"settings.json.damaged-2"_s)), "second");
+    EXPECT_EQ(contentOf(temp.at(u"settings.json.damaged-3"_s)), "third");
 }
 
 TEST(JsonDefaults, movesAsideWhatWasDamagedWhileWeRan)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(name);
+    const TempHome temp;
+    const QString path = temp.at(name);
     JsonDefaults defaults(path);
     defaults.set(u"a"_s, 1);
-    scratch.write(name, "somebody's notes");
+    temp.file(name, "somebody's notes");
     defaults.set(u"b"_s, 2);
     EXPECT_EQ(contentOf(path + u".damaged"_s), "somebody's notes");
     EXPECT_EQ(objectIn(path).value(u"b"_s), 2);
@@ -248,8 +249,8 @@ TEST(JsonDefaults, movesAsideWhatWasDamagedWhileWeRan)
 
 TEST(JsonDefaults, movesAsideWhatIsNoFileWithoutOpeningIt)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(name);
+    const TempHome temp;
+    const QString path = temp.at(name);
     ASSERT_EQ(mkfifo(paths::toBytes(path).constData(), 0600), 0); // to open it would wait for ever
     JsonDefaults defaults(path);
     defaults.set(u"a"_s, 1);
@@ -259,34 +260,34 @@ TEST(JsonDefaults, movesAsideWhatIsNoFileWithoutOpeningIt)
 
 TEST(JsonDefaults, writesThroughALinkToItsFile)
 {
-    const ScratchFolder scratch;
-    ASSERT_EQ(symlink("real.json", paths::toBytes(scratch.path(name)).constData()), 0);
-    JsonDefaults defaults(scratch.path(name));
+    const TempHome temp;
+    ASSERT_EQ(symlink("real.json", paths::toBytes(temp.at(name)).constData()), 0);
+    JsonDefaults defaults(temp.at(name));
     defaults.set(u"a"_s, 1);
-    EXPECT_EQ(objectIn(scratch.path(u"real.json"_s)), (QJsonObject{{u"a"_s, 1}}));
-    ASSERT_TRUE(files::attributes(scratch.path(name)));
-    EXPECT_EQ(files::attributes(scratch.path(name))->kind, files::Kind::link);
+    EXPECT_EQ(objectIn(temp.at(u"real.json"_s)), (QJsonObject{{u"a"_s, 1}}));
+    ASSERT_TRUE(files::attributes(temp.at(name)));
+    EXPECT_EQ(files::attributes(temp.at(name))->kind, files::Kind::link);
 }
 
 TEST(JsonDefaults, livesInMemoryWhereNothingCanBeWritten)
 {
-    const ScratchFolder scratch;
-    scratch.write(u"file"_s, "no folder");
-    JsonDefaults defaults(scratch.path(u"file/settings.json"_s)); // refused to root as well
+    const TempHome temp;
+    temp.file(u"file"_s, "no folder");
+    JsonDefaults defaults(temp.at(u"file/settings.json"_s)); // refused to root as well
     defaults.set(u"flag"_s, true);
     defaults.set(u"count"_s, 7);
     defaults.remove(u"flag"_s);
     EXPECT_FALSE(defaults.boolean(u"flag"_s));
     EXPECT_EQ(defaults.integer(u"count"_s), 7);
-    EXPECT_EQ(contentOf(scratch.path(u"file"_s)), "no folder");
+    EXPECT_EQ(contentOf(temp.at(u"file"_s)), "no folder");
 }
 
 TEST(JsonDefaults, livesInMemoryInAReadOnlyFolder)
 {
-    const ScratchFolder scratch;
-    const QString folder = scratch.makeFolder(u"config"_s);
-    scratch.write(u"config/settings.json"_s, "garbage");
-    ASSERT_EQ(chmod(paths::toBytes(scratch.path()).constData(), 0755), 0);
+    const TempHome temp;
+    const QString folder = temp.folder(u"config"_s);
+    temp.file(u"config/settings.json"_s, "garbage");
+    ASSERT_EQ(chmod(paths::toBytes(temp.path()).constData(), 0755), 0);
     ASSERT_EQ(chmod(paths::toBytes(folder).constData(), 0555), 0);
     const bool holds = holdsForOrdinaryUser([&folder] {
         JsonDefaults defaults(paths::join(folder, name));
@@ -297,15 +298,15 @@ TEST(JsonDefaults, livesInMemoryInAReadOnlyFolder)
         EXPECT_FALSE(defaults.value(u"other"_s).isValid());
     });
     EXPECT_TRUE(holds);
-    EXPECT_EQ(contentOf(scratch.path(u"config/settings.json"_s)), "garbage");
+    EXPECT_EQ(contentOf(temp.at(u"config/settings.json"_s)), "garbage");
     EXPECT_EQ(namesIn(folder), std::set<QString>{name});
     ASSERT_EQ(chmod(paths::toBytes(folder).constData(), 0755), 0); // so that it can be removed
 }
 
 TEST(JsonDefaults, keepsEveryByteOfAPath)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(name);
+    const TempHome temp;
+    const QString path = temp.at(name);
     QByteArray bytes;
     for (int byte = 1; byte < 256; ++byte)
         bytes.append(static_cast<char>(byte));
@@ -322,35 +323,34 @@ TEST(JsonDefaults, keepsEveryByteOfAPath)
 
 TEST(JsonDefaults, needsNoLockBesideItsFile)
 {
-    const ScratchFolder scratch;
-    const QString lock =
-        scratch.makeFolder(u"settings.json.lock"_s); // nothing that could be locked or removed
-    JsonDefaults defaults(scratch.path(name));
+    const TempHome temp;
+    const QString lock = temp.folder(u"settings.json.lock"_s); // nothing that could be locked or removed
+    JsonDefaults defaults(temp.at(name));
     defaults.set(u"a"_s, 1);
-    EXPECT_EQ(objectIn(scratch.path(name)), (QJsonObject{{u"a"_s, 1}}));
-    EXPECT_EQ(namesIn(scratch.path()), (std::set<QString>{name, u"settings.json.lock"_s}));
+    EXPECT_EQ(objectIn(temp.at(name)), (QJsonObject{{u"a"_s, 1}}));
+    EXPECT_EQ(namesIn(temp.path()), (std::set<QString>{name, u"settings.json.lock"_s}));
 }
 
 TEST(JsonDefaults, writesWhatItCouldNotOnceItCan)
 {
-    const ScratchFolder scratch;
-    scratch.write(u"config"_s, "a file where the folder should be");
-    const QString path = scratch.path(u"config/settings.json"_s);
+    const TempHome temp;
+    temp.file(u"config"_s, "a file where the folder should be");
+    const QString path = temp.at(u"config/settings.json"_s);
     JsonDefaults defaults(path);
     defaults.set(u"a"_s, 1);
     defaults.set(u"b"_s, 2);
     defaults.remove(u"a"_s);
-    files::move(scratch.path(u"config"_s), scratch.path(u"aside"_s));
-    scratch.makeFolder(u"config"_s);
-    scratch.write(u"config/settings.json"_s, R"({"a": 7, "theirs": 8})");
+    files::move(temp.at(u"config"_s), temp.at(u"aside"_s));
+    temp.folder(u"config"_s);
+    temp.file(u"config/settings.json"_s, R"({"a": 7, "theirs": 8})");
     defaults.set(u"c"_s, 3);
     EXPECT_EQ(objectIn(path), (QJsonObject{{u"b"_s, 2}, {u"c"_s, 3}, {u"theirs"_s, 8}}));
 }
 
 TEST(JsonDefaults, keepsInMemoryWhatWouldBeTooLargeToRead)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(name);
+    const TempHome temp;
+    const QString path = temp.at(name);
     JsonDefaults defaults(path);
     defaults.set(u"a"_s, 1);
     defaults.set(u"large"_s, QString(17 << 20, u'x'));
@@ -360,11 +360,11 @@ TEST(JsonDefaults, keepsInMemoryWhatWouldBeTooLargeToRead)
 
 TEST(JsonDefaults, leavesAWholeFileWhenKilledWhileWriting)
 {
-    const ScratchFolder scratch;
-    const QString path = scratch.path(name);
+    const TempHome temp;
+    const QString path = temp.at(name);
     for (int stores = 1; stores <= 12; ++stores) {
         killWhileStoring(path, stores);
-        EXPECT_LE(namesIn(scratch.path()).size(), 2U); // one left-over at most
+        EXPECT_LE(namesIn(temp.path()).size(), 2U); // one left-over at most
         const QString value = objectIn(path).value(u"large"_s).toString();
         ASSERT_EQ(value.size(), 100'000);
         EXPECT_EQ(value.count(value[0]), value.size());

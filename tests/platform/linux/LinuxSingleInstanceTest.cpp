@@ -1,7 +1,8 @@
 #include "platform/linux/LinuxSingleInstance.h"
 
+#include "base/Paths.h"
 #include "PrivateBus.h"
-#include "ScratchFolder.h"
+#include "support/TempHome.h"
 #include "WaitUntil.h"
 
 #include <QByteArrayList>
@@ -165,8 +166,8 @@ TEST(LinuxSingleInstance, survivesHostileCalls)
 TEST(LinuxSingleInstance, releaseLetsASuccessorTakeTheName)
 {
     PrivateBus bus;
-    const ScratchFolder scratch;
-    LinuxSingleInstance first(bus.connect(), scratch.path(u"lock"_s));
+    const TempHome temp;
+    LinuxSingleInstance first(bus.connect(), temp.at(u"lock"_s));
     LinuxSingleInstance successor(bus.connect(), {});
     ASSERT_TRUE(first.acquire());
     EXPECT_FALSE(successor.acquire());
@@ -177,23 +178,23 @@ TEST(LinuxSingleInstance, releaseLetsASuccessorTakeTheName)
 
 TEST(LinuxSingleInstance, secondStartWithoutABusSignalsTheFirst)
 {
-    const ScratchFolder scratch;
-    LinuxSingleInstance first(PrivateBus::none(), scratch.path(u"lock"_s));
+    const TempHome temp;
+    LinuxSingleInstance first(PrivateBus::none(), temp.at(u"lock"_s));
     const Requests requests(first);
     ASSERT_TRUE(first.acquire());
-    EXPECT_TRUE(secondStartGivesWay(scratch.path(u"lock"_s)));
+    EXPECT_TRUE(secondStartGivesWay(temp.at(u"lock"_s)));
     EXPECT_TRUE(requests.waitFor(1));
     EXPECT_EQ(requests.tokens, QByteArrayList{""});
-    EXPECT_TRUE(secondStartGivesWay(scratch.path(u"lock"_s)));
+    EXPECT_TRUE(secondStartGivesWay(temp.at(u"lock"_s)));
     EXPECT_TRUE(requests.waitFor(2));
 }
 
 TEST(LinuxSingleInstance, startOnABusGivesWayToOneThatWasStartedWithout)
 {
     PrivateBus bus;
-    const ScratchFolder scratch;
-    const Holder running(scratch.path(u"lock"_s));
-    LinuxSingleInstance second(bus.connect(), scratch.path(u"lock"_s));
+    const TempHome temp;
+    const Holder running(temp.at(u"lock"_s));
+    LinuxSingleInstance second(bus.connect(), temp.at(u"lock"_s));
     EXPECT_FALSE(second.acquire());
     LinuxSingleInstance other(bus.connect(), {});
     EXPECT_TRUE(other.acquire()) << "The name was not given back.";
@@ -201,9 +202,9 @@ TEST(LinuxSingleInstance, startOnABusGivesWayToOneThatWasStartedWithout)
 
 TEST(LinuxSingleInstance, lockOfAKilledProcessIsFree)
 {
-    const ScratchFolder scratch;
-    Holder holder(scratch.path(u"lock"_s));
-    LinuxSingleInstance instance(PrivateBus::none(), scratch.path(u"lock"_s));
+    const TempHome temp;
+    Holder holder(temp.at(u"lock"_s));
+    LinuxSingleInstance instance(PrivateBus::none(), temp.at(u"lock"_s));
     EXPECT_FALSE(instance.acquire());
     holder.end();
     EXPECT_TRUE(instance.acquire());
@@ -211,18 +212,18 @@ TEST(LinuxSingleInstance, lockOfAKilledProcessIsFree)
 
 TEST(LinuxSingleInstance, releaseLetsASuccessorTakeTheLock)
 {
-    const ScratchFolder scratch;
-    LinuxSingleInstance first(PrivateBus::none(), scratch.path(u"lock"_s));
+    const TempHome temp;
+    LinuxSingleInstance first(PrivateBus::none(), temp.at(u"lock"_s));
     ASSERT_TRUE(first.acquire());
     first.release();
-    const Holder successor(scratch.path(u"lock"_s));
+    const Holder successor(temp.at(u"lock"_s));
     EXPECT_FALSE(first.acquire());
 }
 
 TEST(LinuxSingleInstance, survivesASignalThatComesAfterTheRelease)
 {
-    const ScratchFolder scratch;
-    LinuxSingleInstance instance(PrivateBus::none(), scratch.path(u"lock"_s));
+    const TempHome temp;
+    LinuxSingleInstance instance(PrivateBus::none(), temp.at(u"lock"_s));
     const Requests requests(instance);
     ASSERT_TRUE(instance.acquire());
     instance.release();
@@ -245,11 +246,10 @@ TEST(LinuxSingleInstance, startsWhereThereIsNeitherBusNorRuntimeFolder)
 
 TEST(LinuxSingleInstance, followsNoLinkInThePlaceOfItsLock)
 {
-    const ScratchFolder scratch;
-    const QString target = scratch.path(u"target"_s);
-    ASSERT_EQ(
-        symlink(paths::toBytes(target).constData(), paths::toBytes(scratch.path(u"lock"_s)).constData()), 0);
-    LinuxSingleInstance instance(PrivateBus::none(), scratch.path(u"lock"_s));
+    const TempHome temp;
+    const QString target = temp.at(u"target"_s);
+    ASSERT_EQ(symlink(paths::toBytes(target).constData(), paths::toBytes(temp.at(u"lock"_s)).constData()), 0);
+    LinuxSingleInstance instance(PrivateBus::none(), temp.at(u"lock"_s));
     EXPECT_TRUE(instance.acquire());
     EXPECT_EQ(access(paths::toBytes(target).constData(), F_OK), -1);
 }

@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxSystemInfo.h"
 
-#include "ScratchFolder.h"
+#include "TempHome.h"
 
 #include <gtest/gtest.h>
 #include <sys/statvfs.h>
@@ -11,42 +11,41 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A kernel's folders in a scratch folder: "vda2" is a device there, with the number 254:2.
+/// A kernel's folders in a temporary one: "vda2" is a device there, with the number 254:2.
 class LinuxSystemInfoFiles : public testing::Test
 {
 protected:
     LinuxSystemInfoFiles()
     {
-        scratch_.makeFolder(u"dev"_s);
-        scratch_.makeFolder(u"by-label"_s);
-        scratch_.makeFolder(u"block"_s);
-        scratch_.makeFolder(u"sys"_s);
-        scratch_.makeFolder(u"sys/vda2"_s);
-        scratch_.write(u"dev/vda2"_s, {});
-        scratch_.write(u"dev/vda9"_s, {});
+        temp_.folder(u"dev"_s);
+        temp_.folder(u"by-label"_s);
+        temp_.folder(u"block"_s);
+        temp_.folder(u"sys"_s);
+        temp_.folder(u"sys/vda2"_s);
+        temp_.file(u"dev/vda2"_s, {});
+        temp_.file(u"dev/vda9"_s, {});
         link("../sys/vda2", u"block/254:2"_s);
     }
 
     void link(const char *target, const QString &name)
     {
-        ASSERT_EQ(symlink(target, paths::toBytes(scratch_.path(name)).constData()), 0);
+        ASSERT_EQ(symlink(target, paths::toBytes(temp_.at(name)).constData()), 0);
     }
 
     void mountRootFrom(const QByteArray &source, const QByteArray &device = "254:2")
     {
-        scratch_.write(u"mountinfo"_s, "27 1 " + device + " / / rw - ext4 " + source + " rw\n");
+        temp_.file(u"mountinfo"_s, "27 1 " + device + " / / rw - ext4 " + source + " rw\n");
     }
 
-    QByteArray device(const char *name) const { return paths::toBytes(scratch_.path(u"dev/"_s)) + name; }
+    QByteArray device(const char *name) const { return paths::toBytes(temp_.at(u"dev/"_s)) + name; }
 
     LinuxSystemInfo info() const
     {
-        return LinuxSystemInfo({scratch_.path(u"mountinfo"_s), scratch_.path(u"by-label"_s),
-                                scratch_.path(u"dev"_s), scratch_.path(u"block"_s),
-                                scratch_.path(u"product_name"_s)});
+        return LinuxSystemInfo({temp_.at(u"mountinfo"_s), temp_.at(u"by-label"_s), temp_.at(u"dev"_s),
+                                temp_.at(u"block"_s), temp_.at(u"product_name"_s)});
     }
 
-    ScratchFolder scratch_;
+    TempHome temp_;
 };
 
 } // namespace
@@ -61,7 +60,7 @@ TEST_F(LinuxSystemInfoFiles, namesTheRootVolumeByItsLabel)
 
 TEST_F(LinuxSystemInfoFiles, findsTheLabelThroughADeviceMappersLink)
 {
-    scratch_.makeFolder(u"dev/mapper"_s);
+    temp_.folder(u"dev/mapper"_s);
     link("../vda2", u"dev/mapper/group-root"_s);
     mountRootFrom(device("mapper/group-root"), "0:27");
     EXPECT_EQ(info().rootVolumeName(), u"group-root"_s);
@@ -98,26 +97,26 @@ TEST_F(LinuxSystemInfoFiles, namesNothingThatIsNoDevice)
 TEST_F(LinuxSystemInfoFiles, namesNothingWithoutAMountTable)
 {
     EXPECT_EQ(info().rootVolumeName(), std::nullopt);
-    scratch_.write(u"mountinfo"_s, QByteArray(100'000, '\xFF'));
+    temp_.file(u"mountinfo"_s, QByteArray(100'000, '\xFF'));
     EXPECT_EQ(info().rootVolumeName(), std::nullopt);
 }
 
 TEST_F(LinuxSystemInfoFiles, readsTheHardwareModelTrimmed)
 {
-    scratch_.write(u"product_name"_s, "  Notebook 14 Pro \n");
+    temp_.file(u"product_name"_s, "  Notebook 14 Pro \n");
     EXPECT_EQ(info().hardwareModel(), u"Notebook 14 Pro"_s);
 }
 
 TEST_F(LinuxSystemInfoFiles, hasNoHardwareModelWhenItIsMissingOrEmpty)
 {
     EXPECT_EQ(info().hardwareModel(), std::nullopt);
-    scratch_.write(u"product_name"_s, " \n");
+    temp_.file(u"product_name"_s, " \n");
     EXPECT_EQ(info().hardwareModel(), std::nullopt);
 }
 
 TEST_F(LinuxSystemInfoFiles, boundsAndRepairsTheHardwareModel)
 {
-    scratch_.write(u"product_name"_s, "A\xFF" + QByteArray(1'000'000, 'x'));
+    temp_.file(u"product_name"_s, "A\xFF" + QByteArray(1'000'000, 'x'));
     const auto model = info().hardwareModel();
     ASSERT_TRUE(model);
     EXPECT_TRUE(model->startsWith(u"A\uFFFDx"_s));

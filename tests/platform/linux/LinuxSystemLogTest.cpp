@@ -1,8 +1,9 @@
 #include "platform/linux/LinuxSystemLog.h"
 
 #include "base/Error.h"
+#include "base/Paths.h"
 #include "PrivateJournal.h"
-#include "ScratchFolder.h"
+#include "support/TempHome.h"
 
 #include <QElapsedTimer>
 #include <QStringList>
@@ -176,21 +177,21 @@ TEST(LinuxSystemLog, keepsTheNewestOfManyEntries)
 
 TEST(LinuxSystemLog, saysThatNoJournalIsRunning)
 {
-    const ScratchFolder scratch;
+    const TempHome temp;
     const SystemClock clock;
-    LinuxSystemLog log(clock, scratch.path(u"socket"_s));
+    LinuxSystemLog log(clock, temp.at(u"socket"_s));
     log.write(LogLevel::info, u"General"_s, u"lost"_s);
     EXPECT_EQ(descriptionOfFailure(log), u"No system journal is running."_s);
 }
 
 TEST(LinuxSystemLog, isNotTakenInByASocketThatAJournalLeftBehind)
 {
-    const ScratchFolder scratch;
+    const TempHome temp;
     const SystemClock clock;
     {
-        const SilentSocket gone(scratch.path(u"socket"_s));
+        const SilentSocket gone(temp.at(u"socket"_s));
     }
-    LinuxSystemLog log(clock, scratch.path(u"socket"_s));
+    LinuxSystemLog log(clock, temp.at(u"socket"_s));
     log.write(LogLevel::info, u"General"_s, u"lost"_s);
     EXPECT_EQ(descriptionOfFailure(log), u"No system journal is running."_s);
 }
@@ -207,10 +208,10 @@ TEST(LinuxSystemLog, takesAnImpossibleSocketPathForNoJournal)
 
 TEST(LinuxSystemLog, losesLinesRatherThanWaitingForAJournalThatHangs)
 {
-    const ScratchFolder scratch;
+    const TempHome temp;
     const SystemClock clock;
-    const SilentSocket hanging(scratch.path(u"socket"_s));
-    LinuxSystemLog log(clock, scratch.path(u"socket"_s));
+    const SilentSocket hanging(temp.at(u"socket"_s));
+    LinuxSystemLog log(clock, temp.at(u"socket"_s));
     constexpr int lines = 5000; // far more than a socket holds
     for (int i = 0; i < lines; ++i)
         log.write(LogLevel::info, u"General"_s, u"line"_s);

@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxWorkspace.h"
 
+#include "base/Paths.h"
 #include "StandInService.h"
 #include "WaitUntil.h"
 #include "WorkspaceFixture.h"
@@ -143,7 +144,7 @@ TEST_F(LinuxWorkspaceOnDesktop, revealsByThePortalWithoutAFileManager)
     StandInService service(bus_.connect(), portal, portalPath, [](const QDBusMessage &call) {
         return call.createReply(QVariant::fromValue(QDBusObjectPath(portalPath + u"/request/1/2"_s)));
     });
-    const QString path = scratch_.write(u"home/file"_s, "x");
+    const QString path = temp_.file(u"home/file"_s, "x");
     workspace().reveal(path);
     ASSERT_TRUE(waitUntil([&] { return !service.calls.empty(); }));
     const QDBusMessage call = service.calls.first();
@@ -159,7 +160,7 @@ TEST_F(LinuxWorkspaceOnDesktop, revealsByOpeningTheFolderWhenAllElseRefuses)
     addProgram(u"xdg-open"_s);
     StandInService manager(bus_.connect(), fileManager, fileManagerPath, refuse);
     StandInService service(bus_.connect(), portal, portalPath, refuse);
-    workspace().reveal(scratch_.write(u"home/file"_s, "x"));
+    workspace().reveal(temp_.file(u"home/file"_s, "x"));
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{paths::fileUrl(home())});
     EXPECT_EQ(manager.calls.size(), 1);
     EXPECT_EQ(service.calls.size(), 1);
@@ -243,7 +244,7 @@ TEST_F(LinuxWorkspaceOnDesktop, opensTheUsersTerminalInTheFolder)
 
 TEST_F(LinuxWorkspaceOnDesktop, opensTheSystemsTerminalWhereTheUsersCantBeStarted)
 {
-    scratch_.write(u"bin/xdg-terminal-exec"_s, "#!/bin/sh\n"); // no program: it has no leave to run
+    temp_.file(u"bin/xdg-terminal-exec"_s, "#!/bin/sh\n"); // no program: it has no leave to run
     addProgram(u"x-terminal-emulator"_s);
     const QByteArray name = "line\nbreak \xFF \"$(x)\"";
     ASSERT_EQ(mkdir(paths::toBytes(home(name)).constData(), 0777), 0);

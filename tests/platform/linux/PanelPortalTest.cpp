@@ -1,5 +1,6 @@
 #include "platform/linux/PanelPortal.h"
 
+#include "base/Paths.h"
 #include "PanelAnswer.h"
 #include "StandInPanelPortal.h"
 #include "WaitUntil.h"

@@ -1,6 +1,7 @@
 #include "PrivateBus.h"
 
 #include "base/Files.h"
+#include "base/Paths.h"
 #include "WaitUntil.h"
 
 #include <QStandardPaths>
@@ -11,10 +12,10 @@ using namespace Qt::StringLiterals;
 PrivateBus::PrivateBus()
 {
     const QByteArray config =
-        "<busconfig><type>session</type><listen>unix:path=" + paths::toBytes(folder_.path(u"bus"_s))
+        "<busconfig><type>session</type><listen>unix:path=" + paths::toBytes(folder_.at(u"bus"_s))
         + "</listen><policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
           "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>";
-    const QString file = folder_.write(u"bus.conf"_s, config);
+    const QString file = folder_.file(u"bus.conf"_s, config);
     const QString program = QStandardPaths::findExecutable(u"dbus-daemon"_s);
     EXPECT_FALSE(program.isEmpty()) << "These tests need dbus-daemon.";
     daemon_ = std::make_unique<ChildProcess>(
@@ -33,7 +34,7 @@ QDBusConnection PrivateBus::connect()
 {
     const QString name = QUuid::createUuid().toString();
     connections_.append(name);
-    return QDBusConnection::connectToBus(u"unix:path="_s + folder_.path(u"bus"_s), name);
+    return QDBusConnection::connectToBus(u"unix:path="_s + folder_.at(u"bus"_s), name);
 }
 
 QDBusConnection PrivateBus::none()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/ChildProcess.h"
-#include "ScratchFolder.h"
+#include "support/TempHome.h"
 
 #include <QDBusConnection>
 
@@ -23,7 +23,7 @@ public:
     static QDBusConnection none();
 
 private:
-    ScratchFolder folder_;
+    TempHome folder_;
     std::unique_ptr<ChildProcess> daemon_;
     QStringList connections_;
 };

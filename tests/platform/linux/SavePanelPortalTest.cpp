@@ -1,3 +1,4 @@
+#include "base/Paths.h"
 #include "PanelAnswer.h"
 #include "platform/linux/PanelPortal.h"
 #include "StandInPanelPortal.h"

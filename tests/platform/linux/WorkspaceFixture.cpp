@@ -1,6 +1,7 @@
 #include "WorkspaceFixture.h"
 
 #include "base/Files.h"
+#include "base/Paths.h"
 #include "WaitUntil.h"
 
 #include <sys/stat.h>
@@ -9,27 +10,26 @@ using namespace Qt::StringLiterals;
 
 WorkspaceFixture::WorkspaceFixture()
 {
-    scratch_.makeFolder(u"bin"_s);
-    scratch_.makeFolder(u"starts"_s);
-    scratch_.makeFolder(u"home"_s);
+    temp_.folder(u"bin"_s);
+    temp_.folder(u"starts"_s);
+    temp_.folder(u"home"_s);
 }
 
 LinuxWorkspace &WorkspaceFixture::workspace()
 {
     if (!workspace_) {
-        LinuxDesktop desktop{
-            .bus = hasBus_ ? bus_.connect() : PrivateBus::none(),
-            .searchPath = {u"bin"_s, {}, scratch_.path(u"missing"_s), scratch_.path(u"bin"_s)},
-            .fallbackFolderPanel =
-                [this](const auto &request, const auto &chosen) {
-                    panelRequests_.push_back(request);
-                    chosen(u"/from the fallback"_s);
-                },
-            .fallbackSavePanel =
-                [this](const auto &request, const auto &chosen) {
-                    saveRequests_.push_back(request);
-                    chosen(u"/saved by the fallback"_s);
-                }};
+        LinuxDesktop desktop{.bus = hasBus_ ? bus_.connect() : PrivateBus::none(),
+                             .searchPath = {u"bin"_s, {}, temp_.at(u"missing"_s), temp_.at(u"bin"_s)},
+                             .fallbackFolderPanel =
+                                 [this](const auto &request, const auto &chosen) {
+                                     panelRequests_.push_back(request);
+                                     chosen(u"/from the fallback"_s);
+                                 },
+                             .fallbackSavePanel =
+                                 [this](const auto &request, const auto &chosen) {
+                                     saveRequests_.push_back(request);
+                                     chosen(u"/saved by the fallback"_s);
+                                 }};
         workspace_ = std::make_unique<LinuxWorkspace>(std::move(desktop), workQueue_);
     }
     return *workspace_;
@@ -37,17 +37,17 @@ LinuxWorkspace &WorkspaceFixture::workspace()
 
 void WorkspaceFixture::addProgram(const QString &name)
 {
-    const QByteArray note = paths::toBytes(scratch_.path(u"starts"_s));
+    const QByteArray note = paths::toBytes(temp_.at(u"starts"_s));
     const QByteArray script = "#!/bin/sh\nprintf '%s\\0' '" + name.toUtf8() + "' \"$PWD\" \"$@\" >" + note
                               + "/.$$ && mv " + note + "/.$$ " + note + "/$$\n";
-    const QString path = scratch_.write(u"bin/"_s + name, script);
+    const QString path = temp_.file(u"bin/"_s + name, script);
     ASSERT_EQ(chmod(paths::toBytes(path).constData(), 0755), 0);
 }
 
 std::vector<QByteArrayList> WorkspaceFixture::starts() const
 {
     std::vector<QByteArrayList> found;
-    const QString folder = scratch_.path(u"starts"_s);
+    const QString folder = temp_.at(u"starts"_s);
     const auto names = files::list(folder).value_or(std::vector<QString>());
     for (const QString &name : names) {
         if (name.startsWith(u'.')) // still being written
@@ -70,7 +70,7 @@ QByteArrayList WorkspaceFixture::onlyStart() const
 
 QString WorkspaceFixture::home(const QByteArray &name) const
 {
-    const QString folder = scratch_.path(u"home"_s);
+    const QString folder = temp_.at(u"home"_s);
     return name.isEmpty() ? folder : paths::join(folder, paths::fromBytes(name));
 }
 

@@ -3,7 +3,7 @@
 #include "CountingWorkQueue.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "PrivateBus.h"
-#include "ScratchFolder.h"
+#include "support/TempHome.h"
 
 #include <QByteArrayList>
 
@@ -39,7 +39,7 @@ protected:
 
     PrivateBus bus_;
     bool hasBus_ = true; // false, before the first use of the workspace: it gets none
-    ScratchFolder scratch_;
+    TempHome temp_;
     CountingWorkQueue workQueue_;
     std::vector<Workspace::FolderRequest> panelRequests_; // that reached the fallback, which answers at once
     std::vector<Workspace::SaveRequest> saveRequests_;    // the same of the panel for saving
