@@ -2,8 +2,10 @@
 
 #include "base/Files.h"
 #include "base/Paths.h"
+#include "base/Sums.h"
 #include "platform/linux/SystemTexts.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 
@@ -15,6 +17,7 @@ namespace {
 
 constexpr qint64 mostOfMountTable = 4 << 20; // bytes; a host of many containers has some thousands of lines
 constexpr qint64 mostOfProductName = 4096;   // bytes, a page: the kernel gives no more
+const QString rootPath = QStringLiteral("/");
 
 /// `path` with all links resolved; empty when it leads nowhere. Only for the kernel's own folders, which never
 /// make us wait.
@@ -29,11 +32,9 @@ QString resolved(const QString &path)
 /// `blocks` of `blockSize` bytes, held within 64 bits: some network and FUSE file systems report nonsense.
 qint64 bytesOf(fsblkcnt_t blocks, unsigned long blockSize)
 {
-    quint64 bytes = 0;
     constexpr quint64 most = std::numeric_limits<qint64>::max();
-    if (__builtin_mul_overflow(static_cast<quint64>(blocks), static_cast<quint64>(blockSize), &bytes))
-        return static_cast<qint64>(most);
-    return static_cast<qint64>(std::min(bytes, most));
+    return sums::saturatedProduct(static_cast<qint64>(std::min<quint64>(blocks, most)),
+                                  static_cast<qint64>(std::min<quint64>(blockSize, most)));
 }
 
 } // namespace
@@ -60,13 +61,22 @@ std::optional<SystemInfo::Volume> LinuxSystemInfo::rootVolume() const
     return volume;
 }
 
-std::optional<QString> LinuxSystemInfo::rootVolumeName() const
+QString LinuxSystemInfo::rootVolumeName() const
 {
     const auto table = files::readPrefix(sources_.mountInfo, mostOfMountTable);
     const auto mount = systemtexts::rootMount(table.value_or(QByteArray()));
     if (!mount)
-        return std::nullopt;
+        return rootPath;
     const QString source = paths::fromBytes(mount->source);
+    if (const auto name = deviceName(source, paths::fromBytes(mount->device)))
+        return *name;
+    // A file system without a device is told by its source: a dataset's name, a server's path, "overlay".
+    const QString name = paths::display(source).trimmed();
+    return name.isEmpty() || name == QStringLiteral("none") ? rootPath : name;
+}
+
+std::optional<QString> LinuxSystemInfo::deviceName(const QString &source, const QString &number) const
+{
     // Only what lies among the devices is one; a network file system's source is a path on another machine, and
     // to look at it could take for ever.
     if (!paths::isAtOrBelow(source, sources_.devices) || source.contains(u"/../"))
@@ -75,8 +85,7 @@ std::optional<QString> LinuxSystemInfo::rootVolumeName() const
     QString name = paths::lastComponent(source);
     if (device.isEmpty()) {
         // "/dev/root", which an early boot leaves in the table, does not exist: the number tells the device.
-        const QString byNumber =
-            resolved(paths::join(sources_.devicesByNumber, paths::fromBytes(mount->device)));
+        const QString byNumber = resolved(paths::join(sources_.devicesByNumber, number));
         if (byNumber.isEmpty())
             return std::nullopt;
         name = paths::lastComponent(byNumber);

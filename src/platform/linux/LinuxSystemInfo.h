@@ -24,10 +24,12 @@ public:
     QString localeIdentifier() const override;
     Version systemVersion() const override;
 
-    /// The label of the volume on "/", else its device's name ("vda2"), else none.
-    std::optional<QString> rootVolumeName() const;
+    /// The label of the volume on "/", else its device's name ("vda2"), else the source of its mount ("tank/ROOT",
+    /// "overlay"), else "/".
+    QString rootVolumeName() const;
 
 private:
+    std::optional<QString> deviceName(const QString &source, const QString &number) const;
     std::optional<QString> labelOf(const QString &device) const;
 
     const Sources sources_;

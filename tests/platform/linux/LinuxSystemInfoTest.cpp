@@ -1,6 +1,7 @@
 #include "platform/linux/LinuxSystemInfo.h"
 
-#include "TempHome.h"
+#include "base/Paths.h"
+#include "support/TempHome.h"
 
 #include <gtest/gtest.h>
 #include <sys/statvfs.h>
@@ -84,21 +85,31 @@ TEST_F(LinuxSystemInfoFiles, findsTheDeviceOfAnEarlyBootByItsNumber)
     EXPECT_EQ(info().rootVolumeName(), u"System"_s);
 }
 
-TEST_F(LinuxSystemInfoFiles, namesNothingThatIsNoDevice)
+TEST_F(LinuxSystemInfoFiles, namesWhatIsNoDeviceByTheSourceOfItsMount)
 {
     for (const QByteArray &source :
          {QByteArray("overlay"), QByteArray("server:/export"), QByteArray("tank/ROOT"),
           device("../mountinfo"), device("missing") + "/x", QByteArray("/etc/passwd")}) {
         mountRootFrom(source, "0:42");
-        EXPECT_EQ(info().rootVolumeName(), std::nullopt) << source.toStdString();
+        EXPECT_EQ(info().rootVolumeName(), QString::fromLatin1(source));
+    }
+    mountRootFrom("odd\\040\xFF", "0:42");
+    EXPECT_EQ(info().rootVolumeName(), u"odd \uFFFD"_s);
+}
+
+TEST_F(LinuxSystemInfoFiles, namesAVolumeWithoutAnySourceByItsPlace)
+{
+    for (const QByteArray &source : {QByteArray("none"), QByteArray("\\040"), QByteArray()}) {
+        mountRootFrom(source, "0:42");
+        EXPECT_EQ(info().rootVolumeName(), u"/"_s) << source.toStdString();
     }
 }
 
-TEST_F(LinuxSystemInfoFiles, namesNothingWithoutAMountTable)
+TEST_F(LinuxSystemInfoFiles, namesTheVolumeByItsPlaceWithoutAMountTable)
 {
-    EXPECT_EQ(info().rootVolumeName(), std::nullopt);
+    EXPECT_EQ(info().rootVolumeName(), u"/"_s);
     temp_.file(u"mountinfo"_s, QByteArray(100'000, '\xFF'));
-    EXPECT_EQ(info().rootVolumeName(), std::nullopt);
+    EXPECT_EQ(info().rootVolumeName(), u"/"_s);
 }
 
 TEST_F(LinuxSystemInfoFiles, readsTheHardwareModelTrimmed)
@@ -132,6 +143,7 @@ TEST(LinuxSystemInfo, measuresTheRootVolume)
     EXPECT_EQ(static_cast<quint64>(volume->total), status.f_blocks * status.f_frsize);
     EXPECT_GE(volume->available, 0);
     EXPECT_LE(volume->available, volume->total);
+    EXPECT_TRUE(volume->name.has_value()); // the other system's name is never shown in its place
 }
 
 TEST(LinuxSystemInfo, givesTheLocaleWithoutKeywords)
