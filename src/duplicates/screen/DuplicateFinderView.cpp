@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "base/Paths.h"
 #include "base/Sums.h"
+#include "common/ExtensionTable.h"
 #include "common/Formatters.h"
 #include "common/NotificationNames.h"
 #include "filesystem/FileSystemService.h"
@@ -17,6 +18,17 @@ namespace {
 
 const QString allTypes = QStringLiteral("all");
 constexpr double progressPeriod = 0.05; // seconds between two pictures of a scan's progress
+
+const ExtensionTable &filterTable()
+{
+    static const ExtensionTable table = {
+        {"jpg jpeg png gif heic webp svg", "images"},
+        {"pdf doc docx txt md rtf xls xlsx ppt pptx", "documents"},
+        {"zip tar gz rar dmg 7z", "archives"},
+        {"mp3 wav flac aac mp4 mov avi mkv", "media"},
+    };
+    return table;
+}
 
 } // namespace
 
@@ -99,23 +111,15 @@ const QStringList &DuplicateFinderView::filters()
 
 const std::map<QString, QStringList> &DuplicateFinderView::extMap()
 {
-    const auto list = [](const char *words) { return QString::fromLatin1(words).split(u' '); };
-    static const std::map<QString, QStringList> map = {
-        {QStringLiteral("images"), list("jpg jpeg png gif heic webp svg")},
-        {QStringLiteral("documents"), list("pdf doc docx txt md rtf xls xlsx ppt pptx")},
-        {QStringLiteral("archives"), list("zip tar gz rar dmg 7z")},
-        {QStringLiteral("media"), list("mp3 wav flac aac mp4 mov avi mkv")},
-    };
-    return map;
+    return filterTable().extensionsByValue();
 }
 
 std::vector<size_t> DuplicateFinderView::groupsPassingFilter() const
 {
-    const auto extensions = extMap().find(filter_);
     const auto passes = [&](const DuplicateFileGroup &group) {
-        return extensions == extMap().end()
+        return filter_ == allTypes
                || (!group.files.empty()
-                   && extensions->second.contains(paths::extension(group.files.front().path).toLower()));
+                   && filterTable().value(paths::extension(group.files.front().path).toLower()) == filter_);
     };
     std::vector<size_t> passing;
     for (size_t group = 0; group < service_.groups().size(); ++group) {
