@@ -1,6 +1,7 @@
 #include "activity/HistoryFile.h"
 #include "activity/HistoryServiceFixture.h"
 #include "base/Paths.h"
+#include "support/OrdinaryUser.h"
 
 #include <cerrno>
 
@@ -172,4 +173,26 @@ TEST_F(HistoryServiceTest, saysThatItCannotSaveWhereItsFolderCannotBeMade)
     record(u"a"_s);
     EXPECT_EQ(test.systemLog.lines, QStringList{u"error General: Failed to save history: Not a directory"_s});
     EXPECT_EQ(titles(), u"a"_s);
+}
+
+TEST_F(HistoryServiceTest, aFileThatItsOwnUserMayNotReadIsAnEmptyLogOnceOnly)
+{
+    const auto checks = [this] {
+        TestPlatform own;
+        const auto started = [&own] { return std::make_unique<HistoryService>(own.platform); };
+        own.temp.file(inTemp, historyfile::encode({samples::entry(u"old"_s)}));
+        own.temp.setMode(inTemp, 0);
+        auto history = started();
+        EXPECT_TRUE(history->entries().empty());
+        EXPECT_TRUE(own.systemLog.lines.isEmpty());
+        history->record(samples::entry(u"new"_s));
+        own.mainQueue.run();
+        history = started();
+        ASSERT_EQ(history->entries().size(), 1U);
+        EXPECT_EQ(history->entries()[0].title, u"new"_s);
+        EXPECT_EQ(own.systemLog.lines,
+                  QStringList{u"error General: Replaced a history.json that could not be "
+                              "read: Permission denied"_s});
+    };
+    EXPECT_TRUE(holdsForOrdinaryUser(checks));
 }
