@@ -87,9 +87,19 @@ struct ThreadedScanTest : DiskCancelTest
 {
     TestPlatform &test = services.test;
     EventLoopMainQueue mainQueue;
-    Platform platform{test.home,       test.locations, test.defaults,  test.clock,         {},
-                      KeyStyle::words, mainQueue,      workQueue,      test.notifications, test.workspace,
-                      test.recycler,   test.systemLog, test.systemInfo};
+    Platform platform{.home = test.home,
+                      .locations = test.locations,
+                      .defaults = test.defaults,
+                      .clock = test.clock,
+                      .programs = {},
+                      .keyStyle = KeyStyle::words,
+                      .mainQueue = mainQueue,
+                      .workQueue = workQueue,
+                      .notifications = test.notifications,
+                      .workspace = test.workspace,
+                      .recycler = test.recycler,
+                      .systemLog = test.systemLog,
+                      .systemInfo = test.systemInfo};
     SizeProbes ownProbes{platform};
     FileSystemService fileSystem{platform, ownProbes};
     DiskService service{platform, ownProbes, [this]() -> FileSystemService & { return fileSystem; },

@@ -70,9 +70,19 @@ DriverPlatform::DriverPlatform(const Arguments &arguments, const QString &home)
 DriverPlatform::DriverPlatform(std::function<Locations()> locations, const QString &home)
     : home_(home)
     , locations_(std::move(locations))
-    , platform_{home_,           locations_, defaults_,  clock_,         ChildPrograms(),
-                KeyStyle::words, mainQueue_, workQueue_, notifications_, workspace_,
-                recycler_,       systemLog_, systemInfo_}
+    , platform_{.home = home_,
+                .locations = locations_,
+                .defaults = defaults_,
+                .clock = clock_,
+                .programs = {},
+                .keyStyle = KeyStyle::words,
+                .mainQueue = mainQueue_,
+                .workQueue = workQueue_,
+                .notifications = notifications_,
+                .workspace = workspace_,
+                .recycler = recycler_,
+                .systemLog = systemLog_,
+                .systemInfo = systemInfo_}
     , sizeProbes_(platform_)
     , fileSystem_(platform_, sizeProbes_)
     , access_(platform_, {})
