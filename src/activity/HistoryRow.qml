@@ -24,7 +24,7 @@ T.ItemDelegate {
     required property HistoryView view
     property bool isCurrent: false
 
-    signal toggled
+    signal detailsToggled
 
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: Theme.unit * 2
@@ -32,7 +32,7 @@ T.ItemDelegate {
     focusPolicy: Qt.NoFocus
     text: entryTitle
     Accessible.description: spokenText
-    onClicked: toggled()
+    onClicked: detailsToggled()
 
     contentItem: Column {
         spacing: Theme.unit * 2
@@ -102,7 +102,7 @@ T.ItemDelegate {
                 label: row.isExpanded ? row.view.texts.hideDetails : row.view.texts.showDetails
                 tip: ""
                 focusPolicy: Qt.NoFocus
-                onClicked: row.toggled()
+                onClicked: row.detailsToggled()
             }
         }
         Loader {

@@ -96,7 +96,7 @@ SheetFrame {
             width: ListView.view.width
             view: sheet.view
             isCurrent: ListView.isCurrentItem && list.activeFocus
-            onToggled: sheet.view.toggleRow(index)
+            onDetailsToggled: sheet.view.toggleRow(index)
         }
     }
     EmptyState {
