@@ -27,13 +27,13 @@ QStringList childNames(const FileEntry &entry)
     return names;
 }
 
-const FileEntry &childNamed(const FileEntry &entry, const QString &name)
+const FileEntry &childNamed(const FileEntry &entry, QAnyStringView name)
 {
     for (const FileEntry &child : *entry.children) {
         if (child.name == name)
             return child;
     }
-    throw std::out_of_range(paths::toBytes(name).toStdString());
+    throw std::out_of_range(name.toString().toStdString());
 }
 
 constexpr qint64 probedSize = 1024;
