@@ -92,8 +92,8 @@ int runDemo(DemoHome &demo)
                               std::bind_front(&FallbackPanel::chooseFolder, &panel),
                               std::bind_front(&FallbackPanel::chooseSavePath, &panel)},
                              workQueue);
-    LinuxRecycler recycler(ChildPrograms().pkexec, ChildPrograms().mv);
     LinuxSystemLog systemLog(clock);
+    LinuxRecycler recycler(ChildPrograms().pkexec, ChildPrograms().mv, systemLog);
     const LinuxSystemInfo systemInfo;
     const Platform platform{demo.home(),     locations, defaults,  clock,         ChildPrograms(),
                             KeyStyle::words, mainQueue, workQueue, notifications, workspace,

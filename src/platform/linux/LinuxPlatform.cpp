@@ -62,8 +62,8 @@ LinuxPlatform::LinuxPlatform(LinuxDesktop desktop)
     , defaults_(defaultsFile(home_))
     , locations_([home = home_] { return linuxLocations(home, environment(home)); })
     , workspace_(std::move(desktop), workQueue_)
-    , recycler_(ChildPrograms().pkexec, ChildPrograms().mv)
     , systemLog_(clock_)
+    , recycler_(ChildPrograms().pkexec, ChildPrograms().mv, systemLog_)
     , platform_{home_,           locations_, defaults_,  clock_,         ChildPrograms(),
                 KeyStyle::words, mainQueue_, workQueue_, notifications_, workspace_,
                 recycler_,       systemLog_, systemInfo_}

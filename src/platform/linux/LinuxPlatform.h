@@ -32,8 +32,8 @@ private:
     JsonDefaults defaults_;
     Lazy<Locations> locations_;
     LinuxWorkspace workspace_;
-    LinuxRecycler recycler_;
     LinuxSystemLog systemLog_;
+    LinuxRecycler recycler_;
     LinuxSystemInfo systemInfo_;
     Platform platform_;
 };

@@ -22,10 +22,15 @@ struct Item
     TrashFolder::Identity identity;
 };
 
+QString quotedName(const QString &path)
+{
+    return u'“' + paths::display(paths::lastComponent(path)) + u'”';
+}
+
 /// `sentence` with the item's name between curly quotes in the place of "%1".
 QString aboutItem(const QString &sentence, const QString &path)
 {
-    return sentence.arg(u'“' + paths::display(paths::lastComponent(path)) + u'”');
+    return sentence.arg(quotedName(path));
 }
 
 bool isOnHomeVolume(const Item &item)
@@ -88,6 +93,23 @@ QString moveByHand(const Item &item, const TrashFolder &trash)
     return entry.file;
 }
 
+/// Takes an item that can't have a note back out of the Trash. Throws Error when it has to stay there: an own
+/// one with both places, since the desktop shows nothing of it.
+void takeBack(const TrashFolder::Entry &entry, const Item &item)
+{
+    try {
+        files::move(entry.file, item.path);
+    } catch (const Error &error) {
+        const QString sentence =
+            QStringLiteral("%1 can't be moved back from the Trash: %2. It lies at “%3” without a note "
+                           "that it came from “%4”.");
+        throw Error{LinuxRecycler::errorDomain, LinuxRecycler::strandedInTrash,
+                    sentence.arg(quotedName(item.path), error.description, paths::display(entry.file),
+                                 paths::display(item.path))};
+    }
+    TrashFolder::release(entry);
+}
+
 /// The place of an item that the library has just moved; empty when it isn't found. The library doesn't
 /// notice when it can't write an item's note, as on a full disk or beside a name that is nearly too long, and
 /// what has no note can't be restored. So an empty one is written here, or else the item goes back. Throws
@@ -101,8 +123,7 @@ QString placeWithNote(const Item &item)
     try {
         trash->mend(*entry, item.path);
     } catch (const Error &) {
-        files::move(entry->file, item.path);
-        TrashFolder::release(*entry);
+        takeBack(*entry, item);
         throw;
     }
     return entry->file;
@@ -114,14 +135,14 @@ QString moveToTrash(const Item &item)
     const std::optional<TrashFolder> trash = trashFor(item);
     if (trash)
         requireNoLink(item, *trash);
-    // The library would replace what lies there without a note.
-    if (trash && trash->wouldReplace(paths::lastComponent(item.path)))
+    // The library replaces what lies there without a note.
+    if (trash && trash->mightReplace(paths::lastComponent(item.path)))
         return moveByHand(item, *trash);
     const auto failure = giotrash::move(item.path);
     if (!failure)
         return placeWithNote(item);
-    // The library doesn't shorten a name for which the note's would be too long. It has made the Trash by
-    // now.
+    // An older library doesn't shorten a name for which the note's would be too long. It has made the Trash
+    // by now.
     const std::optional<TrashFolder> made = failure->nameIsTooLong ? trashFor(item) : std::nullopt;
     if (!made)
         throw errorOf(*failure, item);
@@ -150,13 +171,20 @@ Error withName(Error error, const QString &path)
     return error;
 }
 
-Recycler::Result recycleAll(const QStringList &all)
+bool isStranded(const Error &error)
+{
+    return error.domain == LinuxRecycler::errorDomain && error.code == LinuxRecycler::strandedInTrash;
+}
+
+Recycler::Result recycleAll(const QStringList &all, const Logger &log)
 {
     Recycler::Result result;
     for (const QString &path : all) {
         try {
             result.moved.emplace(path, moveToTrash(itemAt(path)));
         } catch (const Error &error) {
+            if (isStranded(error)) // the caller finds the item gone and may not look at the error
+                log.error(error.description);
             if (!result.error)
                 result.error = withName(error, path);
         }
@@ -224,15 +252,18 @@ std::optional<AdminFailure> runAsAdministrator(const QString &pkexec, const QStr
 
 } // namespace
 
-LinuxRecycler::LinuxRecycler(QString pkexec, QString mv)
+LinuxRecycler::LinuxRecycler(QString pkexec, QString mv, LogSink &log)
     : pkexec_(std::move(pkexec))
     , mv_(std::move(mv))
+    , log_(QStringLiteral("General"), log)
 {
 }
 
 void LinuxRecycler::recycle(const QStringList &paths, Completion completion)
 {
-    std::thread([paths, completion = std::move(completion)] { completion(recycleAll(paths)); }).detach();
+    std::thread([paths, log = log_, completion = std::move(completion)] {
+        completion(recycleAll(paths, log));
+    }).detach();
 }
 
 std::optional<AdminFailure> LinuxRecycler::moveToTrashAsAdministrator(const QString &path)

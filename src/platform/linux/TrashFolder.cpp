@@ -21,6 +21,7 @@ constexpr qsizetype longestName = 255; // bytes; file systems that take less rep
 const QString itemsFolder = QStringLiteral("files");
 const QString notesFolder = QStringLiteral("info");
 const QString noteSuffix = QStringLiteral(".trashinfo");
+constexpr qsizetype temporaryEnd = 7; // bytes that the library puts behind a note's name while it writes it
 
 bool isThere(const QString &path)
 {
@@ -168,15 +169,18 @@ std::optional<TrashFolder::Entry> TrashFolder::find(const QString &name, const I
         Entry place = entry(numberedName(name, number));
         if (TrashFolder::identity(place.file) == identity)
             return place;
-        if (!isThere(place.info)) // the library takes the first name without a note
-            return std::nullopt;
+        if (!isThere(place.info)) // the library takes the first name without a note, unless it shortens it
+            return findAmongAll(identity);
     }
 }
 
-bool TrashFolder::wouldReplace(const QString &name) const
+bool TrashFolder::mightReplace(const QString &name) const
 {
     for (int number = 1;; ++number) {
-        const Entry place = entry(numberedName(name, number));
+        const QString numbered = numberedName(name, number);
+        if (paths::toBytes(numbered).size() > longestName - noteSuffix.size() - temporaryEnd)
+            return true;
+        const Entry place = entry(numbered);
         if (!isThere(place.info))
             return isThere(place.file);
     }
@@ -219,6 +223,17 @@ TrashFolder::Entry TrashFolder::entry(const QString &name) const
 {
     return {paths::join(paths::join(path_, itemsFolder), name),
             paths::join(paths::join(path_, notesFolder), name + noteSuffix)};
+}
+
+std::optional<TrashFolder::Entry> TrashFolder::findAmongAll(const Identity &identity) const
+{
+    const auto names = files::list(paths::join(path_, itemsFolder));
+    for (const QString &name : names.value_or(std::vector<QString>())) {
+        Entry place = entry(name);
+        if (TrashFolder::identity(place.file) == identity)
+            return place;
+    }
+    return std::nullopt;
 }
 
 QByteArray TrashFolder::note(const QString &item) const

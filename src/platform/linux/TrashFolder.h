@@ -48,12 +48,13 @@ public:
     /// True when the Trash or one of its two folders is a link. The folders above may be links.
     bool isLink() const;
 
-    /// The place that the library has given to an item that it has just moved. `name` is the item's last path
-    /// component. None when it isn't found.
+    /// The place that the library has given to an item that it has just moved, under its name, a numbered one
+    /// or one that it has shortened. `name` is the item's last path component. None when it isn't found.
     std::optional<Entry> find(const QString &name, const Identity &identity) const;
 
-    /// True when the library would move an item of that name over one that has lost its note.
-    bool wouldReplace(const QString &name) const;
+    /// True when the library might move an item of that name over one that has lost its note: it takes the
+    /// first name without a note, and shortens a name that is too long in a way that can't be foretold.
+    bool mightReplace(const QString &name) const;
 
     /// Takes a free name for the item at an absolute path by writing its note. The Trash is made where it is
     /// missing. Throws Error (the system's).
@@ -68,6 +69,7 @@ public:
 private:
     TrashFolder(QString path, QString top);
     Entry entry(const QString &name) const;
+    std::optional<Entry> findAmongAll(const Identity &identity) const;
     QByteArray note(const QString &item) const;
 
     QString path_;

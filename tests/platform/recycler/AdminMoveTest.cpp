@@ -16,7 +16,7 @@ class AdminMove : public RecyclerTest
 protected:
     std::optional<Recycler::AdminFailure> move(const QString &path, const QByteArray &tool)
     {
-        LinuxRecycler recycler(temp_.script(u"pkexec"_s, tool), u"/bin/mv"_s);
+        LinuxRecycler recycler(temp_.script(u"pkexec"_s, tool), u"/bin/mv"_s, log_);
         return recycler.moveToTrashAsAdministrator(path);
     }
 
@@ -169,7 +169,7 @@ TEST_F(AdminMove, hasNoNumberWhenASignalEndsTheTool)
 TEST_F(AdminMove, saysWhenTheToolIsNotInstalled)
 {
     const QString path = makeFile(u"file"_s);
-    LinuxRecycler recycler(temp_.at(u"missing"_s), u"/bin/mv"_s);
+    LinuxRecycler recycler(temp_.at(u"missing"_s), u"/bin/mv"_s, log_);
     const auto failure = recycler.moveToTrashAsAdministrator(path);
     ASSERT_TRUE(failure);
     EXPECT_TRUE(failure->wasConstructed);
@@ -181,7 +181,7 @@ TEST_F(AdminMove, saysWhenTheToolIsNotInstalled)
 TEST_F(AdminMove, saysWhenTheToolCannotBeStarted)
 {
     const QString path = makeFile(u"file"_s);
-    LinuxRecycler recycler(temp_.file(u"no program"_s), u"/bin/mv"_s);
+    LinuxRecycler recycler(temp_.file(u"no program"_s), u"/bin/mv"_s, log_);
     const auto failure = recycler.moveToTrashAsAdministrator(path);
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->message, u"The administrator's tool pkexec can't be started: Permission denied"_s);

@@ -1,6 +1,7 @@
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "DesktopTrash.h"
+#include "filesystem/InjectedFaults.h"
 #include "LoopVolume.h"
 #include "RecyclerTest.h"
 
@@ -228,6 +229,51 @@ TEST_F(BadTrash, losesNoNoteOnAFullDisk)
     EXPECT_EQ(traits(file), before);
     EXPECT_EQ(names(TrashHome::trash() + u"/files"_s), QStringList());
     EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList());
+}
+
+TEST_F(BadTrash, losesNoNoteOfALongNameOnAFullDisk)
+{
+    const LoopVolume volume(TrashHome::path(), 2);
+    if (!volume.whyNot().isEmpty())
+        GTEST_SKIP() << volume.whyNot().constData();
+    QStringList all;
+    for (const int length : {239, 245, 246, 255})
+        all << makeFile(QString(length, u'l'));
+    expectRecycled(makeFile(u"other"_s)); // makes the Trash
+    volume.fill(u"filler"_s);
+    for (const QString &file : all)
+        expectRefused(file, "no room for the note");
+    EXPECT_EQ(names(TrashHome::trash() + u"/files"_s), QStringList(u"other"_s));
+    EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList(u"other.trashinfo"_s));
+}
+
+TEST_F(BadTrash, saysWhereAnItemLiesThatCanNeitherHaveANoteNorGoBack)
+{
+    const LoopVolume volume(TrashHome::path(), 2);
+    if (!volume.whyNot().isEmpty())
+        GTEST_SKIP() << volume.whyNot().constData();
+    expectRecycled(makeFile(u"other"_s)); // makes the Trash
+    const QString file = makeFile(u"file"_s);
+    volume.fill(u"filler"_s);
+    // Something comes to lie in the item's old place as soon as that is free: a link, for which there is room.
+    const InjectedFaults visitor([&file](files::Operation, const QString &path) {
+        if (path == TrashHome::trash() + u"/info/file.trashinfo"_s && !isThere(file))
+            makeLink(u"file"_s, u"newcomer"_s);
+        return 0;
+    });
+    const Recycler::Result result = recycle({file});
+    EXPECT_TRUE(result.moved.empty());
+    ASSERT_TRUE(result.error);
+    EXPECT_EQ(result.error->domain, LinuxRecycler::errorDomain);
+    EXPECT_EQ(result.error->code, LinuxRecycler::strandedInTrash);
+    const QString place = TrashHome::trash() + u"/files/file"_s;
+    EXPECT_EQ(
+        result.error->description,
+        u"“file” can't be moved back from the Trash: File exists. It lies at “%1” without a note that it came from “%2”."_s
+            .arg(place, file));
+    EXPECT_EQ(log_.lines, QStringList(u"error General: "_s + result.error->description));
+    EXPECT_EQ(traits(place).content, "content");
+    EXPECT_EQ(traits(file).content, "newcomer");
 }
 
 TEST_F(BadTrash, isRefusedOnAFullDiskThatHasNone)

@@ -223,6 +223,24 @@ TEST_F(Recycle, replacesNothingThatHasLostItsNote)
     EXPECT_EQ(traits(file).content, "mine");
 }
 
+TEST_F(Recycle, replacesNothingWithoutANoteThatAShortenedNameMightMeet)
+{
+    const QString kept(238, u'a');
+    expectRecycled(makeFile(kept));
+    QStringList orphans;
+    for (int length = 220; length <= 245; ++length) {
+        if (length != kept.size())
+            orphans << makeFile(u".local/share/Trash/files/"_s + QString(length, u'a'), "orphan");
+    }
+    for (const int length : {238, 239, 245, 246, 255}) {
+        const QString file = makeFile(QString(length, u'a'), "mine");
+        expectRecycled(file);
+        EXPECT_FALSE(isThere(file));
+    }
+    for (const QString &orphan : orphans)
+        EXPECT_EQ(traits(orphan).content, "orphan") << paths::lastComponent(orphan).size();
+}
+
 TEST_F(Recycle, reportsOnceOnAThreadOfItsOwnAndOutlivesTheRecycler)
 {
     const QString file = makeFile(u"file"_s);
@@ -230,7 +248,7 @@ TEST_F(Recycle, reportsOnceOnAThreadOfItsOwnAndOutlivesTheRecycler)
     auto thread = std::make_shared<std::promise<std::thread::id>>();
     auto future = thread->get_future();
     {
-        LinuxRecycler shortLived(u"/nothing"_s, u"/nothing"_s);
+        LinuxRecycler shortLived(u"/nothing"_s, u"/nothing"_s, log_);
         shortLived.recycle({file}, [calls, thread](const Recycler::Result &) {
             if (calls->fetch_add(1) == 0)
                 thread->set_value(std::this_thread::get_id());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/LinuxRecycler.h"
+#include "support/Fakes.h"
 #include "TrashHome.h"
 
 #include <QByteArray>
@@ -52,5 +53,6 @@ protected:
     /// Moves one to the Trash and expects that it went.
     void expectRecycled(const QString &path);
 
-    LinuxRecycler recycler_{QStringLiteral("/nothing"), QStringLiteral("/nothing")};
+    FakeSystemLog log_;
+    LinuxRecycler recycler_{QStringLiteral("/nothing"), QStringLiteral("/nothing"), log_};
 };
