@@ -48,6 +48,8 @@ std::optional<Failure> move(const QString &path)
     failure.code = error->code;
     failure.description = QString::fromUtf8(error->message);
     failure.hasNoTrash = g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_NOT_SUPPORTED);
+    failure.hasNoRoom = g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_NO_SPACE)
+                        || g_error_matches(error.get(), G_FILE_ERROR, G_FILE_ERROR_NOSPC);
     failure.nameIsTooLong = g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_FILENAME_TOO_LONG);
     return failure;
 }

@@ -15,6 +15,7 @@ struct Failure
     int code = 0;
     QString description;
     bool hasNoTrash = false; ///< the library keeps no Trash for the item's volume, or none that it can reach
+    bool hasNoRoom = false;  ///< for the note
     bool nameIsTooLong = false; ///< for the note beside the item, or for the file system
 };
 

@@ -71,6 +71,8 @@ void requireNoLink(const Item &item, const TrashFolder &trash)
 
 Error errorOf(const giotrash::Failure &failure, const Item &item)
 {
+    if (failure.hasNoRoom) // the library's words are about the note
+        return errors::fromErrno(ENOSPC);
     if (!failure.hasNoTrash)
         return {failure.domain, failure.code, failure.description};
     if (isOnHomeVolume(item))

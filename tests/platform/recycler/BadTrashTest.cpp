@@ -6,11 +6,14 @@
 #include "RecyclerTest.h"
 
 #include <cerrno>
+#include <csignal>
+#include <optional>
 
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <linux/magic.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <sys/statfs.h>
 #include <unistd.h>
 
@@ -66,6 +69,30 @@ public:
 private:
     int descriptor_;
     bool isFrozen_ = false;
+};
+
+/// While it lives no file takes a byte more, whoever writes, as on a full disk.
+class NoMoreBytes
+{
+public:
+    NoMoreBytes()
+        : before_(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &limit_);
+        const rlimit none{0, limit_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~NoMoreBytes()
+    {
+        setrlimit(RLIMIT_FSIZE, &limit_);
+        std::signal(SIGXFSZ, before_);
+    }
+    NoMoreBytes(const NoMoreBytes &) = delete;
+    NoMoreBytes &operator=(const NoMoreBytes &) = delete;
+
+private:
+    void (*before_)(int);
+    rlimit limit_ = {};
 };
 
 /// A folder on a file system in memory that is not the one of the home folder. Empty when the machine has
@@ -249,19 +276,21 @@ TEST_F(BadTrash, losesNoNoteOfALongNameOnAFullDisk)
 
 TEST_F(BadTrash, saysWhereAnItemLiesThatCanNeitherHaveANoteNorGoBack)
 {
-    const LoopVolume volume(TrashHome::path(), 2);
-    if (!volume.whyNot().isEmpty())
-        GTEST_SKIP() << volume.whyNot().constData();
-    expectRecycled(makeFile(u"other"_s)); // makes the Trash
     const QString file = makeFile(u"file"_s);
-    volume.fill(u"filler"_s);
-    // Something comes to lie in the item's old place as soon as that is free: a link, for which there is room.
-    const InjectedFaults visitor([&file](files::Operation, const QString &path) {
-        if (path == TrashHome::trash() + u"/info/file.trashinfo"_s && !isThere(file))
+    std::optional<NoMoreBytes> fullDisk;
+    // As soon as the item has gone its note is lost, the disk full and its old place taken.
+    const InjectedFaults mishaps([&](files::Operation, const QString &path) {
+        const QString note = TrashHome::trash() + u"/info/file.trashinfo"_s;
+        if (path == note && !fullDisk && !isThere(file)) {
+            fullDisk.emplace();
+            unlink(paths::toBytes(note).constData());
             makeLink(u"file"_s, u"newcomer"_s);
+        }
         return 0;
     });
     const Recycler::Result result = recycle({file});
+    ASSERT_TRUE(fullDisk);
+    fullDisk.reset();
     EXPECT_TRUE(result.moved.empty());
     ASSERT_TRUE(result.error);
     EXPECT_EQ(result.error->domain, LinuxRecycler::errorDomain);
