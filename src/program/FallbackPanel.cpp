@@ -18,6 +18,16 @@ QUrl urlOf(const QString &path)
     return QUrl::fromEncoded(paths::fileUrl(path));
 }
 
+/// Shows the name that a panel for saving begins with. From Qt 6.8 on the toolkit's own, which belongs to its parent
+/// window, takes the name and yet leaves its field empty.
+void showName(const QWindow &parentWindow, const QString &name)
+{
+    for (QObject *field : parentWindow.findChildren<QObject *>(QStringLiteral("fileNameTextField"))) {
+        if (field->property("text").toString().isEmpty())
+            field->setProperty("text", paths::display(name));
+    }
+}
+
 } // namespace
 
 FallbackPanel::FallbackPanel() = default;
@@ -94,6 +104,8 @@ void FallbackPanel::showSavePanel(const Workspace::SaveRequest &request)
           {"selectedFile", urlOf(paths::join(start, request.suggestedName))}},
          {[this, request] { takeSavePath(request, pathOf("selectedFile")); },
           [this] { finish(std::nullopt); }});
+    if (dialog_)
+        showName(*window_, request.suggestedName);
 }
 
 void FallbackPanel::takeSavePath(const Workspace::SaveRequest &request, const QString &path)

@@ -2,10 +2,15 @@
 
 #include "support/TempHome.h"
 
+#include <QLibraryInfo>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QtTest>
+#include <QVersionNumber>
+
+#include <algorithm>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -29,7 +34,29 @@ QQuickItem *findVisible(QQuickItem *item, const std::function<bool(QQuickItem *)
     return nullptr;
 }
 
-/// The toolkit's own dialogs, in a window that nobody sees.
+/// The windows on view. Before Qt 6.8 the toolkit's dialogs are drawn in the program's window, from there on in
+/// one of their own.
+std::vector<QQuickWindow *> shownWindows()
+{
+    std::vector<QQuickWindow *> windows;
+    for (QWindow *window : QGuiApplication::topLevelWindows()) {
+        if (auto *drawn = qobject_cast<QQuickWindow *>(window); drawn && drawn->isVisible())
+            windows.push_back(drawn);
+    }
+    return windows;
+}
+
+/// What is drawn in any window and passes `isWanted`; null when nothing does.
+QQuickItem *findShown(const std::function<bool(QQuickItem *)> &isWanted)
+{
+    for (const QQuickWindow *window : shownWindows()) {
+        if (QQuickItem *found = findVisible(window->contentItem(), isWanted))
+            return found;
+    }
+    return nullptr;
+}
+
+/// The toolkit's own dialogs, in windows that nobody sees.
 class FallbackPanelTest : public ::testing::Test
 {
 public:
@@ -67,9 +94,9 @@ protected:
                    && item->isEnabled();
         };
         QQuickItem *button = nullptr;
-        if (!waitFor([&] { return (button = findVisible(window_->contentItem(), isButton)) != nullptr; }))
+        if (!waitFor([&] { return (button = findShown(isButton)) != nullptr; }))
             return false;
-        QTest::mouseClick(window_.get(), Qt::LeftButton, {},
+        QTest::mouseClick(button->window(), Qt::LeftButton, {},
                           button->mapToScene({button->width() / 2, button->height() / 2}).toPoint());
         return true;
     }
@@ -78,23 +105,23 @@ protected:
     bool shows(const QString &text) const
     {
         return waitFor([&] {
-            return findVisible(window_->contentItem(),
-                               [&](QQuickItem *item) { return item->property("text") == text; })
-                   != nullptr;
+            const std::vector<QQuickWindow *> windows = shownWindows();
+            return std::any_of(windows.begin(), windows.end(),
+                               [&](const QQuickWindow *window) { return window->title() == text; })
+                   || findShown([&](QQuickItem *item) { return item->property("text") == text; });
         });
     }
 
     /// Types over the file's name in the panel for saving.
     void typeName(const QString &name)
     {
-        QQuickItem *field = findVisible(window_->contentItem(), [](QQuickItem *item) {
-            return item->objectName() == u"fileNameTextField"_s;
-        });
+        QQuickItem *field =
+            findShown([](QQuickItem *item) { return item->objectName() == u"fileNameTextField"_s; });
         ASSERT_NE(field, nullptr);
         field->forceActiveFocus();
         QMetaObject::invokeMethod(field, "selectAll");
         for (const QChar character : name)
-            QTest::keyClick(window_.get(), character.toLatin1());
+            QTest::keyClick(field->window(), character.toLatin1());
         EXPECT_EQ(field->property("text"), name);
     }
 
@@ -175,11 +202,15 @@ TEST_F(FallbackPanelTest, goesIntoAFolderWhoseNameIsTyped)
     ASSERT_TRUE(shows(u"a.csv"_s));
     typeName(u"inner"_s);
     ASSERT_TRUE(click(u"Save"_s));
-    ASSERT_TRUE(shows(u"a.csv"_s));
+    // From Qt 6.8 on the toolkit goes there itself and keeps what was typed; before, we offer the name again.
+    if (QLibraryInfo::version() < QVersionNumber(6, 8)) {
+        ASSERT_TRUE(shows(u"a.csv"_s));
+    }
     EXPECT_EQ(answers_, 0);
+    typeName(u"b.csv"_s);
     ASSERT_TRUE(click(u"Save"_s));
     ASSERT_TRUE(waitForAnswer());
-    EXPECT_EQ(path_, home_.at(u"inner/a.csv"_s));
+    EXPECT_EQ(path_, home_.at(u"inner/b.csv"_s));
 }
 
 TEST_F(FallbackPanelTest, givesTheFolderHighlightedInTheOneToBeginWith)
