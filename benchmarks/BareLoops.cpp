@@ -16,7 +16,7 @@ extern char **environ; // NOLINT(readability-redundant-declaration): macOS decla
 
 namespace {
 
-void require(int code, const char *what)
+void requireZero(int code, const char *what)
 {
     if (code != 0)
         throw std::system_error(code, std::generic_category(), what);
@@ -29,7 +29,7 @@ namespace bareloops {
 std::int64_t probe(const std::string &path)
 {
     std::array<int, 2> ends{};
-    require(pipe2(ends.data(), O_CLOEXEC) == 0 ? 0 : errno, "pipe");
+    requireZero(pipe2(ends.data(), O_CLOEXEC) == 0 ? 0 : errno, "pipe");
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
@@ -43,7 +43,7 @@ std::int64_t probe(const std::string &path)
     const int failure = posix_spawn(&child, program.c_str(), &actions, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     close(ends[1]);
-    require(failure, "du");
+    requireZero(failure, "du");
     waitpid(child, nullptr, 0);
     std::array<char, 4096> output{};
     const ssize_t length = read(ends[0], output.data(), output.size() - 1);

@@ -20,7 +20,7 @@ struct Folder
 constexpr int shallowestBranch = 3;
 constexpr int deepestBranch = 5;
 
-void require(bool done, const std::string &path)
+void requireCall(bool done, const std::string &path)
 {
     if (!done)
         throw std::system_error(errno, std::generic_category(), path);
@@ -62,13 +62,13 @@ std::vector<std::string> makeFolders(const std::string &root, const TreeShape &s
 
 void makeFolder(const std::string &path)
 {
-    require(mkdir(path.c_str(), 0777) == 0, path);
+    requireCall(mkdir(path.c_str(), 0777) == 0, path);
 }
 
 void makeFile(const std::string &path, std::string_view content, std::int64_t size)
 {
     const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    require(file != -1, path);
+    requireCall(file != -1, path);
     bool done = true;
     for (std::string_view left = content; done && !left.empty();) {
         const ssize_t count = write(file, left.data(), left.size());
@@ -80,7 +80,7 @@ void makeFile(const std::string &path, std::string_view content, std::int64_t si
     const int code = errno;
     close(file);
     errno = code;
-    require(done, path);
+    requireCall(done, path);
 }
 
 } // namespace treeparts

@@ -12,11 +12,11 @@
 
 namespace {
 
-constexpr double mostStart = 2.5;     // times the empty window
-constexpr double longestTurn = 4;     // milliseconds
-constexpr double longestCancel = 100; // milliseconds
-constexpr double mostMemory = 50;     // MiB above the empty window
-constexpr int manyFiles = 200000;
+constexpr double mostStart = 2.5;       // times the empty window
+constexpr double longestTurn = 4;       // milliseconds
+constexpr double longestCancel = 100;   // milliseconds
+constexpr double mostWindowMemory = 50; // MiB above the empty window
+constexpr int manyEntries = 200000;
 constexpr size_t runs = 5;
 
 double median(std::vector<double> values)
@@ -46,12 +46,12 @@ void startToFirstFrame()
 }
 
 /// The home folder with many files, made at its first use and kept for all benchmarks of a run.
-const std::string &largeHome()
+const std::string &crowdedHome()
 {
     static const TemporaryFolder folder;
     static const std::string home = [] {
         std::string path = folder.folder("home");
-        generateTree(path, {.files = manyFiles});
+        generateTree(path, {.files = manyEntries});
         return path;
     }();
     return home;
@@ -72,7 +72,7 @@ std::map<std::string, double> values(const std::vector<std::string> &lines)
 void mainLoop()
 {
     const TemporaryFolder runtime;
-    const auto environment = WindowProcess::environment(largeHome(), runtime.path());
+    const auto environment = WindowProcess::environment(crowdedHome(), runtime.path());
     std::map<std::string, std::vector<double>> figures;
     for (size_t i = 0; i <= runs; ++i) {
         WindowProcess process({SCAN_WINDOW_PROGRAM}, environment);
@@ -97,10 +97,10 @@ WindowProcess::Memory restingMemory(WindowProcess &process)
     return process.memory();
 }
 
-void memory()
+void windowMemory()
 {
     const TemporaryFolder runtime;
-    const auto environment = WindowProcess::environment(largeHome(), runtime.path());
+    const auto environment = WindowProcess::environment(crowdedHome(), runtime.path());
     auto emptyEnvironment = environment;
     emptyEnvironment["QT_QPA_GENERIC_PLUGINS"] = "firstframe";
     std::vector<double> resident;
@@ -119,7 +119,7 @@ void memory()
                              + std::to_string(static_cast<int>(lastEmpty))
                              + " MiB; of it shared with no other process "
                              + std::to_string(static_cast<int>(median(own))) + " MiB";
-    measurement::printFigure("memory", median(resident), mostMemory, "MiB", note);
+    measurement::printFigure("memory", median(resident), mostWindowMemory, "MiB", note);
 }
 
 } // namespace
@@ -129,6 +129,6 @@ std::vector<Benchmark> benchmarks::ofWindow()
     return {
         {"start", "start to the first painted frame against an empty window", startToFirstFrame},
         {"main-loop", "our handlers during a scan of 200,000 files, and its cancel", mainLoop},
-        {"memory", "memory on the Disk Analyzer with 200,000 files against an empty window", memory},
+        {"memory", "memory on the Disk Analyzer with 200,000 files against an empty window", windowMemory},
     };
 }

@@ -1,6 +1,7 @@
 #include "base/ChildProcess.h"
 
 #include "base/Error.h"
+#include "base/ShellScript.h"
 
 #include <cerrno>
 #include <thread>
@@ -12,11 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList script(const QString &text)
-{
-    return {u"-c"_s, text};
-}
-
 struct Outputs
 {
     QByteArray output;
@@ -26,7 +22,7 @@ struct Outputs
 
 Outputs outputsOf(const QString &text)
 {
-    ChildProcess process(u"/bin/sh"_s, script(text));
+    ChildProcess process(shell, script(text));
     process.captureErrorOutput();
     process.launch();
     Outputs outputs;
@@ -66,7 +62,7 @@ TEST(ChildProcessErrorOutput, isEmptyWhenNothingIsSaid)
 
 TEST(ChildProcessErrorOutput, isEmptyUnlessItIsAskedFor)
 {
-    ChildProcess process(u"/bin/sh"_s, script(u"echo wrong >&2"_s));
+    ChildProcess process(shell, script(u"echo wrong >&2"_s));
     process.launch();
     process.readToEnd();
     process.waitUntilExit();

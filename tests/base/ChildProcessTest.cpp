@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "base/Paths.h"
+#include "base/ShellScript.h"
 #include "support/FifoLine.h"
 #include "support/TempHome.h"
 
@@ -19,16 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString shell = u"/bin/sh"_s;
-
 /// A program that runs until it is ended.
 const QString endless = u"/usr/bin/tail"_s;
 const QStringList endlessArguments = {u"-f"_s, u"/dev/null"_s};
-
-QStringList script(const QString &text)
-{
-    return {u"-c"_s, text};
-}
 
 /// What a shell script prints, once it has ended.
 QByteArray outputOf(const QString &text)

@@ -1,5 +1,6 @@
 #include "base/ChildProcess.h"
 #include "base/Paths.h"
+#include "base/ShellScript.h"
 #include "support/FifoLine.h"
 #include "support/TempHome.h"
 
@@ -8,17 +9,6 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-const QString shell = u"/bin/sh"_s;
-
-QStringList script(const QString &text)
-{
-    return {u"-c"_s, text};
-}
-
-} // namespace
 
 TEST(DetachedProcess, runsInTheFolderGiven)
 {

@@ -10,7 +10,7 @@
 
 namespace {
 
-struct Model : QObject, std::enable_shared_from_this<Model>
+struct CountingModel : QObject, std::enable_shared_from_this<CountingModel>
 {
     int calls = 0;
 };
@@ -20,8 +20,8 @@ struct Model : QObject, std::enable_shared_from_this<Model>
 TEST(GuardedPost, runsItsBlockOnTheOwner)
 {
     SteppedMainQueue queue;
-    Model model;
-    guarded::post(queue, QPointer(&model), [](Model &owner) { ++owner.calls; });
+    CountingModel model;
+    guarded::post(queue, QPointer(&model), [](CountingModel &owner) { ++owner.calls; });
     EXPECT_EQ(model.calls, 0);
     queue.run();
     EXPECT_EQ(model.calls, 1);
@@ -30,10 +30,10 @@ TEST(GuardedPost, runsItsBlockOnTheOwner)
 TEST(GuardedPost, dropsTheBlockWhenTheOwnerHasGone)
 {
     SteppedMainQueue queue;
-    auto model = std::make_unique<Model>();
+    auto model = std::make_unique<CountingModel>();
     int calls = 0;
-    guarded::post(queue, QPointer(model.get()), [&calls](Model &) { ++calls; });
-    guarded::postAfter(queue, 1, QPointer(model.get()), [&calls](Model &) { ++calls; });
+    guarded::post(queue, QPointer(model.get()), [&calls](CountingModel &) { ++calls; });
+    guarded::postAfter(queue, 1, QPointer(model.get()), [&calls](CountingModel &) { ++calls; });
     model.reset();
     queue.run();
     queue.advance(2);
@@ -43,8 +43,8 @@ TEST(GuardedPost, dropsTheBlockWhenTheOwnerHasGone)
 TEST(GuardedPost, waitsForItsTime)
 {
     SteppedMainQueue queue;
-    Model model;
-    guarded::postAfter(queue, 2, QPointer(&model), [](Model &owner) { ++owner.calls; });
+    CountingModel model;
+    guarded::postAfter(queue, 2, QPointer(&model), [](CountingModel &owner) { ++owner.calls; });
     queue.advance(1.9);
     EXPECT_EQ(model.calls, 0);
     queue.advance(0.1);
@@ -54,8 +54,8 @@ TEST(GuardedPost, waitsForItsTime)
 TEST(LaterCommand, beginsInALaterTurn)
 {
     SteppedMainQueue queue;
-    const auto model = std::make_shared<Model>();
-    guarded::runLater(queue, *model, [](Model &owner) { ++owner.calls; });
+    const auto model = std::make_shared<CountingModel>();
+    guarded::runLater(queue, *model, [](CountingModel &owner) { ++owner.calls; });
     EXPECT_EQ(model->calls, 0);
     queue.run();
     EXPECT_EQ(model->calls, 1);
@@ -64,10 +64,10 @@ TEST(LaterCommand, beginsInALaterTurn)
 TEST(LaterCommand, keepsItsModelUntilItHasEnded)
 {
     SteppedMainQueue queue;
-    auto model = std::make_shared<Model>();
-    const std::weak_ptr<Model> weak = model;
+    auto model = std::make_shared<CountingModel>();
+    const std::weak_ptr<CountingModel> weak = model;
     bool wasThere = false;
-    guarded::runLater(queue, *model, [&](Model &owner) {
+    guarded::runLater(queue, *model, [&](CountingModel &owner) {
         model.reset(); // another screen was chosen from within
         wasThere = !weak.expired();
         ++owner.calls;
@@ -80,9 +80,9 @@ TEST(LaterCommand, keepsItsModelUntilItHasEnded)
 TEST(LaterCommand, doesNotBeginForAModelThatHasGone)
 {
     SteppedMainQueue queue;
-    auto model = std::make_shared<Model>();
+    auto model = std::make_shared<CountingModel>();
     int calls = 0;
-    guarded::runLater(queue, *model, [&calls](Model &) { ++calls; });
+    guarded::runLater(queue, *model, [&calls](CountingModel &) { ++calls; });
     model.reset();
     queue.run();
     EXPECT_EQ(calls, 0);

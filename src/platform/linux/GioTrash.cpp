@@ -4,8 +4,11 @@
 
 #include <memory>
 
-#undef signals // a macro of Qt's, and a member's name in GIO's headers
+// A macro of Qt's, and a member's name in the headers of GIO.
+#pragma push_macro("signals")
+#undef signals
 #include <gio/gio.h>
+#pragma pop_macro("signals")
 
 namespace {
 

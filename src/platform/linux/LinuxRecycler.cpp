@@ -222,18 +222,13 @@ AdminFailure failureOf(const ChildProcess &process)
     return failure;
 }
 
-bool isThere(const QString &path)
-{
-    return TrashFolder::identity(path).has_value();
-}
-
 /// Gives the reserved name of a move that has failed back, unless something has come to lie there: a move
 /// from another volume may end with the item copied whole and the source half removed, and that copy must be
 /// found again.
 void settle(const TrashFolder::Entry &entry, const QString &source, bool succeeded)
 {
-    const bool wasSkipped = succeeded && isThere(source);
-    if (wasSkipped || !isThere(entry.file))
+    const bool wasSkipped = succeeded && TrashFolder::identity(source).has_value();
+    if (wasSkipped || !TrashFolder::identity(entry.file))
         TrashFolder::release(entry);
 }
 

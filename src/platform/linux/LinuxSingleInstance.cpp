@@ -9,7 +9,7 @@
 namespace {
 
 const QString busName = QStringLiteral("com.quillmere.app");
-const QString objectPath = QStringLiteral("/com/quillmere/app");
+const QString applicationPath = QStringLiteral("/com/quillmere/app");
 constexpr int activationTimeout =
     5000; // milliseconds; the running process may be busy, but is not waited for long
 
@@ -51,7 +51,7 @@ void LinuxSingleInstance::activateRunning(const QByteArray &token)
         platformData.insert(ApplicationObject::tokenKey, QString::fromUtf8(token));
         platformData.insert(ApplicationObject::startupIdKey, QString::fromUtf8(token));
     }
-    QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, ApplicationObject::interface,
+    QDBusMessage call = QDBusMessage::createMethodCall(busName, applicationPath, ApplicationObject::interface,
                                                        QStringLiteral("Activate"));
     call.setAutoStartService(false); // it runs already, or not on this bus
     call.setArguments({platformData});
@@ -73,12 +73,12 @@ bool LinuxSingleInstance::acquireName()
     if (!bus_.isConnected() || ownsName_)
         return true;
     // The object comes first, so that nobody finds the name without it.
-    bus_.registerVirtualObject(objectPath, &object_);
+    bus_.registerVirtualObject(applicationPath, &object_);
     const auto reply = bus_.interface()->registerService(busName, QDBusConnectionInterface::DontQueueService,
                                                          QDBusConnectionInterface::DontAllowReplacement);
     ownsName_ = reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
     if (!ownsName_)
-        bus_.unregisterObject(objectPath);
+        bus_.unregisterObject(applicationPath);
     return ownsName_ || !reply.isValid();
 }
 
@@ -88,5 +88,5 @@ void LinuxSingleInstance::releaseName()
         return;
     ownsName_ = false;
     bus_.interface()->unregisterService(busName);
-    bus_.unregisterObject(objectPath);
+    bus_.unregisterObject(applicationPath);
 }

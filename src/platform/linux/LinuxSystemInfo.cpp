@@ -21,7 +21,7 @@ const QString rootPath = QStringLiteral("/");
 
 /// `path` with all links resolved; empty when it leads nowhere. Only for the kernel's own folders, which never
 /// make us wait.
-QString resolved(const QString &path)
+QString resolvedLink(const QString &path)
 {
     char *target = realpath(paths::toBytes(path).constData(), nullptr);
     QString text = target ? paths::fromBytes(target) : QString();
@@ -81,15 +81,15 @@ std::optional<QString> LinuxSystemInfo::deviceName(const QString &source, const 
     // to look at it could take for ever.
     if (!paths::isAtOrBelow(source, sources_.devices) || source.contains(u"/../"))
         return std::nullopt;
-    QString device = resolved(source);
+    QString device = resolvedLink(source);
     QString name = paths::lastComponent(source);
     if (device.isEmpty()) {
         // "/dev/root", which an early boot leaves in the table, does not exist: the number tells the device.
-        const QString byNumber = resolved(paths::join(sources_.devicesByNumber, number));
+        const QString byNumber = resolvedLink(paths::join(sources_.devicesByNumber, number));
         if (byNumber.isEmpty())
             return std::nullopt;
         name = paths::lastComponent(byNumber);
-        device = resolved(paths::join(sources_.devices, name));
+        device = resolvedLink(paths::join(sources_.devices, name));
     }
     const auto label = labelOf(device);
     return label ? label : paths::display(name);
@@ -102,7 +102,7 @@ std::optional<QString> LinuxSystemInfo::labelOf(const QString &device) const
         return std::nullopt;
     for (const QString &link : *links) {
         const QString label = systemtexts::decodedLabel(link).trimmed();
-        if (!label.isEmpty() && resolved(paths::join(sources_.labels, link)) == device)
+        if (!label.isEmpty() && resolvedLink(paths::join(sources_.labels, link)) == device)
             return label;
     }
     return std::nullopt;

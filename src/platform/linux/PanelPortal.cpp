@@ -10,8 +10,8 @@
 
 namespace {
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString objectPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString portalName = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
 
 // What a portal's Response carries.
@@ -33,7 +33,7 @@ QString randomToken()
 QString expectedPath(const QDBusConnection &bus, const QString &token)
 {
     const QString sender = bus.baseService().mid(1).replace(u'.', u'_');
-    return objectPath + QStringLiteral("/request/") + sender + u'/' + token;
+    return portalPath + QStringLiteral("/request/") + sender + u'/' + token;
 }
 
 /// The options of every panel that begins in the folder `start`; without it
@@ -52,7 +52,7 @@ QVariantMap commonOptions(const QString &start)
 PanelPortal::PanelPortal(QDBusConnection bus, Answers answers)
     : bus_(std::move(bus))
     , answers_(std::move(answers))
-    , portal_(service, bus_, QDBusServiceWatcher::WatchForUnregistration)
+    , portal_(portalName, bus_, QDBusServiceWatcher::WatchForUnregistration)
 {
     // A portal that ends takes its panel with it and answers no more.
     connect(&portal_, &QDBusServiceWatcher::serviceUnregistered, this, [this] { finish(std::nullopt); });
@@ -81,7 +81,7 @@ void PanelPortal::open(const Request &request)
     const QString token = randomToken();
     listenAt(expectedPath(bus_, token)); // before the call, whose answer could come at once
     QDBusMessage call = QDBusMessage::createMethodCall(
-        service, objectPath, QStringLiteral("org.freedesktop.portal.FileChooser"), request.method);
+        portalName, portalPath, QStringLiteral("org.freedesktop.portal.FileChooser"), request.method);
     QVariantMap options = request.options;
     options.insert(QStringLiteral("handle_token"), token);
     const QString noParentWindow = QStringLiteral("");
@@ -98,7 +98,7 @@ void PanelPortal::dismiss()
     if (!std::exchange(isOpen_, false))
         return;
     const auto close =
-        QDBusMessage::createMethodCall(service, requestPath_, requestInterface, QStringLiteral("Close"));
+        QDBusMessage::createMethodCall(portalName, requestPath_, requestInterface, QStringLiteral("Close"));
     bus_.send(close); // nobody waits for its answer
 }
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
@@ -29,9 +29,9 @@ PortalAppearance::PortalAppearance(const QDBusConnection &bus, Appearance &appea
     if (!bus.isConnected())
         return;
     QDBusConnection connection = bus;
-    connection.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+    connection.connect(portal, path, interface, QStringLiteral("SettingChanged"), this,
                        SLOT(settingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage read = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    QDBusMessage read = QDBusMessage::createMethodCall(portal, path, interface, QStringLiteral("Read"));
     read << appearanceGroup << schemeKey;
     auto *watcher = new QDBusPendingCallWatcher(connection.asyncCall(read), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {

@@ -28,7 +28,7 @@ std::string lastName(std::string path)
 }
 
 /// The walk of one scan path.
-struct Walk
+struct WalkedTree
 {
     Paths rules;
     std::int64_t minFileSize = 0;
@@ -77,9 +77,9 @@ struct Walk
     }
 };
 
-Walk walkAll(const DuplicateOracle &oracle)
+WalkedTree walkAll(const DuplicateOracle &oracle)
 {
-    Walk walk;
+    WalkedTree walk;
     walk.minFileSize = oracle.minFileSize;
     for (const std::string &root : oracle.scanPaths) {
         walk.rules.clear();

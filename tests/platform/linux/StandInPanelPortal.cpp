@@ -9,13 +9,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+const QString desktopPortalPath = u"/org/freedesktop/portal/desktop"_s;
 
 } // namespace
 
 StandInPanelPortal::StandInPanelPortal(const QDBusConnection &bus)
     : bus_(bus)
-    , service_(bus, u"org.freedesktop.portal.Desktop"_s, portalPath,
+    , service_(bus, u"org.freedesktop.portal.Desktop"_s, desktopPortalPath,
                [this](const QDBusMessage &call) { return take(call); })
 {
 }
@@ -43,7 +43,7 @@ QDBusMessage StandInPanelPortal::take(const QDBusMessage &call)
     options = qdbus_cast<QVariantMap>(call.arguments().value(2));
     const QString sender = call.service().mid(1).replace(u'.', u'_'); // ":1.42" is "1_42" there
     const QString token = namesItsOwnPath ? u"own"_s : options.value(u"handle_token"_s).toString();
-    requestPath = portalPath + u"/request/"_s + sender + u'/' + token;
+    requestPath = desktopPortalPath + u"/request/"_s + sender + u'/' + token;
     if (immediateCode)
         respond(*immediateCode, {u"file:///at%20once"_s});
     return call.createReply(QVariant::fromValue(QDBusObjectPath(requestPath)));
