@@ -5,7 +5,7 @@
 #include <filesystem>
 
 namespace {
-const toolhelpers::Registration<ActivityUnderTest> registration("Activity");
+const toolhelpers::Registration<ActivityUnderTest> registration;
 }
 
 ActivityUnderTest::ActivityUnderTest(Composition &composition, Surroundings &surroundings)

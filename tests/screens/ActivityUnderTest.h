@@ -4,12 +4,15 @@
 #include "screens/Surroundings.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 #include <QVariantMap>
 
 /// The activity log from within, and the access to protected folders. The tests' QML knows it as `Activity`.
 class ActivityUnderTest final : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(Activity)
+    QML_SINGLETON
 
 public:
     ActivityUnderTest(Composition &composition, Surroundings &surroundings);

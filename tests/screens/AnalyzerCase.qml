@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // What the tests of the Disk Analyzer share. Each begins at the top of the finished tree of the home folder.
@@ -22,7 +21,7 @@ ScreenCase {
 
     // The path of the entry on view, as the tooltip of the file viewer's button tells it.
     function location() {
-        return Program.named("finderButton").tip;
+        return told(Program.named("finderButton"), "tip");
     }
 
     function waitForScan() {

@@ -5,7 +5,7 @@
 
 namespace {
 
-const toolhelpers::Registration<DiskUnderTest> registration("Disk");
+const toolhelpers::Registration<DiskUnderTest> registration;
 
 void makeOddNames(const TempHome &temp)
 {

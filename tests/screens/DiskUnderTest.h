@@ -4,11 +4,14 @@
 #include "screens/Surroundings.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 /// The Disk Analyzer from within, and folders with names of every kind. The tests' QML knows it as `Disk`.
 class DiskUnderTest final : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(Disk)
+    QML_SINGLETON
 
 public:
     DiskUnderTest(Composition &composition, Surroundings &surroundings);

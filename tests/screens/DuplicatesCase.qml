@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // What the tests of the Duplicate Finder share. Each begins with the groups of a fresh folder of equal files, in a window
@@ -23,7 +22,7 @@ ScreenCase {
         Program.window.height = ampleHeight;
         Surroundings.userWillCancel();
         twins = Duplicates.makeTwins();
-        Duplicates.scanOnly(["a", "b", "c"].map(folder => `${twins}/${folder}`), usualMinSize);
+        Duplicates.scanOnly(Array.from(["a", "b", "c"], folder => `${twins}/${folder}`), usualMinSize);
         open("Dashboard");
         open("Duplicates");
         scan();

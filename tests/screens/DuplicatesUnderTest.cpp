@@ -6,7 +6,7 @@
 #include <filesystem>
 
 namespace {
-const toolhelpers::Registration<DuplicatesUnderTest> registration("Duplicates");
+const toolhelpers::Registration<DuplicatesUnderTest> registration;
 }
 
 DuplicatesUnderTest::DuplicatesUnderTest(Composition &composition, Surroundings &surroundings)

@@ -5,11 +5,14 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QtQml/qqmlregistration.h>
 
 /// What the Duplicate Finder works on. The tests' QML knows it as `Duplicates`.
 class DuplicatesUnderTest final : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(Duplicates)
+    QML_SINGLETON
 
 public:
     DuplicatesUnderTest(Composition &composition, Surroundings &surroundings);

@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // What the tests of the Activity History sheet share. Each begins with an empty log and without the sheet.
@@ -64,6 +63,6 @@ ScreenCase {
 
     function summary() {
         Program.settle();
-        return Program.named("sheetSummary").text;
+        return told(Program.named("sheetSummary"), "text");
     }
 }

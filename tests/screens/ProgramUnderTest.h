@@ -7,6 +7,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QStringList>
+#include <QtQml/qqmlregistration.h>
 
 #include <memory>
 
@@ -15,6 +16,8 @@
 class ProgramUnderTest final : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(Program)
+    QML_SINGLETON
     Q_PROPERTY(QQuickWindow *window READ window CONSTANT)
 
 public:

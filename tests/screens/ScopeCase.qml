@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // What the tests of the Duplicate Finder's scope share. Each begins with the default scope and a fresh folder of equal files.
@@ -45,9 +44,10 @@ DuplicatesCase {
     function rule(text) {
         const index = rules().findIndex(row => row.ruleText === text);
         verify(index >= 0, `there is a rule ${text}`);
-        Program.named("ruleList").positionViewAtIndex(index, ListView.Contain);
+        const list = Program.named("ruleList") as ListView;
+        list.positionViewAtIndex(index, ListView.Contain);
         Program.settle();
-        return Program.named("ruleList").itemAtIndex(index);
+        return list.itemAtIndex(index);
     }
 
     function add(folder) {

@@ -8,10 +8,13 @@
 
 namespace {
 
-void makeSingleton(const QString &name, QObject *object)
+/// Under the name that its QML_NAMED_ELEMENT tells, by which the QML linter knows it too.
+void makeSingleton(QObject *object)
 {
+    const QMetaObject *type = object->metaObject();
     QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
-    qmlRegisterSingletonInstance("Quillmere.Screens", 1, 0, name.toLatin1().constData(), object);
+    qmlRegisterSingletonInstance("Quillmere.Screens", 1, 0,
+                                 type->classInfo(type->indexOfClassInfo("QML.Element")).value(), object);
 }
 
 } // namespace
@@ -22,17 +25,17 @@ void ScreenSetup::applicationAvailable()
     program::describe();
     surroundings_ = std::make_unique<Surroundings>();
     program_ = std::make_unique<ProgramUnderTest>(*surroundings_);
-    for (const toolhelpers::Helper &helper : toolhelpers::all())
-        tools_.emplace(helper.name, helper.make(program_->composition(), *surroundings_));
+    for (const toolhelpers::Make &make : toolhelpers::all())
+        tools_.push_back(make(program_->composition(), *surroundings_));
     program_->show();
 }
 
 void ScreenSetup::qmlEngineAvailable(QQmlEngine *)
 {
-    makeSingleton(QStringLiteral("Surroundings"), surroundings_.get());
-    makeSingleton(QStringLiteral("Program"), program_.get());
-    for (const auto &[name, tool] : tools_)
-        makeSingleton(name, tool.get());
+    makeSingleton(surroundings_.get());
+    makeSingleton(program_.get());
+    for (const std::unique_ptr<QObject> &tool : tools_)
+        makeSingleton(tool.get());
 }
 
 void ScreenSetup::cleanupTestCase()

@@ -5,8 +5,8 @@
 
 #include <QObject>
 
-#include <map>
 #include <memory>
+#include <vector>
 
 class QQmlEngine;
 
@@ -24,5 +24,5 @@ public slots:
 private:
     std::unique_ptr<Surroundings> surroundings_;
     std::unique_ptr<ProgramUnderTest> program_;
-    std::map<QString, std::unique_ptr<QObject>> tools_; // by their names in QML
+    std::vector<std::unique_ptr<QObject>> tools_;
 };

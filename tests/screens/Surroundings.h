@@ -13,6 +13,7 @@
 #include <QJSValue>
 #include <QObject>
 #include <QStringList>
+#include <QtQml/qqmlregistration.h>
 
 /// What the program under test stands in: a temporary home of the Mac's shape, real threads, the real `du`, settings in
 /// memory, and a desktop that writes down what it is asked for. The tests' QML knows it as `Surroundings`. Lists go to
@@ -20,6 +21,8 @@
 class Surroundings final : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(Surroundings)
+    QML_SINGLETON
 
 public:
     Surroundings();

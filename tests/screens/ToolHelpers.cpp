@@ -2,9 +2,9 @@
 
 namespace toolhelpers {
 
-std::vector<Helper> &all()
+std::vector<Make> &all()
 {
-    static std::vector<Helper> helpers;
+    static std::vector<Make> helpers;
     return helpers;
 }
 

@@ -4,7 +4,6 @@
 #include "screens/Surroundings.h"
 
 #include <QObject>
-#include <QString>
 
 #include <functional>
 #include <memory>
@@ -14,26 +13,22 @@
 /// QML that makes itself known here, so that a new tool's helper is a source file of its own and touches nothing else.
 namespace toolhelpers {
 
-struct Helper
-{
-    QString name; ///< in the tests' QML
-    std::function<std::unique_ptr<QObject>(Composition &, Surroundings &)> make;
-};
+using Make = std::function<std::unique_ptr<QObject>(Composition &, Surroundings &)>;
 
 /// All that the program of the tests was linked with.
-std::vector<Helper> &all();
+std::vector<Make> &all();
 
-/// A static object of this type makes `Type` known under that name. It is made ahead of the window, with the composition
-/// and the surroundings, which both outlive it.
+/// A static object of this type makes `Type` known, under the QML name that stands in it. It is made ahead of the window,
+/// with the composition and the surroundings, which both outlive it.
 template<typename Type>
 class Registration
 {
 public:
-    explicit Registration(const char *name)
+    Registration()
     {
-        all().push_back({QString::fromLatin1(name), [](Composition &composition, Surroundings &surroundings) {
-                             return std::make_unique<Type>(composition, surroundings);
-                         }});
+        all().push_back([](Composition &composition, Surroundings &surroundings) {
+            return std::make_unique<Type>(composition, surroundings);
+        });
     }
 };
 

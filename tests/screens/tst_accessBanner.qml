@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The banner of tools that ran without access to the protected folders, which nobody has here.

@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The Disk Analyzer's scan: its start, its progress, its cancel, its age, and another folder.

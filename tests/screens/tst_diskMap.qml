@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The Disk Analyzer's map and the way in above it.
@@ -17,7 +16,7 @@ AnalyzerCase {
     }
 
     function test_tilesStayInsideTheMapAndApart() {
-        const tiles = ["Movies", "Documents", "Equal", "notes.txt", "2 others"].map(name => tile(name));
+        const tiles = Array.from(["Movies", "Documents", "Equal", "notes.txt", "2 others"], name => tile(name));
         for (const one of tiles) {
             verify(one.x >= 0 && one.y >= 0 && one.x + one.width <= map().width && one.y + one.height <= map().height);
             for (const other of tiles.filter(candidate => candidate !== one)) {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The Disk Analyzer's table: its rows, their menu, the keyboard, and the deeper level that is fetched on the way.

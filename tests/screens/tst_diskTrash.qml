@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The Disk Analyzer's "Move to Trash", and what a person may do while a file is on its way.

@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The disk widget at the foot of the sidebar, and the buttons below it.
@@ -41,10 +40,10 @@ ScreenCase {
     function test_clickRefreshes() {
         Surroundings.setVolume(500 * gigabyte, 25 * gigabyte, "Fuller");
         clickOn(refreshButton());
-        verify(Program.named("refreshDiskSpinner").isRunning);
+        verify(told(Program.named("refreshDiskSpinner"), "isRunning"));
         find("475 GB used", widget());
         compare(Program.texts(widget()), "Fuller\n475 GB used\n25 GB free");
-        verify(!Program.named("refreshDiskSpinner").isRunning);
+        verify(!told(Program.named("refreshDiskSpinner"), "isRunning"));
         compare(String(bar().fill), "#f85149");
     }
 

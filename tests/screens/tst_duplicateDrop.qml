@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The Duplicate Finder before its first scan, and folders that are dropped on its scope panel from the desktop.

@@ -120,7 +120,7 @@ DuplicatesCase {
     function test_menuMarksAndKeeps() {
         const others = ["b/film.mov", "c/film.mov", "b/report.pdf", "b/plain.zip"];
         chooseForFile("a/photo.JPG", "Mark for Deletion");
-        compare(going(), ["a/photo.JPG", "b/photo.jpg", "c/photo.png"].concat(others));
+        compare(going(), ["a/photo.JPG", "b/photo.jpg", "c/photo.png", ...others]);
         chooseForFile("b/photo.jpg", "Keep This One");
         compare(going(), ["a/photo.JPG", "c/photo.png"].concat(others));
         chooseForFile("c/photo.png", "Keep Only This (mark others for deletion)");

@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The Duplicate Finder while it scans: what it tells, what may be done meanwhile, and how it is stopped; and a result of
@@ -140,7 +139,7 @@ DuplicatesCase {
     // Opens the picker of the least size.
     function choices() {
         clickOn(Program.named("minSizePicker"));
-        const popup = Program.named("minSizePicker").popup.contentItem;
+        const popup = told(Program.named("minSizePicker"), "popup").contentItem;
         tryVerify(() => Program.textItem("10 MB", popup), patience, "the picker is open");
         return popup;
     }

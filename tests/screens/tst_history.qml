@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The Activity History sheet: its ways in and out, its filters, its entries and what they hide.
@@ -106,11 +105,11 @@ HistoryCase {
         fill();
         openSheet();
         const height = row("Cleaned some").height;
-        compare(Program.named("historyToggle", row("Cleaned some")).label, "Show details");
+        compare(told(Program.named("historyToggle", row("Cleaned some")), "label"), "Show details");
         clickOn(data.what("Cleaned some"));
         compare(Program.texts(row("Cleaned some")).split("\n").slice(-3),
                 ["/home/some/locked: It is locked.", "Files (1)", "/home/some/cache"]);
-        compare(Program.named("historyToggle", row("Cleaned some")).label, "Hide details");
+        compare(told(Program.named("historyToggle", row("Cleaned some")), "label"), "Hide details");
         verify(row("Cleaned some").height > height);
         Program.picture("history-expanded");
         mouseClick(Program.named("historyToggle", row("Cleaned some")));

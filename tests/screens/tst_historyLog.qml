@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // What the Activity History sheet does with the log as a whole: it clears it, and shows its file.

@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The Disk Analyzer over names that other programs stumble on: shown as they are, or as near as letters come, and
