@@ -24,9 +24,12 @@ ScreenCase {
         tryCompare(spinner, "isRunning", false, patience);
     }
 
+    // The figures alone would not tell that this refresh is over: they may have stood there before, and the next test
+    // must not change the volume while it is read.
     function cleanup() {
         Surroundings.setVolume(500 * gigabyte, 200 * gigabyte, "Disk");
         clickOn(refreshButton());
+        waitForRefresh();
         find("300 GB used", widget());
         compare(Program.takeWarnings(), "");
     }
