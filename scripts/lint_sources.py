@@ -298,7 +298,11 @@ def main():
     if arguments.self_test:
         return self_test()
     build = PROJECT / "build" / "lint"
-    entries = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
+    commands = build / "compile_commands.json"
+    if not commands.exists():
+        print("nothing to go by: cmake --preset lint && cmake --build --preset lint --target quillmere_symbol_font")
+        return 1
+    entries = json.loads(commands.read_text(encoding="utf-8"))
     wanted = [Path(folder).resolve() for folder in arguments.folders] or [PROJECT]
     units = [unit for unit in units_of(entries, PROJECT)
              if any(unit.folder.is_relative_to(folder) for folder in wanted)]
