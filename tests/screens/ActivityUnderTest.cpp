@@ -5,7 +5,7 @@
 #include <filesystem>
 
 namespace {
-const toolhelpers::Registration<ActivityUnderTest> registration;
+const toolhelpers::Registration<ActivityUnderTest> activityHelper;
 }
 
 ActivityUnderTest::ActivityUnderTest(Composition &composition, Surroundings &surroundings)

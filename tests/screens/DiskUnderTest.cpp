@@ -5,7 +5,7 @@
 
 namespace {
 
-const toolhelpers::Registration<DiskUnderTest> registration;
+const toolhelpers::Registration<DiskUnderTest> diskHelper;
 
 void makeOddNames(const TempHome &temp)
 {

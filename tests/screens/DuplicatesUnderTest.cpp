@@ -6,7 +6,7 @@
 #include <filesystem>
 
 namespace {
-const toolhelpers::Registration<DuplicatesUnderTest> registration;
+const toolhelpers::Registration<DuplicatesUnderTest> duplicatesHelper;
 }
 
 DuplicatesUnderTest::DuplicatesUnderTest(Composition &composition, Surroundings &surroundings)
