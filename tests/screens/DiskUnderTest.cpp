@@ -9,7 +9,7 @@ const toolhelpers::Registration<DiskUnderTest> diskHelper;
 
 void makeOddNames(const TempHome &temp)
 {
-    constexpr qint64 megabyte = 1024 * 1024;
+    constexpr qint64 megabyte = qint64{1024} * 1024;
     temp.sparseFile(QStringLiteral("odd/line\nbreak/inside"), 9 * megabyte);
     temp.sparseFile(QStringLiteral("odd/\"quoted\" & <b>bold/inside"), 8 * megabyte);
     temp.sparseFile(QStringLiteral("odd/emoji \U0001F980/inside"), 7 * megabyte);
