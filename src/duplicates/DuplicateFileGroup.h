@@ -5,6 +5,7 @@
 #include <QtNumeric>
 #include <QUuid>
 
+#include <algorithm>
 #include <vector>
 
 /// Files of equal content: of the same size, and with the same digest.
@@ -13,8 +14,16 @@ struct DuplicateFileGroup
     QUuid id;        ///< fresh for each group of each scan
     QString hash;    ///< SHA-256: 64 lower-case hexadecimal digits
     qint64 size = 0; ///< bytes, of each of the files
-    std::vector<DuplicateFileEntry>
-        files; ///< at least two after a scan, in the order in which they were found
+    /// At least two after a scan, in the order in which they were found.
+    std::vector<DuplicateFileEntry> files;
+
+    /// It has files, and none of them stays at the next delete run.
+    bool keepsNothing() const
+    {
+        return !files.empty() && std::none_of(files.begin(), files.end(), [](const DuplicateFileEntry &file) {
+            return file.keep;
+        });
+    }
 
     /// The bytes beyond one copy. A product that does not fit into 64 bits is a programming fault and ends the
     /// process.

@@ -1,7 +1,13 @@
 #include "duplicates/DuplicateService.h"
 
 #include "activity/FDAService.h"
+#include "activity/HistoryService.h"
+#include "activity/Loggers.h"
+#include "base/Error.h"
+#include "base/GuardedPost.h"
 #include "common/SettingsKeys.h"
+#include "duplicates/DeleteRun.h"
+#include "duplicates/KeepRules.h"
 #include "duplicates/scan/ScanScope.h"
 
 #include <algorithm>
@@ -24,7 +30,6 @@ bool appendNew(QStringList &list, const QString &item)
 } // namespace
 
 const QString DuplicateService::accessContext = QStringLiteral("Duplicate Finder");
-const QString DuplicateService::errorDomain = QStringLiteral("Quillmere.DuplicateService");
 
 DuplicateService::DuplicateService(const Platform &platform, FileSystemService &fileSystem,
                                    FDAService &access, History history)
@@ -71,10 +76,7 @@ void DuplicateService::scan()
             return;
         const auto result =
             std::make_shared<duplicatescan::Result>(duplicatescan::run(request, hooks(self, main, cancel)));
-        main.post([self, result] {
-            if (self)
-                self->publish(*result);
-        });
+        guarded::post(main, self, [result](DuplicateService &service) { service.publish(*result); });
     });
 }
 
@@ -96,12 +98,7 @@ void DuplicateService::reset()
 duplicatescan::Hooks DuplicateService::hooks(const QPointer<DuplicateService> &self, MainQueue &main,
                                              const std::shared_ptr<std::atomic<bool>> &cancel)
 {
-    const auto post = [self, &main](auto block) {
-        main.post([self, block = std::move(block)] {
-            if (self)
-                block(*self);
-        });
-    };
+    const auto post = [self, &main](auto block) { guarded::post(main, self, std::move(block)); };
     return {
         [cancel] { return cancel->load(std::memory_order_relaxed); },
         [post](const QString &folder) {
@@ -204,4 +201,112 @@ bool DuplicateService::isBuiltIn(const QString &rule) const
 bool DuplicateService::isOverridden(const QString &rule) const
 {
     return isBuiltIn(rule) && scope::isLifted(rule, scanPaths_);
+}
+
+std::optional<size_t> DuplicateService::indexOf(const QUuid &group) const
+{
+    const auto found = std::find_if(groups_.begin(), groups_.end(),
+                                    [&group](const DuplicateFileGroup &known) { return known.id == group; });
+    if (found == groups_.end())
+        return std::nullopt;
+    return static_cast<size_t>(found - groups_.begin());
+}
+
+bool DuplicateService::isThere(size_t group, size_t file) const
+{
+    return group < groups_.size() && file < groups_[group].files.size();
+}
+
+void DuplicateService::toggleKeep(size_t group, size_t file)
+{
+    if (!isThere(group, file))
+        return;
+    DuplicateFileEntry &entry = groups_[group].files[file];
+    entry.keep = !entry.keep;
+    if (entry.keep)
+        markedForDeletion_.remove(entry.path);
+    else
+        markedForDeletion_.insert(entry.path);
+    emit fileChanged(group, file);
+}
+
+void DuplicateService::keepOnly(size_t group, size_t file)
+{
+    if (!isThere(group, file))
+        return;
+    keeprules::keepOnly(groups_[group], file);
+    emit groupChanged(group);
+}
+
+void DuplicateService::keepNewest(const QUuid &group)
+{
+    if (const auto index = indexOf(group)) {
+        keeprules::keepNewest(groups_[*index]);
+        emit groupChanged(*index);
+    }
+}
+
+void DuplicateService::keepOldest(const QUuid &group)
+{
+    if (const auto index = indexOf(group)) {
+        keeprules::keepOldest(groups_[*index]);
+        emit groupChanged(*index);
+    }
+}
+
+void DuplicateService::changeAllGroups(void (*rule)(DuplicateFileGroup &group))
+{
+    std::for_each(groups_.begin(), groups_.end(), rule);
+    emit keepChanged();
+}
+
+void DuplicateService::keepFirstInAllGroups()
+{
+    changeAllGroups(keeprules::keepFirst);
+}
+
+void DuplicateService::keepAllInAllGroups()
+{
+    changeAllGroups(keeprules::keepAll);
+}
+
+void DuplicateService::keepNewestInAllGroups()
+{
+    changeAllGroups(keeprules::keepNewest);
+}
+
+void DuplicateService::keepOldestInAllGroups()
+{
+    changeAllGroups(keeprules::keepOldest);
+}
+
+qint64 DuplicateService::deleteMarked()
+{
+    if (isDeleting_)
+        return 0;
+    DeleteRun run(groups_);
+    setDeleting(true, run.fileCount());
+    for (size_t number = 0; number < run.fileCount(); ++number) {
+        run.move(number, groups_, fileSystem_);
+        ++deletedFiles_;
+        emit deletingChanged();
+    }
+    run.takeOutOf(groups_);
+    const QStringList &gone = run.tally().done;
+    markedForDeletion_.subtract({gone.begin(), gone.end()});
+    emit groupsShrunk();
+    setDeleting(false, 0);
+    Loggers(platform_.systemLog).duplicates.info(run.logLine());
+    history_().record(run.record(platform_.clock.now()));
+    if (const auto error = run.error())
+        throw *error;
+    return run.tally().bytes;
+}
+
+void DuplicateService::setDeleting(bool isDeleting, size_t files)
+{
+    isDeleting_ = isDeleting;
+    deletedFiles_ = 0;
+    filesToDelete_ = files;
+    emit deletingChanged();
 }

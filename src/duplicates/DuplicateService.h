@@ -19,7 +19,7 @@ class FDAService;
 class FileSystemService;
 class HistoryService;
 
-/// Finds files of equal content below the user's scan paths, holds the result, and moves the copies set to go to the
+/// Finds files of equal content below the user's scan paths, holds the result, and moves the files set to go to the
 /// Trash. Nothing of a scan is kept on disk. Published fields change on the main thread only, set first, then notified.
 /// Main thread, all of it; the scan itself runs on the work queue, and a cancel never waits.
 class DuplicateService final : public QObject
@@ -41,26 +41,17 @@ public:
     /// The name under which a scan tells whether protected folders could be read.
     static const QString accessContext;
 
-    /// The domain of the error that `deleteMarked` throws.
-    static const QString errorDomain;
-
     // Published fields.
 
-    const std::vector<DuplicateFileGroup> &groups() const
-    {
-        return groups_;
-    } ///< by wasted bytes, largest first
+    /// By wasted bytes, largest first.
+    const std::vector<DuplicateFileGroup> &groups() const { return groups_; }
     bool isScanning() const { return isScanning_; }
     double progress() const { return progress_; } ///< 0 to 1
-    const QString &currentPath() const
-    {
-        return currentPath_;
-    } ///< the folder being walked, or a stage's text
+    /// The folder being walked, or a stage's text.
+    const QString &currentPath() const { return currentPath_; }
     const QSet<QString> &markedForDeletion() const { return markedForDeletion_; } ///< marked one by one
-    int hashFailureCount() const
-    {
-        return hashFailureCount_;
-    } ///< files not opened or read in the last finished scan
+    /// Files not opened or read in the last finished scan.
+    int hashFailureCount() const { return hashFailureCount_; }
     const QStringList &scanPaths() const { return scanPaths_; }
     const QStringList &ignorePaths() const { return ignorePaths_; }
     qint64 minFileSize() const { return minFileSize_; }
@@ -71,10 +62,7 @@ public:
 
     /// True while `deleteMarked` runs, which lets the event loop turn.
     bool isDeleting() const { return isDeleting_; }
-    size_t deletedFiles() const
-    {
-        return deletedFiles_;
-    } ///< how many the run is done with, failures included
+    size_t deletedFiles() const { return deletedFiles_; }   ///< the run is done with them, one way or another
     size_t filesToDelete() const { return filesToDelete_; } ///< how many it began with
 
     /// Starts a scan and returns at once; the old result goes. A caller looks first that none is running.
@@ -94,13 +82,13 @@ public:
     /// A built-in rule that a scan path leads into, so that its folder is scanned after all.
     bool isOverridden(const QString &rule) const;
 
-    // Which copies stay. A group is known by its index in `groups`, not in a filtered list, or by its id; what is not
+    // Which files stay. A group is known by its index in `groups`, not in a filtered list, or by its id; what is not
     // there is passed over.
 
     /// The index of a group in `groups`; none when it is not there (any more).
     std::optional<size_t> indexOf(const QUuid &group) const;
 
-    /// Lets one copy stay or go, and keeps the choice for the next scan.
+    /// Lets one file stay or go, and keeps the choice for the next scan.
     void toggleKeep(size_t group, size_t file);
     void keepOnly(size_t group, size_t file); ///< the others go
     void keepNewest(const QUuid &group);      ///< all that share the latest date
@@ -110,10 +98,11 @@ public:
     void keepNewestInAllGroups();
     void keepOldestInAllGroups();
 
-    /// Moves every copy set to go to the Trash, and gives the bytes freed, by the sizes of the scan. Lets the event loop
-    /// turn meanwhile, so that everything here may be called from within; what goes was set to go at the start and still
-    /// is. A second call during a run does nothing and gives 0. Throws Error when a file could not be moved, after all
-    /// is done and recorded.
+    /// Moves every file set to go to the Trash, whatever a screen filters, and gives the bytes freed, by the sizes of the
+    /// scan. Lets the event loop turn meanwhile, so that everything here may be called from within. What goes was set to
+    /// go at the start, and has come to be kept neither by the user since nor by a scan from within; such a scan brings
+    /// nothing into the run. A second call during a run does nothing and gives 0. Throws Error (DeleteRun::errorDomain)
+    /// when a file could not be moved, after all is done and recorded.
     qint64 deleteMarked();
 
 signals:
@@ -130,9 +119,6 @@ signals:
     void deletingChanged();
 
 private:
-    struct Doomed;
-    struct DeleteRun;
-
     static duplicatescan::Hooks hooks(const QPointer<DuplicateService> &self, MainQueue &main,
                                       const std::shared_ptr<std::atomic<bool>> &cancel);
     void reset();
@@ -142,12 +128,8 @@ private:
 
     bool isThere(size_t group, size_t file) const;
 
-    std::vector<Doomed> filesSetToGo() const;
-    bool isSpared(const Doomed &doomed) const;
+    void changeAllGroups(void (*rule)(DuplicateFileGroup &group));
     void setDeleting(bool isDeleting, size_t files);
-    void moveToTrash(const Doomed &doomed, DeleteRun &run);
-    void forget(const QStringList &trashed);
-    void record(const DeleteRun &run);
 
     const Platform &platform_;
     FileSystemService &fileSystem_;

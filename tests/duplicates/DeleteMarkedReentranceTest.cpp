@@ -156,6 +156,48 @@ TEST_F(DeleteMarkedReentrance, aFileIsNotSparedForAnotherThatHasItsPlaceSinceASc
     EXPECT_EQ(services.shown(), QStringList{"5: 2/x 3/x"});
 }
 
+TEST_F(DeleteMarkedReentrance, aFileThatAScanMeanwhileHasSetToKeepIsSpared)
+{
+    during(copies[1], [this] {
+        services.useScanPaths({"3", "2", "0"});
+        services.scan();
+        ASSERT_EQ(services.shown(), QStringList{"5: 3/x 2/x- 0/x-"});
+    });
+    EXPECT_EQ(duplicates.deleteMarked(), 10);
+    EXPECT_EQ(onDisk(), QStringList({"0/x", "3/x"}));
+    EXPECT_EQ(services.shown(), QStringList{"5: 3/x 0/x-"});
+    EXPECT_EQ(services.records().at(0).paths, QStringList({copies[1], copies[2]}));
+}
+
+TEST_F(DeleteMarkedReentrance, aFileThatTheUserKeepsAfterAScanMeanwhileIsSpared)
+{
+    int moves = 0;
+    test.recycler.answers = [&](const QStringList &paths, const Recycler::Completion &done) {
+        DuplicateServices::remove(paths.constFirst());
+        if (++moves == 1)
+            services.scan();
+        else if (moves == 2)
+            duplicates.toggleKeep(0, 2); // "3/x", which the scan had set to go
+        done({});
+    };
+    EXPECT_EQ(duplicates.deleteMarked(), 10);
+    EXPECT_EQ(onDisk(), QStringList({"0/x", "3/x"}));
+    EXPECT_EQ(services.shown(), QStringList{"5: 0/x 3/x"});
+}
+
+TEST_F(DeleteMarkedReentrance, eachScanMeanwhileIsAskedAnew)
+{
+    int moves = 0;
+    test.recycler.answers = [&](const QStringList &paths, const Recycler::Completion &done) {
+        DuplicateServices::remove(paths.constFirst());
+        services.useScanPaths(++moves == 1 ? QStringList({"3", "2", "0"}) : QStringList({"0", "3"}));
+        services.scan();
+        done({});
+    };
+    EXPECT_EQ(duplicates.deleteMarked(), 15); // the second scan lets "3/x" go after all
+    EXPECT_EQ(onDisk(), QStringList{"0/x"});
+}
+
 TEST_F(DeleteMarkedReentrance, aScanMeanwhileThatIsStillUnderWayLeavesNoGroupsToTidy)
 {
     during(copies[1], [this] { duplicates.scan(); });

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "duplicates/DuplicateFileGroup.h"
+
+/// Which files of a group stay; all others of it go at the next delete run.
+namespace keeprules {
+
+/// All that share the latest date, since nothing tells which of them is the one.
+void keepNewest(DuplicateFileGroup &group);
+
+/// All that share the earliest date.
+void keepOldest(DuplicateFileGroup &group);
+
+void keepFirst(DuplicateFileGroup &group);
+
+void keepAll(DuplicateFileGroup &group);
+
+/// `file` is an index in the group.
+void keepOnly(DuplicateFileGroup &group, size_t file);
+
+} // namespace keeprules
