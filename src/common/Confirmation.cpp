@@ -17,7 +17,7 @@ void Confirmation::ask(const QString &text)
 
 void Confirmation::setNote(const QString &note)
 {
-    if (!isUp_)
+    if (!isUp_ || note == note_)
         return;
     note_ = note;
     emit changed();

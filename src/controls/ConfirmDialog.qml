@@ -9,6 +9,7 @@ T.Popup {
 
     required property string title
     required property string text
+    property string note // a second paragraph, which may come while the dialog stands
     required property string cancelLabel
     required property string actionLabel
 
@@ -41,7 +42,7 @@ T.Popup {
         spacing: Theme.unit * 2
         Accessible.role: Accessible.AlertMessage
         Accessible.name: dialog.title
-        Accessible.description: dialog.text
+        Accessible.description: dialog.note.length > 0 ? dialog.text + " " + dialog.note : dialog.text
 
         BodyText {
             width: parent.width
@@ -55,6 +56,16 @@ T.Popup {
             width: parent.width
             text: dialog.text
             color: Theme.secondText
+            lineHeight: 1.25
+            wrapMode: Text.Wrap
+            elide: Text.ElideNone
+        }
+        BodyText {
+            objectName: "confirmNote"
+            width: parent.width
+            visible: text.length > 0
+            text: dialog.note
+            color: Theme.amber
             lineHeight: 1.25
             wrapMode: Text.Wrap
             elide: Text.ElideNone

@@ -24,6 +24,22 @@ QString DuplicatesUnderTest::makeTwins()
     return temp_.at(folder());
 }
 
+QString DuplicatesUnderTest::makeWays()
+{
+    const auto folder = [this] { return QStringLiteral("ways-%1").arg(ways_); };
+    std::filesystem::remove_all(temp_.at(folder()).toStdString());
+    ++ways_;
+    equalfiles::fillWays(temp_, folder());
+    return temp_.at(folder());
+}
+
+QString DuplicatesUnderTest::makeTriples(int triples) const
+{
+    const QString folder = QStringLiteral("triples");
+    equalfiles::fillTriples(temp_, folder, triples);
+    return temp_.at(folder);
+}
+
 QString DuplicatesUnderTest::makePairs(int pairs) const
 {
     const QString folder = QStringLiteral("pairs");

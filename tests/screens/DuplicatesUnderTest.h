@@ -19,6 +19,10 @@ public:
 
     /// A folder of equal files that no test has seen, in the place of the one before.
     Q_INVOKABLE QString makeTwins();
+    /// A folder of files by two ways (equalfiles::fillWays).
+    Q_INVOKABLE QString makeWays();
+    /// A folder of so many groups of three equal files, one of them older.
+    Q_INVOKABLE QString makeTriples(int triples) const;
     /// A folder of so many pairs of equal files.
     Q_INVOKABLE QString makePairs(int pairs) const;
     /// Lets the Duplicate Finder look at these folders, and at files from `minSize` bytes on.
@@ -28,4 +32,5 @@ private:
     Composition &composition_;
     const TempHome &temp_;
     int twins_ = 0;
+    int ways_ = 0;
 };

@@ -4,7 +4,9 @@
 
 #include <cerrno>
 #include <chrono>
+#include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -52,6 +54,35 @@ void fill(const TempHome &home, const QString &folder)
     for (const File &file : files) {
         const QString name = folder + u'/' + QString::fromLatin1(file.name);
         setDay(home.file(name, QByteArray(file.kilobytes * kilobyte, file.kind)), file.day);
+    }
+}
+
+void fillWays(const TempHome &home, const QString &folder)
+{
+    const auto make = [&](const char *name, char kind, int kilobytes) {
+        return home.file(folder + u'/' + QString::fromLatin1(name), QByteArray(kilobytes * kilobyte, kind));
+    };
+    setDay(make("a/photo.jpg", 'p', 300), January / 5);
+    setDay(make("a/film.mov", 'f', 120), February / 6);
+    const QString linked = make("b/linked.bin", 'l', 200);
+    setDay(linked, March / 7);
+    setDay(make("b/plain.pdf", 'z', 150), January / 5);
+    setDay(make("c/plain.pdf", 'z', 150), February / 6);
+    home.link(folder + u"/way", home.at(folder + u"/a"));
+    std::filesystem::create_hard_link(paths::toBytes(linked).toStdString(),
+                                      paths::toBytes(home.at(folder + u"/c/linked.bin")).toStdString());
+}
+
+void fillTriples(const TempHome &home, const QString &folder, int triples)
+{
+    for (int triple = 0; triple < triples; ++triple) {
+        const QByteArray content = QByteArray::number(triple).leftJustified(kilobyte, ' ');
+        for (const auto &[side, day] :
+             {std::pair("left", March / 7), std::pair("right", March / 7), std::pair("old", January / 5)})
+            setDay(
+                home.file(QStringLiteral("%1/%2-%3.txt").arg(folder).arg(triple).arg(QLatin1StringView(side)),
+                          content),
+                day);
     }
 }
 

@@ -2,18 +2,10 @@ import QtQuick
 import Quillmere
 
 // The context menu of a file of a group.
-PopupMenu {
+RowMenu {
     id: menu
 
     required property DuplicateFinderView view
-    property int row: -1
-
-    // For the row with that number, near `item` where a key has asked for it.
-    function openAt(index, item) {
-        row = index;
-        toggleLine.text = view.toggleText(index); // what holds of that row now
-        openNear(item);
-    }
 
     MenuLine {
         text: menu.view.texts.open
@@ -36,8 +28,8 @@ PopupMenu {
         enabled: false
     }
     MenuLine {
-        id: toggleLine
         objectName: "toggleLine"
+        text: menu.view.toggleText(menu.row)
         enabled: menu.view.canChoose
         onTriggered: menu.view.toggleKeep(menu.row)
     }

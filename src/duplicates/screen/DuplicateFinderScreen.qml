@@ -55,6 +55,7 @@ FocusScope {
         DuplicateList {
             anchors.fill: parent
             visible: !screen.view.isScanning && screen.view.hasFigures
+            enabled: visible // a list that is not on view gets no keys
             focus: true
             view: screen.view
         }
@@ -80,14 +81,15 @@ FocusScope {
         view: screen.view
     }
     Loader {
-        active: screen.view.showDeleteConfirm
+        active: screen.view.confirmation.isUp
         sourceComponent: ConfirmDialog {
             title: screen.view.texts.confirmTitle
-            text: screen.view.confirmText
+            text: screen.view.confirmation.text
+            note: screen.view.confirmation.note
             cancelLabel: screen.view.texts.cancel
             actionLabel: screen.view.texts.moveToTrash
-            onAccepted: screen.view.confirmDelete()
-            onRejected: screen.view.cancelDelete()
+            onAccepted: screen.view.confirmation.confirm()
+            onRejected: screen.view.confirmation.cancel()
         }
     }
 }

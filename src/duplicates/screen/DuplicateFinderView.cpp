@@ -1,33 +1,25 @@
 #include "duplicates/screen/DuplicateFinderView.h"
 
 #include "base/Error.h"
+#include "base/GuardedPost.h"
 #include "base/Paths.h"
-#include "base/Sums.h"
-#include "common/ExtensionTable.h"
 #include "common/Formatters.h"
 #include "common/NotificationNames.h"
+#include "duplicates/screen/DuplicateFilter.h"
 #include "filesystem/FileSystemService.h"
 
-#include <QPointer>
-
-#include <algorithm>
 #include <functional>
-#include <utility>
 
 namespace {
 
-const QString allTypes = QStringLiteral("all");
-constexpr double progressPeriod = 0.05; // seconds between two pictures of a scan's progress
+// Seconds between two pictures of a scan's progress: it may tell of thousands of folders a second, nobody reads more than
+// a few, and each would be laid out.
+constexpr double progressPeriod = 0.05;
 
-const ExtensionTable &filterTable()
+/// The group of a head; none for any other row.
+const DuplicateFileGroup *groupOf(const DuplicateService &service, const GroupRows::Row *row)
 {
-    static const ExtensionTable table = {
-        {"jpg jpeg png gif heic webp svg", "images"},
-        {"pdf doc docx txt md rtf xls xlsx ppt pptx", "documents"},
-        {"zip tar gz rar dmg 7z", "archives"},
-        {"mp3 wav flac aac mp4 mov avi mkv", "media"},
-    };
-    return table;
+    return row && row->isHead() ? &service.groups()[row->group] : nullptr;
 }
 
 } // namespace
@@ -37,7 +29,14 @@ DuplicateFinderView::DuplicateFinderView(const Platform &platform, DuplicateServ
     : platform_(platform)
     , service_(service)
     , fileSystem_(fileSystem)
-    , filter_(allTypes)
+    , filter_(filters().front())
+    , progressChanges_(platform.mainQueue, progressPeriod, [this] { emit progressChanged(); })
+    , confirmation_([this] {
+        guarded::runLater(platform_.mainQueue, *this, [](DuplicateFinderView &view) {
+            if (view.canDelete())
+                view.runDelete();
+        });
+    })
     , banner_(access, DuplicateService::accessContext)
     , scope_(platform, service)
     , filterRows_({
@@ -45,24 +44,33 @@ DuplicateFinderView::DuplicateFinderView(const Platform &platform, DuplicateServ
           {"countText", [](const QString &) { return QString(); }},
           {"isSelected", [this](const QString &filter) { return filter == filter_; }},
       })
-    , rows_(service.groups(), platform.home)
+    , sameFiles_(platform)
+    , rows_(service.groups(), platform.home, [this](const QUuid &group) { return sameFiles_.kindOf(group); })
 {
     filterRows_.reset({filters().begin(), filters().end()});
     observeService();
     platform_.notifications.observe(notifications::rescan, this, [this](const QVariant &) { scan(); });
     showGroups();
+    sameFiles_.lookUp(service_.groups());
 }
 
 void DuplicateFinderView::observeService()
 {
     connect(&service_, &DuplicateService::groupsChanged, this, [this] {
-        setShowDeleteConfirm(false); // it has asked about files that are no longer what is set to go
+        confirmation_.cancel(); // it has asked about files that are no longer what is set to go
         showGroups();
+        sameFiles_.lookUp(service_.groups());
     });
     connect(&service_, &DuplicateService::groupsShrunk, this, [this] {
-        filteredGroups_ = groupsPassingFilter();
+        filteredGroups_ = duplicatefilter::passing(service_.groups(), filter_);
         rows_.shrink(filteredGroups_);
         takeFigures();
+        sameFiles_.lookUp(service_.groups());
+    });
+    connect(&sameFiles_, &SameFileMarks::changed, &rows_, &DuplicateRows::refreshAll);
+    connect(&confirmation_, &Confirmation::changed, this, [this] {
+        if (!confirmation_.isUp())
+            question_.reset(); // what is still being looked up for it stops
     });
     connect(&service_, &DuplicateService::fileChanged, this, [this](size_t group, size_t file) {
         rows_.refreshFile(group, file);
@@ -80,8 +88,8 @@ void DuplicateFinderView::observeService()
         emit stateChanged();
         emit progressChanged();
     });
-    connect(&service_, &DuplicateService::progressChanged, this, &DuplicateFinderView::announceProgress);
-    connect(&service_, &DuplicateService::currentPathChanged, this, &DuplicateFinderView::announceProgress);
+    connect(&service_, &DuplicateService::progressChanged, this, [this] { progressChanges_.request(); });
+    connect(&service_, &DuplicateService::currentPathChanged, this, [this] { progressChanges_.request(); });
     connect(&service_, &DuplicateService::scopeChanged, this, &DuplicateFinderView::stateChanged);
     connect(&service_, &DuplicateService::deletingChanged, this, [this] {
         emit stateChanged();
@@ -89,68 +97,27 @@ void DuplicateFinderView::observeService()
     });
 }
 
-/// A scan may tell of thousands of folders a second; nobody reads more than a few, and each would be laid out.
-void DuplicateFinderView::announceProgress()
-{
-    if (std::exchange(isProgressDue_, true))
-        return;
-    platform_.mainQueue.postAfter(progressPeriod, [self = QPointer(this)] {
-        if (!self)
-            return;
-        self->isProgressDue_ = false;
-        emit self->progressChanged();
-    });
-}
-
 const QStringList &DuplicateFinderView::filters()
 {
-    static const QStringList names = {allTypes, QStringLiteral("images"), QStringLiteral("documents"),
-                                      QStringLiteral("archives"), QStringLiteral("media")};
-    return names;
+    return duplicatefilter::names();
 }
 
 const std::map<QString, QStringList> &DuplicateFinderView::extMap()
 {
-    return filterTable().extensionsByValue();
-}
-
-std::vector<size_t> DuplicateFinderView::groupsPassingFilter() const
-{
-    const auto passes = [&](const DuplicateFileGroup &group) {
-        return filter_ == allTypes
-               || (!group.files.empty()
-                   && filterTable().value(paths::extension(group.files.front().path).toLower()) == filter_);
-    };
-    std::vector<size_t> passing;
-    for (size_t group = 0; group < service_.groups().size(); ++group) {
-        if (passes(service_.groups()[group]))
-            passing.push_back(group);
-    }
-    return passing;
+    return duplicatefilter::extensions();
 }
 
 void DuplicateFinderView::showGroups()
 {
     emit rowsWillChange();
-    filteredGroups_ = groupsPassingFilter();
+    filteredGroups_ = duplicatefilter::passing(service_.groups(), filter_);
     rows_.show(filteredGroups_);
     takeFigures();
 }
 
 void DuplicateFinderView::takeFigures()
 {
-    figures_ = {};
-    for (const size_t index : filteredGroups_) {
-        const DuplicateFileGroup &group = service_.groups()[index];
-        const auto going = std::count_if(group.files.begin(), group.files.end(),
-                                         [](const DuplicateFileEntry &file) { return !file.keep; });
-        figures_.groups += 1;
-        figures_.files += static_cast<qint64>(group.files.size());
-        figures_.filesToDelete += going;
-        figures_.wasted = sums::saturated(figures_.wasted, group.wastedBytes());
-        figures_.bytesToDelete =
-            sums::saturated(figures_.bytesToDelete, sums::saturatedProduct(going, group.size));
-    }
+    figures_ = figuresOf(service_.groups(), filteredGroups_);
     emit figuresChanged();
     emit stateChanged();
 }
@@ -247,11 +214,6 @@ QString DuplicateFinderView::deletingText() const
         .arg(service_.filesToDelete());
 }
 
-QString DuplicateFinderView::confirmText() const
-{
-    return amountText(QStringLiteral("Move %1 files (%2) to Trash? This can be undone from the Trash."));
-}
-
 void DuplicateFinderView::scan()
 {
     if (!isScanning() && !isDeleting())
@@ -305,42 +267,114 @@ void DuplicateFinderView::keepOldest()
 
 void DuplicateFinderView::askToDelete()
 {
-    if (canDelete())
-        setShowDeleteConfirm(true);
-}
-
-void DuplicateFinderView::cancelDelete()
-{
-    setShowDeleteConfirm(false);
-}
-
-void DuplicateFinderView::confirmDelete()
-{
-    if (!showDeleteConfirm_) // a second click on a dialog that is on its way out
+    if (!canDelete())
         return;
-    setShowDeleteConfirm(false);
-    // Not from within the click: the run lets the event loop turn, and the screen with the button may go meanwhile.
-    platform_.mainQueue.post([self = QPointer(this)] {
-        if (self && self->canDelete())
-            self->runDelete();
+    confirmation_.ask(
+        amountText(QStringLiteral("Move %1 files (%2) to Trash? This can be undone from the Trash.")));
+    const DeleteNote note = deletenotes::fromGroups(service_.groups(), filteredGroups_);
+    confirmation_.setNote(note.text());
+    addKeptOtherwise(note);
+}
+
+/// Completes the question's note by what only the disk can tell. The question does not wait for it.
+void DuplicateFinderView::addKeptOtherwise(DeleteNote note)
+{
+    question_ = std::make_shared<int>();
+    platform_.workQueue.post(WorkPriority::userInitiated, [self = QPointer(this),
+                                                           question = std::weak_ptr(question_), note,
+                                                           choices = deletenotes::choices(service_.groups()),
+                                                           &main = platform_.mainQueue]() mutable {
+        note.keptOtherwise = deletenotes::countOfKept(choices, [&] { return question.expired(); });
+        guarded::post(main, self, [question, note](DuplicateFinderView &view) {
+            if (!question.expired())
+                view.confirmation_.setNote(note.text());
+        });
     });
 }
 
 void DuplicateFinderView::runDelete()
 {
-    const QPointer self(this); // another screen may be chosen during the run
-    std::optional<qint64> result;
     try {
-        result = service_.deleteMarked();
+        deleteResult_ = service_.deleteMarked();
     } catch (const Error &) {
         // What failed stays in its group, and the activity log has it in words.
+        deleteResult_.reset();
     }
-    if (self)
-        deleteResult_ = result;
 }
 
-void DuplicateFinderView::setShowDeleteConfirm(bool isUp)
+const DuplicateFileEntry *DuplicateFinderView::fileAt(int row) const
 {
-    showDeleteConfirm_ = isUp;
-    emit showDeleteConfirmChanged();
+    const GroupRows::Row *found = rows_.row(row);
+    if (!found || found->isHead())
+        return nullptr;
+    return &service_.groups()[found->group].files[static_cast<size_t>(found->member)];
+}
+
+bool DuplicateFinderView::isFile(int row) const
+{
+    return fileAt(row) != nullptr;
+}
+
+void DuplicateFinderView::keepNewestOf(int row)
+{
+    const DuplicateFileGroup *group = groupOf(service_, rows_.row(row));
+    if (group && canChoose())
+        service_.keepNewest(group->id);
+}
+
+void DuplicateFinderView::keepOldestOf(int row)
+{
+    const DuplicateFileGroup *group = groupOf(service_, rows_.row(row));
+    if (group && canChoose())
+        service_.keepOldest(group->id);
+}
+
+void DuplicateFinderView::toggleKeep(int row)
+{
+    if (!isFile(row) || !canChoose())
+        return;
+    const GroupRows::Row found = *rows_.row(row);
+    service_.toggleKeep(found.group, static_cast<size_t>(found.member));
+}
+
+void DuplicateFinderView::keepOnly(int row)
+{
+    if (!isFile(row) || !canChoose())
+        return;
+    const GroupRows::Row found = *rows_.row(row);
+    service_.keepOnly(found.group, static_cast<size_t>(found.member));
+}
+
+QString DuplicateFinderView::toggleText(int row) const
+{
+    const DuplicateFileEntry *file = fileAt(row);
+    return file && file->keep ? QStringLiteral("Mark for Deletion") : QStringLiteral("Keep This One");
+}
+
+void DuplicateFinderView::open(int row)
+{
+    if (const DuplicateFileEntry *file = fileAt(row))
+        platform_.workspace.open(file->path);
+}
+
+void DuplicateFinderView::quickLook(int row)
+{
+    const DuplicateFileEntry *file = fileAt(row);
+    if (!file)
+        return;
+    const QString path = file->path; // the desktop may let the event loop turn
+    platform_.workspace.reveal(path);
+    platform_.workspace.quickLook(path);
+}
+
+void DuplicateFinderView::reveal(int row)
+{
+    if (const DuplicateFileEntry *file = fileAt(row))
+        fileSystem_.revealInFinder(file->path);
+}
+
+void DuplicateFinderView::copyPath(int row)
+{
+    if (const DuplicateFileEntry *file = fileAt(row))
+        platform_.workspace.copyText(file->path);
 }

@@ -2,21 +2,27 @@
 
 #include "activity/FDABanner.h"
 #include "base/RecordListModel.h"
+#include "base/Throttle.h"
+#include "common/Confirmation.h"
 #include "duplicates/DuplicateService.h"
+#include "duplicates/screen/DeleteNote.h"
+#include "duplicates/screen/DuplicateFigures.h"
 #include "duplicates/screen/DuplicateRows.h"
 #include "duplicates/screen/DuplicateScopeView.h"
 #include "duplicates/screen/DuplicateTexts.h"
+#include "duplicates/screen/SameFileMarks.h"
 
 #include <QObject>
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <vector>
 
-/// The Duplicate Finder's screen: the scope, the scan, the groups with a filter by file type, the choice of the copies that
+/// The Duplicate Finder's screen: the scope, the scan, the groups with a filter by file type, the choice of the files that
 /// go, and the confirmed delete run. The result and the choice live in the service; the filter lives here and is lost with
-/// the screen. Main thread.
-class DuplicateFinderView final : public QObject
+/// the screen. Made by std::make_shared, since a delete run keeps it. Main thread.
+class DuplicateFinderView final : public QObject, public std::enable_shared_from_this<DuplicateFinderView>
 {
     Q_OBJECT
     Q_PROPERTY(QString title READ title CONSTANT)
@@ -25,7 +31,7 @@ class DuplicateFinderView final : public QObject
     Q_PROPERTY(FDABanner *banner READ banner CONSTANT)
     Q_PROPERTY(DuplicateScopeView *scope READ scope CONSTANT)
     Q_PROPERTY(QAbstractItemModel *filterRows READ filterRows CONSTANT)
-    Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT)
+    Q_PROPERTY(GroupRows *rows READ rows CONSTANT)
     Q_PROPERTY(bool showSettings READ showSettings NOTIFY showSettingsChanged)
     Q_PROPERTY(QString settingsText READ settingsText NOTIFY showSettingsChanged)
     Q_PROPERTY(bool isScanning READ isScanning NOTIFY stateChanged)
@@ -48,8 +54,7 @@ class DuplicateFinderView final : public QObject
     Q_PROPERTY(QString toDeleteFigure READ toDeleteFigure NOTIFY figuresChanged)
     Q_PROPERTY(QString footText READ footText NOTIFY figuresChanged)
     Q_PROPERTY(QString deletingText READ deletingText NOTIFY deletingChanged)
-    Q_PROPERTY(bool showDeleteConfirm READ showDeleteConfirm NOTIFY showDeleteConfirmChanged)
-    Q_PROPERTY(QString confirmText READ confirmText NOTIFY showDeleteConfirmChanged)
+    Q_PROPERTY(Confirmation *confirmation READ confirmation CONSTANT)
 
 public:
     DuplicateFinderView(const Platform &platform, DuplicateService &service, FileSystemService &fileSystem,
@@ -68,7 +73,7 @@ public:
     /// The chips. Rows: label, countText (always empty), isSelected.
     QAbstractItemModel *filterRows() { return &filterRows_; }
     /// Rows: see DuplicateRows.
-    QAbstractItemModel *rows() { return &rows_; }
+    GroupRows *rows() { return &rows_; }
 
     const QString &filter() const { return filter_; }
     /// The groups that pass the filter, by index in the service's list. A group is judged by its first file alone.
@@ -79,8 +84,8 @@ public:
     bool isScanning() const { return service_.isScanning(); }
     bool isDeleting() const { return service_.isDeleting(); }
     bool canScan() const;
-    bool canChoose() const; ///< there are copies, and nothing is at work on them
-    bool canDelete() const; ///< a copy on view is set to go
+    bool canChoose() const; ///< there are files, and nothing is at work on them
+    bool canDelete() const; ///< a file on view is set to go
     bool canStop() const { return isScanning() && !service_.cancelRequested(); }
     QString stopText() const;
     QString scanText() const;
@@ -102,8 +107,10 @@ public:
     QString footText() const;
     QString deletingText() const; ///< how far the delete run is
 
-    bool showDeleteConfirm() const { return showDeleteConfirm_; }
-    QString confirmText() const;
+    /// The question before the run. Its text names the files on view that go; its note tells what else the run means, and
+    /// is completed when the disk has been asked.
+    Confirmation *confirmation() { return &confirmation_; }
+    bool showDeleteConfirm() const { return confirmation_.isUp(); }
     /// The bytes that the last delete run freed; none after a partial failure.
     std::optional<qint64> deleteResult() const { return deleteResult_; }
 
@@ -126,9 +133,8 @@ public:
     Q_INVOKABLE void quickLook(int row);
     Q_INVOKABLE void reveal(int row);
     Q_INVOKABLE void copyPath(int row);
+    /// Puts the question. The run that it leads to begins in a later turn of the main loop.
     Q_INVOKABLE void askToDelete();
-    Q_INVOKABLE void cancelDelete();
-    Q_INVOKABLE void confirmDelete(); ///< begins the run in a later turn of the main loop
 
 signals:
     void showSettingsChanged();
@@ -136,26 +142,14 @@ signals:
     void progressChanged();
     void figuresChanged();
     void deletingChanged();
-    void showDeleteConfirmChanged();
     void rowsWillChange(); ///< the list is about to show others, from its top
 
 private:
-    struct Figures
-    {
-        qint64 groups = 0;
-        qint64 files = 0;
-        qint64 wasted = 0; // bytes
-        qint64 filesToDelete = 0;
-        qint64 bytesToDelete = 0;
-    };
-
     void observeService();
-    std::vector<size_t> groupsPassingFilter() const;
     void showGroups();
     void takeFigures();
-    void announceProgress();
+    void addKeptOtherwise(DeleteNote note);
     void runDelete();
-    void setShowDeleteConfirm(bool isUp);
     const DuplicateFileEntry *fileAt(int row) const;
     QString amountText(const QString &pattern) const;
 
@@ -164,13 +158,15 @@ private:
     FileSystemService &fileSystem_;
     QString filter_;
     bool showSettings_ = true;
-    bool showDeleteConfirm_ = false;
     std::optional<qint64> deleteResult_;
     std::vector<size_t> filteredGroups_; // taken anew with the groups and with the filter, not at each click
-    Figures figures_;
-    bool isProgressDue_ = false;
+    DuplicateFigures figures_;
+    Throttle progressChanges_;
+    Confirmation confirmation_;
+    std::shared_ptr<int> question_; // the last one that was put; whoever answers looks whether it is still up
     FDABanner banner_;
     DuplicateScopeView scope_;
     RecordListModel<QString> filterRows_;
+    SameFileMarks sameFiles_;
     DuplicateRows rows_;
 };

@@ -30,15 +30,27 @@ FocusScope {
                 currentIndex = 0;
         }
 
-        function closeMenus() {
-            copyMenu.close();
-            groupMenu.close();
-        }
         function openMenu(index, item) {
-            if (holder.view.isFile(index))
-                copyMenu.openAt(index, item);
-            else if (index >= 0)
-                groupMenu.openAt(index, item);
+            const menu = holder.view.isFile(index) ? copyMenu : groupMenu;
+            menu.openFor(holder.view.rows, index, item);
+        }
+
+        // The current row and the place of the view, while the rows are made anew.
+        property int heldRow: -1
+        property real heldTop: 0
+        property real heldHeight: 0
+
+        function holdPlace() {
+            heldRow = currentIndex;
+            heldTop = contentY - originY;
+            heldHeight = contentHeight / Math.max(count, 1); // of each row
+        }
+        function takePlace() {
+            const topRow = Math.floor(heldTop / heldHeight);
+            currentIndex = holder.view.rows.rowNow(heldRow);
+            forceLayout();
+            contentY = originY + heldTop + (holder.view.rows.rowNow(topRow) - topRow) * heldHeight;
+            returnToBounds();
         }
 
         T.ScrollBar.vertical: ScrollHandle { }
@@ -65,14 +77,13 @@ FocusScope {
             list.contentY = 0;
         }
     }
-    // A menu is for the row that it was opened on; numbers of rows change when some go.
     Connections {
         target: holder.view.rows
-        function onRowsAboutToBeRemoved() {
-            list.closeMenus();
-        }
         function onModelAboutToBeReset() {
-            list.closeMenus();
+            list.holdPlace();
+        }
+        function onTakenAnew() {
+            list.takePlace();
         }
     }
     CopyMenu {

@@ -14,6 +14,10 @@ Item {
     required property string badge
     required property string badgeSymbol
     required property string tip
+    required property string sameMark
+    required property string sameTip
+    required property string lossMark
+    required property string lossTip
     required property bool isLast
     required property string spoken
     required property DuplicateFinderView view
@@ -42,6 +46,11 @@ Item {
         title: row.title
         detail: row.detail
         trailing: row.trailing
+        sameMark: row.sameMark
+        sameTip: row.sameTip
+        lossMark: row.lossMark
+        lossTip: row.lossTip
+        spoken: row.spoken
         isCurrent: row.isCurrent
         view: row.view
         onNewest: row.view.keepNewestOf(row.index)

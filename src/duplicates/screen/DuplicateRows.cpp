@@ -4,51 +4,12 @@
 #include "common/DateTexts.h"
 #include "common/Formatters.h"
 
+#include <QStringList>
+
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace {
-
-/// With more gaps than this it is quicker to take the list anew.
-constexpr size_t mostGaps = 100;
-
-/// In the place of the group of a row that is about to go.
-constexpr size_t nowhere = std::numeric_limits<size_t>::max();
-
-/// Rows that go: the first and the one behind the last.
-using Gap = std::pair<int, int>;
-
-/// Where rows are missing in `shorter`. Gives false when it is not simply the old list with rows missing.
-bool findGaps(const std::vector<DuplicateRows::Row> &longer, const std::vector<DuplicateRows::Row> &shorter,
-              std::vector<Gap> &gaps)
-{
-    size_t next = 0;
-    for (size_t old = 0; old < longer.size() && gaps.size() <= mostGaps; ++old) {
-        if (next < shorter.size() && shorter[next].id == longer[old].id) {
-            ++next;
-            continue;
-        }
-        const int row = static_cast<int>(old);
-        if (!gaps.empty() && gaps.back().second == row)
-            ++gaps.back().second;
-        else
-            gaps.emplace_back(row, row + 1);
-    }
-    return next == shorter.size() && gaps.size() <= mostGaps;
-}
-
-/// Lets the rows that stay stand for where their files are now, and those that are about to go for nothing.
-void pointToNewPlaces(std::vector<DuplicateRows::Row> &rows, const std::vector<DuplicateRows::Row> &left)
-{
-    size_t next = 0;
-    for (DuplicateRows::Row &row : rows) {
-        if (next < left.size() && left[next].id == row.id)
-            row = left[next++];
-        else
-            row.group = nowhere;
-    }
-}
 
 QString wastedText(const DuplicateFileGroup &group)
 {
@@ -66,129 +27,98 @@ QString headTitle(const DuplicateFileGroup &group)
     return group.files.empty() ? QStringLiteral("Unknown") : paths::inOneLine(group.files.front().name);
 }
 
+qint64 keptFiles(const DuplicateFileGroup &group)
+{
+    return std::count_if(group.files.begin(), group.files.end(),
+                         [](const DuplicateFileEntry &file) { return file.keep; });
+}
+
 QString badge(const DuplicateFileEntry &file)
 {
     return file.keep ? QStringLiteral("KEEP") : QStringLiteral("DELETE");
 }
 
+QString sameMark(samefile::Kind kind)
+{
+    switch (kind) {
+    case samefile::Kind::oneEntry:
+        return QStringLiteral("SAME FILE");
+    case samefile::Kind::hardLinks:
+        return QStringLiteral("HARD LINKS");
+    case samefile::Kind::none:
+        break;
+    }
+    return {};
+}
+
+QString sameTip(samefile::Kind kind)
+{
+    switch (kind) {
+    case samefile::Kind::oneEntry:
+        return QStringLiteral(
+            "Two of these paths lead to one and the same file: if one goes, both are gone.");
+    case samefile::Kind::hardLinks:
+        return QStringLiteral(
+            "Some of these are hard links, names of one file: if one goes, nothing is lost and "
+            "nothing is freed.");
+    case samefile::Kind::none:
+        break;
+    }
+    return {};
+}
+
+QString lossMark(const DuplicateFileGroup &group)
+{
+    return group.keepsNothing() ? QStringLiteral("NOTHING KEPT") : QString();
+}
+
+QString spokenHead(const DuplicateFileGroup &group, samefile::Kind kind)
+{
+    QStringList parts{summary(group), sameMark(kind), sameTip(kind), lossMark(group)};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
 } // namespace
 
-DuplicateRows::DuplicateRows(const std::vector<DuplicateFileGroup> &groups, QString home, QObject *parent)
-    : QAbstractListModel(parent)
+DuplicateRows::DuplicateRows(const std::vector<DuplicateFileGroup> &groups, QString home, KindOf kindOf,
+                             QObject *parent)
+    : GroupRows(parent)
     , groups_(groups)
     , home_(std::move(home))
+    , kindOf_(std::move(kindOf))
 {
-}
-
-std::vector<DuplicateRows::Row> DuplicateRows::rowsOf(const std::vector<size_t> &shown) const
-{
-    std::vector<Row> rows;
-    for (const size_t group : shown) {
-        const DuplicateFileGroup &files = groups_[group];
-        rows.push_back({group, -1, files.id});
-        for (size_t file = 0; file < files.files.size(); ++file)
-            rows.push_back({group, static_cast<int>(file), files.files[file].id});
-    }
-    return rows;
-}
-
-void DuplicateRows::show(const std::vector<size_t> &shown)
-{
-    beginResetModel();
-    rows_ = rowsOf(shown);
-    endResetModel();
-}
-
-void DuplicateRows::shrink(const std::vector<size_t> &shown)
-{
-    std::vector<Row> rows = rowsOf(shown);
-    std::vector<Gap> gaps;
-    if (!findGaps(rows_, rows, gaps))
-        return show(shown);
-    pointToNewPlaces(rows_, rows);
-    // From the end, so that the numbers of the gaps that are still to come hold.
-    std::reverse(gaps.begin(), gaps.end());
-    for (const auto &[first, end] : gaps) {
-        beginRemoveRows({}, first, end - 1);
-        rows_.erase(rows_.begin() + first, rows_.begin() + end);
-        endRemoveRows();
-    }
-    refreshAll(); // the heads count what is left
-}
-
-/// The row of the group's head; the number of rows when the group is not shown.
-int DuplicateRows::headOf(size_t group) const
-{
-    const auto head = std::lower_bound(rows_.begin(), rows_.end(), group,
-                                       [](const Row &row, size_t wanted) { return row.group < wanted; });
-    return head != rows_.end() && head->group == group ? static_cast<int>(head - rows_.begin()) : rowCount();
 }
 
 void DuplicateRows::refreshFile(size_t group, size_t file)
 {
-    const int row = headOf(group) + 1 + static_cast<int>(file);
-    if (row < rowCount())
-        emit dataChanged(index(row), index(row));
+    refreshMember(group, file);
+    if (keptFiles(groups_[group]) <= 1) // the flag of this one may have decided whether any is kept
+        refreshHead(group);
 }
 
-void DuplicateRows::refreshGroup(size_t group)
+QVariant DuplicateRows::headData(size_t index, int role) const
 {
-    const int head = headOf(group);
-    if (head < rowCount())
-        emit dataChanged(index(head), index(head + static_cast<int>(groups_[group].files.size())));
-}
-
-void DuplicateRows::refreshAll()
-{
-    if (!rows_.empty())
-        emit dataChanged(index(0), index(rowCount() - 1));
-}
-
-const DuplicateRows::Row *DuplicateRows::row(int number) const
-{
-    if (number < 0 || number >= rowCount() || !isThere(rows_[static_cast<size_t>(number)]))
-        return nullptr;
-    return &rows_[static_cast<size_t>(number)];
-}
-
-int DuplicateRows::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-QVariant DuplicateRows::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Row &row = rows_[static_cast<size_t>(index.row())];
-    if (!isThere(row))
-        return {};
-    if (role == isHeadRole)
-        return row.isHead();
-    if (role == isLastRole)
-        return row.file + 1 == static_cast<int>(groups_[row.group].files.size());
-    return row.isHead() ? headData(groups_[row.group], role) : fileData(row, role);
-}
-
-/// False for a row that is about to go, be it in the middle of a change of the groups.
-bool DuplicateRows::isThere(const Row &row) const
-{
-    return row.group < groups_.size()
-           && (row.isHead() || static_cast<size_t>(row.file) < groups_[row.group].files.size());
-}
-
-QVariant DuplicateRows::headData(const DuplicateFileGroup &group, int role) const
-{
+    const DuplicateFileGroup &group = groups_[index];
     switch (role) {
     case titleRole:
         return headTitle(group);
     case detailRole:
-    case spokenRole:
         return summary(group);
+    case spokenRole:
+        return spokenHead(group, kindOf_(group.id));
     case trailingRole:
         return QStringLiteral("%1 recoverable").arg(wastedText(group));
     case keepRole:
         return true;
+    case sameMarkRole:
+        return sameMark(kindOf_(group.id));
+    case sameTipRole:
+        return sameTip(kindOf_(group.id));
+    case lossMarkRole:
+        return lossMark(group);
+    case lossTipRole:
+        return group.keepsNothing() ? QStringLiteral("No copy of this group stays.") : QString();
     case badgeRole:
     case badgeSymbolRole:
     case tipRole:
@@ -198,9 +128,9 @@ QVariant DuplicateRows::headData(const DuplicateFileGroup &group, int role) cons
     }
 }
 
-QVariant DuplicateRows::fileData(const Row &row, int role) const
+QVariant DuplicateRows::memberData(size_t group, size_t index, int role) const
 {
-    const DuplicateFileEntry &file = groups_[row.group].files[static_cast<size_t>(row.file)];
+    const DuplicateFileEntry &file = groups_[group].files[index];
     switch (role) {
     case titleRole:
         return paths::inOneLine(file.name);
@@ -220,6 +150,11 @@ QVariant DuplicateRows::fileData(const Row &row, int role) const
     case spokenRole:
         return badge(file) + QStringLiteral(", ") + paths::inOneLine(paths::withTilde(file.path, home_))
                + QStringLiteral(", ") + datetexts::mediumDay(file.modified);
+    case sameMarkRole:
+    case sameTipRole:
+    case lossMarkRole:
+    case lossTipRole:
+        return QString();
     default:
         return {};
     }
@@ -227,10 +162,20 @@ QVariant DuplicateRows::fileData(const Row &row, int role) const
 
 QHash<int, QByteArray> DuplicateRows::roleNames() const
 {
-    return {
-        {isHeadRole, "isHead"},           {titleRole, "title"}, {detailRole, "detail"},
-        {trailingRole, "trailing"},       {keepRole, "isKept"}, {badgeRole, "badge"},
-        {badgeSymbolRole, "badgeSymbol"}, {tipRole, "tip"},     {isLastRole, "isLast"},
+    QHash<int, QByteArray> names = GroupRows::roleNames();
+    names.insert({
+        {titleRole, "title"},
+        {detailRole, "detail"},
+        {trailingRole, "trailing"},
+        {keepRole, "isKept"},
+        {badgeRole, "badge"},
+        {badgeSymbolRole, "badgeSymbol"},
+        {tipRole, "tip"},
+        {sameMarkRole, "sameMark"},
+        {sameTipRole, "sameTip"},
+        {lossMarkRole, "lossMark"},
+        {lossTipRole, "lossTip"},
         {spokenRole, "spoken"},
-    };
+    });
+    return names;
 }

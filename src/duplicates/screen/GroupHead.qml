@@ -8,6 +8,11 @@ Item {
     required property string title
     required property string detail
     required property string trailing
+    required property string sameMark
+    required property string sameTip
+    required property string lossMark
+    required property string lossTip
+    required property string spoken
     required property bool isCurrent
     required property DuplicateFinderView view
 
@@ -17,7 +22,7 @@ Item {
 
     Accessible.role: Accessible.Heading
     Accessible.name: title
-    Accessible.description: detail
+    Accessible.description: spoken
 
     Rectangle {
         anchors.fill: parent
@@ -36,11 +41,33 @@ Item {
         anchors.right: buttons.left
         anchors.rightMargin: Theme.unit * 3
         anchors.verticalCenter: parent.verticalCenter
-        BodyText {
+        Item {
             width: parent.width
-            text: head.title
-            font.weight: Font.DemiBold
-            elide: Text.ElideMiddle
+            height: title.height
+            BodyText {
+                id: title
+                width: Math.min(implicitWidth, parent.width - (marks.width > 0 ? marks.width + marks.anchors.leftMargin : 0))
+                text: head.title
+                font.weight: Font.DemiBold
+                elide: Text.ElideMiddle
+            }
+            Row {
+                id: marks
+                anchors.left: title.right
+                anchors.leftMargin: Theme.unit * 2
+                anchors.verticalCenter: title.verticalCenter
+                spacing: Theme.unit
+                DuplicateMark {
+                    text: head.sameMark
+                    tip: head.sameTip
+                    tint: Theme.amber
+                }
+                DuplicateMark {
+                    text: head.lossMark
+                    tip: head.lossTip
+                    tint: Theme.red
+                }
+            }
         }
         BodyText {
             width: parent.width

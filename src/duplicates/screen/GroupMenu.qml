@@ -2,17 +2,10 @@ import QtQuick
 import Quillmere
 
 // The context menu of a group's head: what its buttons do, for the keyboard.
-PopupMenu {
+RowMenu {
     id: menu
 
     required property DuplicateFinderView view
-    property int row: -1
-
-    // For the row with that number, near `item` where a key has asked for it.
-    function openAt(index, item) {
-        row = index;
-        openNear(item);
-    }
 
     MenuLine {
         text: menu.view.texts.newest

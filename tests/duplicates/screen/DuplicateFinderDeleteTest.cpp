@@ -35,12 +35,13 @@ struct DuplicateFinderDelete : public DuplicateFinderHome
 
 TEST_F(DuplicateFinderDelete, isAskedForFirst)
 {
-    const QSignalSpy changes(view.get(), &DuplicateFinderView::showDeleteConfirmChanged);
+    const QSignalSpy changes(view->confirmation(), &Confirmation::changed);
     EXPECT_TRUE(view->canDelete());
     view->askToDelete();
     EXPECT_TRUE(view->showDeleteConfirm());
-    EXPECT_EQ(view->confirmText(), u"Move 5 files (5.6 KB) to Trash? This can be undone from the Trash."_s);
-    view->cancelDelete();
+    EXPECT_EQ(view->confirmation()->text(),
+              u"Move 5 files (5.6 KB) to Trash? This can be undone from the Trash."_s);
+    view->confirmation()->cancel();
     EXPECT_FALSE(view->showDeleteConfirm());
     EXPECT_EQ(changes.count(), 2);
     test.settle();
@@ -54,7 +55,7 @@ TEST_F(DuplicateFinderDelete, isNotOfferedWithNothingSetToGo)
     EXPECT_FALSE(view->canDelete());
     view->askToDelete();
     EXPECT_FALSE(view->showDeleteConfirm());
-    view->confirmDelete();
+    view->confirmation()->confirm();
     test.settle();
     EXPECT_EQ(view->deleteResult(), std::nullopt);
     EXPECT_EQ(services.madeHistory, nullptr); // nothing was recorded
@@ -63,7 +64,7 @@ TEST_F(DuplicateFinderDelete, isNotOfferedWithNothingSetToGo)
 TEST_F(DuplicateFinderDelete, beginsInALaterTurnOfTheMainLoop)
 {
     view->askToDelete();
-    view->confirmDelete();
+    view->confirmation()->confirm();
     EXPECT_FALSE(view->showDeleteConfirm());
     EXPECT_FALSE(view->isDeleting());
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
@@ -117,8 +118,9 @@ TEST_F(DuplicateFinderDelete, namesTheFilesOnViewAndTakesThoseThatTheFilterHides
 {
     choose(u"images"_s);
     view->askToDelete();
-    EXPECT_EQ(view->confirmText(), u"Move 1 files (2.9 KB) to Trash? This can be undone from the Trash."_s);
-    view->confirmDelete();
+    EXPECT_EQ(view->confirmation()->text(),
+              u"Move 1 files (2.9 KB) to Trash? This can be undone from the Trash."_s);
+    view->confirmation()->confirm();
     test.settle();
     EXPECT_EQ(test.recycler.recycled.size(), 5);
     EXPECT_EQ(view->deleteResult(), 5700);
@@ -228,7 +230,7 @@ TEST_F(DuplicateFinderDelete, isNoLongerAskedAboutOnceAScanHasReplacedTheGroups)
     test.notifications.post(notifications::rescan);
     test.settle();
     EXPECT_FALSE(view->showDeleteConfirm());
-    view->confirmDelete();
+    view->confirmation()->confirm();
     test.settle();
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
 }
@@ -236,8 +238,8 @@ TEST_F(DuplicateFinderDelete, isNoLongerAskedAboutOnceAScanHasReplacedTheGroups)
 TEST_F(DuplicateFinderDelete, isStartedOnceByTwoClicksOnTheDialog)
 {
     view->askToDelete();
-    view->confirmDelete();
-    view->confirmDelete();
+    view->confirmation()->confirm();
+    view->confirmation()->confirm();
     test.settle();
     ASSERT_NE(services.madeHistory, nullptr);
     EXPECT_EQ(services.madeHistory->entries().size(), 1U);
@@ -246,7 +248,7 @@ TEST_F(DuplicateFinderDelete, isStartedOnceByTwoClicksOnTheDialog)
 TEST_F(DuplicateFinderDelete, isNotStartedASecondTimeFromWithin)
 {
     duringTheRun([this] {
-        view->confirmDelete();
+        view->confirmation()->confirm();
         test.mainQueue.run();
     });
     deleteMarked();
@@ -263,6 +265,20 @@ TEST_F(DuplicateFinderDelete, goesOnWhenAFilterIsChosenMeanwhile)
     EXPECT_EQ(view->deleteResult(), 4700);
     EXPECT_EQ(titles(), u"report.pdf report.pdf report.pdf"_s);
     EXPECT_EQ(view->groupsFigure(), u"1"_s);
+}
+
+TEST_F(DuplicateFinderDelete, keepsItsScreenModelUntilItEnds)
+{
+    const std::weak_ptr<DuplicateFinderView> held = view;
+    QString during;
+    duringTheRun([&] {
+        close();
+        ASSERT_FALSE(held.expired());
+        during = held.lock()->deletingText();
+    });
+    deleteMarked();
+    EXPECT_EQ(during, u"Moving files to the Trash: 4 of 5"_s);
+    EXPECT_TRUE(held.expired());
 }
 
 TEST_F(DuplicateFinderDelete, goesOnWhenItsScreenIsGoneMeanwhile)
@@ -309,7 +325,7 @@ TEST_F(DuplicateFinderDelete, isSeenByAScreenThatIsMadeMeanwhile)
 TEST_F(DuplicateFinderDelete, doesNotBeginOnceItsScreenIsGone)
 {
     view->askToDelete();
-    view->confirmDelete();
+    view->confirmation()->confirm();
     close();
     test.settle();
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
@@ -319,7 +335,7 @@ TEST_F(DuplicateFinderDelete, doesNotBeginWhenAScanWasQuicker)
 {
     view->askToDelete();
     test.notifications.post(notifications::rescan);
-    view->confirmDelete();
+    view->confirmation()->confirm();
     test.settle();
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
     EXPECT_EQ(services.shown(), asScanned);

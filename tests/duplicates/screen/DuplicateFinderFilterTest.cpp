@@ -145,7 +145,9 @@ TEST_F(DuplicateFinderFilter, countsOnlyWhatItLetsThrough)
     EXPECT_EQ(figures(), u"1 groups, 2 files, 2.9 KB wasted"_s);
     EXPECT_EQ(view->toDeleteFigure(), u"1 files (2.9 KB)"_s);
     EXPECT_EQ(view->footText(), u"1 files marked for deletion (2.9 KB)"_s);
-    EXPECT_EQ(view->confirmText(), u"Move 1 files (2.9 KB) to Trash? This can be undone from the Trash."_s);
+    view->askToDelete();
+    EXPECT_EQ(view->confirmation()->text(),
+              u"Move 1 files (2.9 KB) to Trash? This can be undone from the Trash."_s);
     choose(u"documents"_s);
     EXPECT_EQ(figures(), u"1 groups, 3 files, 2.0 KB wasted"_s);
     EXPECT_EQ(view->toDeleteFigure(), u"2 files (2.0 KB)"_s);
@@ -198,7 +200,7 @@ TEST_F(DuplicateFinderFilter, offersNoRunForFilesThatItHides)
     EXPECT_FALSE(view->canDelete());
     view->askToDelete();
     EXPECT_FALSE(view->showDeleteConfirm());
-    view->confirmDelete();
+    view->confirmation()->confirm();
     test.mainQueue.run();
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
 }

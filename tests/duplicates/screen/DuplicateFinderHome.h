@@ -25,7 +25,7 @@ struct DuplicateFinderHome : public testing::Test
     DuplicateServices services;
     TestPlatform &test = services.test;
     DuplicateService &duplicates = services.duplicates;
-    std::unique_ptr<DuplicateFinderView> view;
+    std::shared_ptr<DuplicateFinderView> view;
     std::unique_ptr<QAbstractItemModelTester> tester; ///< of the view's rows
 
     static constexpr int photoHead = 0;
@@ -71,7 +71,7 @@ struct DuplicateFinderHome : public testing::Test
     void open()
     {
         close();
-        view = std::make_unique<DuplicateFinderView>(test.platform, duplicates, services.fileSystem,
+        view = std::make_shared<DuplicateFinderView>(test.platform, duplicates, services.fileSystem,
                                                      test.access);
         tester = std::make_unique<QAbstractItemModelTester>(
             view->rows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
@@ -98,7 +98,7 @@ struct DuplicateFinderHome : public testing::Test
     void deleteMarked() const
     {
         view->askToDelete();
-        view->confirmDelete();
+        view->confirmation()->confirm();
         test.mainQueue.run();
     }
 

@@ -145,7 +145,7 @@ TEST_F(DuplicateFinderScan, doesNotStartWhileADeleteRunIsOnItsWay)
     });
     deleteMarked();
     EXPECT_EQ(test.recycler.recycled.size(), 5);
-    EXPECT_EQ(test.workQueue.waiting(), 0U);
+    EXPECT_FALSE(view->isScanning());
     EXPECT_TRUE(view->canScan());
 }
 

@@ -16,38 +16,6 @@ using DuplicateRowsTest = ShownGroups;
 using Range = std::pair<int, int>;
 } // namespace
 
-TEST_F(DuplicateRowsTest, areNoneUntilThereIsSomethingToShow)
-{
-    groups = {group(10, {u"/a"_s, u"/b"_s})};
-    EXPECT_EQ(rows.rowCount(), 0);
-    rows.show({0});
-    EXPECT_EQ(rows.rowCount(), 3);
-    rows.show({});
-    EXPECT_EQ(rows.rowCount(), 0);
-}
-
-TEST_F(DuplicateRowsTest, areAHeadForEachGroupAndThenItsFiles)
-{
-    showFour();
-    EXPECT_EQ(texts("title"), u"a0 a0 a1 a2 b0 b0 b1 c0 c0 c1 c2 d0 d0 d1"_s);
-    EXPECT_EQ(texts("isHead"),
-              u"true false false false true false false true false false false true false false"_s);
-    EXPECT_EQ(texts("isLast"),
-              u"false false false true false false true false false false true false false true"_s);
-}
-
-TEST_F(DuplicateRowsTest, areThoseOfTheGroupsThatAreShown)
-{
-    showFour();
-    rows.show({1, 3});
-    EXPECT_EQ(texts("title"), u"b0 b0 b1 d0 d0 d1"_s);
-    EXPECT_EQ(rows.row(4)->group, 3U);
-    EXPECT_EQ(rows.row(4)->file, 0);
-    EXPECT_EQ(rows.row(4)->id, groups[3].files[0].id);
-    EXPECT_TRUE(rows.row(3)->isHead());
-    EXPECT_EQ(rows.row(3)->id, groups[3].id);
-}
-
 TEST_F(DuplicateRowsTest, headTellsCopiesSizeAndWaste)
 {
     show({group(1000, {u"/home/ada/report.pdf"_s, u"/b/other.pdf"_s, u"/c/third.pdf"_s})});
@@ -117,70 +85,59 @@ TEST_F(DuplicateRowsTest, showNamesThatAreNoTextWithReplacementCharacters)
     EXPECT_EQ(text(1, "spoken"), u"KEEP, ~/d\uFFFD/a\uFFFD.txt, Mar 1, 2026"_s);
 }
 
-TEST_F(DuplicateRowsTest, giveNothingForOtherRolesAndPlaces)
+TEST_F(DuplicateRowsTest, headTellsWhereItsFilesAreOne)
 {
-    showFour();
-    EXPECT_FALSE(rows.data(rows.index(1), Qt::DisplayRole).isValid());
-    EXPECT_FALSE(rows.data(rows.index(1), DuplicateRows::spokenRole + 1).isValid());
-    EXPECT_FALSE(rows.data(QModelIndex(), DuplicateRows::titleRole).isValid());
-    EXPECT_EQ(rows.rowCount(rows.index(0)), 0); // a list, no tree
-    for (const int number : {-1, 14, 1000})
-        EXPECT_EQ(rows.row(number), nullptr) << number;
+    show({group(1000, {u"/a/x"_s, u"/b/x"_s})});
+    EXPECT_EQ(text(0, "sameMark") + text(0, "sameTip"), QString());
+    kinds.insert(groups[0].id, samefile::Kind::oneEntry);
+    EXPECT_EQ(text(0, "sameMark"), u"SAME FILE"_s);
+    EXPECT_EQ(text(0, "sameTip"),
+              u"Two of these paths lead to one and the same file: if one goes, both are gone."_s);
+    EXPECT_EQ(
+        text(0, "spoken"),
+        u"2 copies · 1000 B each · 1000 B wasted, SAME FILE, Two of these paths lead to one and the same file: if one goes, both are gone."_s);
+    kinds.insert(groups[0].id, samefile::Kind::hardLinks);
+    EXPECT_EQ(text(0, "sameMark"), u"HARD LINKS"_s);
+    EXPECT_EQ(
+        text(0, "sameTip"),
+        u"Some of these are hard links, names of one file: if one goes, nothing is lost and nothing is freed."_s);
+    EXPECT_EQ(text(1, "sameMark") + text(1, "sameTip"), QString());
 }
 
-TEST_F(DuplicateRowsTest, tellOfExactlyTheRowOfAFileThatHasChanged)
+TEST_F(DuplicateRowsTest, headTellsThatNothingIsKept)
 {
-    showFour();
-    QSignalSpy changes(&rows, &QAbstractItemModel::dataChanged);
-    rows.refreshFile(2, 1);
-    ASSERT_EQ(changes.count(), 1);
-    EXPECT_EQ(range(changes[0]), Range(9, 9));
-    rows.refreshFile(0, 0);
-    EXPECT_EQ(range(changes[1]), Range(1, 1));
-    rows.refreshFile(3, 1);
-    EXPECT_EQ(range(changes[2]), Range(13, 13));
+    show({group(1000, {u"/a"_s, u"/b"_s})});
+    groups[0].files[0].keep = false;
+    EXPECT_EQ(text(0, "lossMark") + text(0, "lossTip"), QString());
+    groups[0].files[1].keep = false;
+    EXPECT_EQ(text(0, "lossMark"), u"NOTHING KEPT"_s);
+    EXPECT_EQ(text(0, "lossTip"), u"No copy of this group stays."_s);
+    EXPECT_EQ(text(0, "spoken"), u"2 copies · 1000 B each · 1000 B wasted, NOTHING KEPT"_s);
+    EXPECT_EQ(text(1, "lossMark") + text(1, "lossTip"), QString());
 }
 
-TEST_F(DuplicateRowsTest, tellOfTheRowsOfAGroupThatHasChanged)
+TEST_F(DuplicateRowsTest, tellOfTheHeadOnlyWhereItSaysSomethingElse)
 {
-    showFour();
+    show({group(10, {u"/a"_s, u"/b"_s, u"/c"_s})});
     QSignalSpy changes(&rows, &QAbstractItemModel::dataChanged);
-    rows.refreshGroup(1);
+    const auto toggle = [this](size_t file) {
+        groups[0].files[file].keep = !groups[0].files[file].keep;
+        rows.refreshFile(0, file);
+    };
+    toggle(0); // two stay
     ASSERT_EQ(changes.count(), 1);
-    EXPECT_EQ(range(changes[0]), Range(4, 6));
-    rows.refreshGroup(3);
-    EXPECT_EQ(range(changes[1]), Range(11, 13));
-    rows.refreshAll();
-    EXPECT_EQ(range(changes[2]), Range(0, 13));
-}
-
-TEST_F(DuplicateRowsTest, findTheRowsOfAGroupUnderAFilter)
-{
-    showFour();
-    rows.show({1, 3});
-    QSignalSpy changes(&rows, &QAbstractItemModel::dataChanged);
-    rows.refreshFile(3, 0);
-    ASSERT_EQ(changes.count(), 1);
-    EXPECT_EQ(range(changes[0]), Range(4, 4));
-    rows.refreshGroup(1);
+    EXPECT_EQ(range(changes[0]), Range(1, 1));
+    toggle(1);
+    toggle(2); // nothing is kept by now
+    EXPECT_EQ(range(changes.last()), Range(0, 0));
+    changes.clear();
+    toggle(1); // it is again
     ASSERT_EQ(changes.count(), 2);
-    EXPECT_EQ(range(changes[1]), Range(0, 2));
-}
-
-TEST_F(DuplicateRowsTest, tellNothingOfGroupsThatAreNotShown)
-{
-    showFour();
-    rows.show({1, 2});
-    const QSignalSpy changes(&rows, &QAbstractItemModel::dataChanged);
-    for (const size_t hidden : {0U, 3U}) {
-        rows.refreshFile(hidden, 0);
-        rows.refreshGroup(hidden);
-    }
-    rows.show({});
-    rows.refreshFile(0, 0);
-    rows.refreshGroup(0);
-    rows.refreshAll();
-    EXPECT_EQ(changes.count(), 0);
+    EXPECT_EQ(range(changes[0]), Range(2, 2));
+    EXPECT_EQ(range(changes[1]), Range(0, 0));
+    changes.clear();
+    toggle(0);
+    EXPECT_EQ(changes.count(), 1);
 }
 
 TEST_F(DuplicateRowsTest, areManyWithoutAWordOfThemBeingWritten)
@@ -189,15 +146,15 @@ TEST_F(DuplicateRowsTest, areManyWithoutAWordOfThemBeingWritten)
     // written. The list has no tester here: that would ask for texts.
     constexpr qint64 most = std::numeric_limits<qint64>::max();
     const std::vector<DuplicateFileGroup> unspeakable(50000, group(most, {u"/a"_s, u"/b"_s, u"/c"_s}));
-    DuplicateRows list(unspeakable, u"/home/ada"_s);
+    DuplicateRows list(unspeakable, u"/home/ada"_s, [](const QUuid &) { return samefile::Kind::none; });
     std::vector<size_t> shown(unspeakable.size());
     for (size_t index = 0; index < shown.size(); ++index)
         shown[index] = index;
     list.show(shown);
     EXPECT_EQ(list.rowCount(), 200000);
     EXPECT_EQ(list.row(199999)->group, 49999U);
-    EXPECT_EQ(list.row(199999)->file, 2);
-    list.refreshFile(49999, 2);
+    EXPECT_EQ(list.row(199999)->member, 2);
+    list.refreshMember(49999, 2);
     list.refreshGroup(25000);
     list.refreshAll();
     list.shrink(shown);

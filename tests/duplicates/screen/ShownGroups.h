@@ -17,7 +17,9 @@ struct ShownGroups : public testing::Test
 {
     const LocaleGuard reader;
     std::vector<DuplicateFileGroup> groups;
-    DuplicateRows rows{groups, QStringLiteral("/home/ada")};
+    QHash<QUuid, samefile::Kind> kinds; ///< what is known of groups
+    DuplicateRows rows{groups, QStringLiteral("/home/ada"),
+                       [this](const QUuid &group) { return kinds.value(group, samefile::Kind::none); }};
     const QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
 
     /// Equal files of that size, of March 1, 2026, 9:30 UTC.
@@ -45,35 +47,6 @@ struct ShownGroups : public testing::Test
         for (size_t index = 0; index < indices.size(); ++index)
             indices[index] = index;
         return indices;
-    }
-
-    /// Four groups: of "a0" to "a2", "b0" and "b1", "c0" to "c2", "d0" and "d1".
-    void showFour()
-    {
-        show({group(10, {QStringLiteral("/a0"), QStringLiteral("/a1"), QStringLiteral("/a2")}),
-              group(10, {QStringLiteral("/b0"), QStringLiteral("/b1")}),
-              group(10, {QStringLiteral("/c0"), QStringLiteral("/c1"), QStringLiteral("/c2")}),
-              group(10, {QStringLiteral("/d0"), QStringLiteral("/d1")})});
-    }
-
-    /// `count` groups of three files.
-    void showTriples(int count)
-    {
-        std::vector<DuplicateFileGroup> triples;
-        for (int i = 0; i < count; ++i)
-            triples.push_back(group(10, {QStringLiteral("/%1/x").arg(i), QStringLiteral("/%1/y").arg(i),
-                                         QStringLiteral("/%1/z").arg(i)}));
-        show(std::move(triples));
-    }
-
-    void takeAway(size_t fromGroup, size_t file)
-    {
-        std::vector<DuplicateFileEntry> &files = groups[fromGroup].files;
-        files.erase(files.begin() + static_cast<std::ptrdiff_t>(file));
-    }
-    void takeAway(size_t wholeGroup)
-    {
-        groups.erase(groups.begin() + static_cast<std::ptrdiff_t>(wholeGroup));
     }
 
     QString text(int row, const QByteArray &role) const { return rowValue(&rows, row, role).toString(); }
