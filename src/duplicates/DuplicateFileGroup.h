@@ -25,7 +25,7 @@ struct DuplicateFileGroup
         });
     }
 
-    /// The bytes beyond one copy. A product that does not fit into 64 bits is a programming fault and ends the
+    /// The bytes beyond one file. A product that does not fit into 64 bits is a programming fault and ends the
     /// process.
     qint64 wastedBytes() const
     {

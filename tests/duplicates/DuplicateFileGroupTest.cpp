@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(DuplicateFileGroup, wastesTheBytesBeyondOneCopy)
+TEST(DuplicateFileGroup, wastesTheBytesBeyondOneFile)
 {
     DuplicateFileGroup group;
     group.size = qint64(1) << 40;

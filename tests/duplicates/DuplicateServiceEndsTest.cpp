@@ -5,13 +5,13 @@
 namespace {
 
 /// The ends of a scan that was cancelled or could not open files.
-class DuplicateServiceEnds : public DuplicateServiceRun
+class DuplicateServiceEndsTest : public DuplicateServiceRun
 {
 };
 
 } // namespace
 
-TEST_F(DuplicateServiceEnds, cancelInTheWalkEndsWithNothing)
+TEST_F(DuplicateServiceEndsTest, cancelInTheWalkEndsWithNothing)
 {
     for (const char *name : {"one/x", "one/deep/x", "two/x"})
         services.file(name);
@@ -26,7 +26,7 @@ TEST_F(DuplicateServiceEnds, cancelInTheWalkEndsWithNothing)
     EXPECT_TRUE(duplicates.cancelRequested());
 }
 
-TEST_F(DuplicateServiceEnds, cancelBeforeItsJobRunsVisitsNothing)
+TEST_F(DuplicateServiceEndsTest, cancelBeforeItsJobRunsVisitsNothing)
 {
     services.file("one/x");
     services.file("two/x");
@@ -37,7 +37,7 @@ TEST_F(DuplicateServiceEnds, cancelBeforeItsJobRunsVisitsNothing)
     EXPECT_EQ(stepped(), QStringList{"rests 0 '' groups 0 failures 0"});
 }
 
-TEST_F(DuplicateServiceEnds, cancelWithoutScanPathsEndsAsOneInTheWalk)
+TEST_F(DuplicateServiceEndsTest, cancelWithoutScanPathsEndsAsOneInTheWalk)
 {
     services.useScanPaths({});
     duplicates.scan();
@@ -46,7 +46,7 @@ TEST_F(DuplicateServiceEnds, cancelWithoutScanPathsEndsAsOneInTheWalk)
     EXPECT_EQ(fields(), "rests 0 '' groups 0 failures 0");
 }
 
-TEST_F(DuplicateServiceEnds, cancelInTheHashPassLeavesWhatItFoundSorted)
+TEST_F(DuplicateServiceEndsTest, cancelInTheHashPassLeavesWhatItFoundSorted)
 {
     // The bucket of the larger files holds fewer of them, so that it comes second by what is wasted.
     for (const char *folder : {"one", "two"})
@@ -72,7 +72,7 @@ TEST_F(DuplicateServiceEnds, cancelInTheHashPassLeavesWhatItFoundSorted)
     EXPECT_EQ(services.shown(), QStringList({"9: one/nine two/nine- three/nine-", "10: one/ten two/ten-"}));
 }
 
-TEST_F(DuplicateServiceEnds, cancelInABucketKeepsTheGroupsOfWhatWasHashedOfIt)
+TEST_F(DuplicateServiceEndsTest, cancelInABucketKeepsTheGroupsOfWhatWasHashedOfIt)
 {
     for (const char *folder : {"one", "two", "three"})
         services.file(QStringLiteral("%1/x").arg(folder));
@@ -83,7 +83,7 @@ TEST_F(DuplicateServiceEnds, cancelInABucketKeepsTheGroupsOfWhatWasHashedOfIt)
     EXPECT_EQ(services.shown(), QStringList{"5: one/x two/x-"});
 }
 
-TEST_F(DuplicateServiceEnds, cancelAtTheLastFileIsOneAllTheSame)
+TEST_F(DuplicateServiceEndsTest, cancelAtTheLastFileIsOneAllTheSame)
 {
     services.file("one/x");
     services.file("two/x");
@@ -93,7 +93,7 @@ TEST_F(DuplicateServiceEnds, cancelAtTheLastFileIsOneAllTheSame)
     EXPECT_EQ(fields(), "rests 0 'Cancelled' groups 1 failures 0");
 }
 
-TEST_F(DuplicateServiceEnds, cancelAfterItsJobHasEndedComesTooLate)
+TEST_F(DuplicateServiceEndsTest, cancelAfterItsJobHasEndedComesTooLate)
 {
     services.file("one/x");
     services.file("two/x");
@@ -103,7 +103,7 @@ TEST_F(DuplicateServiceEnds, cancelAfterItsJobHasEndedComesTooLate)
     EXPECT_EQ(fields(), "rests 1 '' groups 1 failures 0");
 }
 
-TEST_F(DuplicateServiceEnds, cancelInTheHashPassCountsTheFilesThatItCouldNotOpen)
+TEST_F(DuplicateServiceEndsTest, cancelInTheHashPassCountsTheFilesThatItCouldNotOpen)
 {
     for (const char *folder : {"one", "two", "three"})
         services.file(QStringLiteral("%1/x").arg(folder));
@@ -119,7 +119,7 @@ TEST_F(DuplicateServiceEnds, cancelInTheHashPassCountsTheFilesThatItCouldNotOpen
     EXPECT_EQ(fields(), "rests 0 'Cancelled' groups 0 failures 1");
 }
 
-TEST_F(DuplicateServiceEnds, countsTheFilesThatItCouldNotOpen)
+TEST_F(DuplicateServiceEndsTest, countsTheFilesThatItCouldNotOpen)
 {
     for (const char *name : {"one/x", "two/x", "three/x", "four/x"})
         services.file(name);
@@ -136,7 +136,7 @@ TEST_F(DuplicateServiceEnds, countsTheFilesThatItCouldNotOpen)
     EXPECT_EQ(services.shown(), QStringList{"5: two/x three/x-"});
 }
 
-TEST_F(DuplicateServiceEnds, cancelInTheWalkTellsNoFailuresOfAnEarlierScan)
+TEST_F(DuplicateServiceEndsTest, cancelInTheWalkTellsNoFailuresOfAnEarlierScan)
 {
     services.file("one/x");
     services.file("two/x");

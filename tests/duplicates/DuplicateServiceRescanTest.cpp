@@ -6,13 +6,13 @@
 namespace {
 
 /// What a scan has from the one before and what it takes no note of.
-class DuplicateServiceRescan : public DuplicateServiceRun
+class DuplicateServiceRescanTest : public DuplicateServiceRun
 {
 };
 
 } // namespace
 
-TEST_F(DuplicateServiceRescan, worksOnTheScopeThatItBeganWith)
+TEST_F(DuplicateServiceRescanTest, worksOnTheScopeThatItBeganWith)
 {
     services.file("one/x", QByteArray(10, 'x'));
     services.file("two/x", QByteArray(10, 'x'));
@@ -33,7 +33,7 @@ TEST_F(DuplicateServiceRescan, worksOnTheScopeThatItBeganWith)
     EXPECT_EQ(services.shown(), QStringList{"10: two/x three/x-"});
 }
 
-TEST_F(DuplicateServiceRescan, worksOnTheMarksThatItBeganWith)
+TEST_F(DuplicateServiceRescanTest, worksOnTheMarksThatItBeganWith)
 {
     services.file("one/x");
     services.file("two/x");
@@ -49,7 +49,7 @@ TEST_F(DuplicateServiceRescan, worksOnTheMarksThatItBeganWith)
     EXPECT_EQ(duplicates.markedForDeletion(), QSet<QString>{services.inHome("one/x")});
 }
 
-TEST_F(DuplicateServiceRescan, discardsTheEarlierGroupsAtOnce)
+TEST_F(DuplicateServiceRescanTest, discardsTheEarlierGroupsAtOnce)
 {
     services.file("one/x");
     services.file("two/x");
@@ -63,7 +63,7 @@ TEST_F(DuplicateServiceRescan, discardsTheEarlierGroupsAtOnce)
     EXPECT_EQ(duplicates.groups().size(), 1U);
 }
 
-TEST_F(DuplicateServiceRescan, givesEachGroupAndEntryAFreshIdentity)
+TEST_F(DuplicateServiceRescanTest, givesEachGroupAndEntryAFreshIdentity)
 {
     services.file("one/x");
     services.file("two/x");
@@ -80,7 +80,7 @@ TEST_F(DuplicateServiceRescan, givesEachGroupAndEntryAFreshIdentity)
     }
 }
 
-TEST_F(DuplicateServiceRescan, bringsTheMarksOfSingleClicksBackAndLetsAllOthersOfTheirGroupsStay)
+TEST_F(DuplicateServiceRescanTest, bringsTheMarksOfSingleClicksBackAndLetsAllOthersOfTheirGroupsStay)
 {
     for (const char *name : {"one/x", "two/x", "three/x"})
         services.file(name);
@@ -99,7 +99,7 @@ TEST_F(DuplicateServiceRescan, bringsTheMarksOfSingleClicksBackAndLetsAllOthersO
     EXPECT_EQ(services.shown(), QStringList({"5: one/x two/x- three/x-", "4: one/unmarked two/unmarked-"}));
 }
 
-TEST_F(DuplicateServiceRescan, forgetsTheChoicesOfTheBulkCommands)
+TEST_F(DuplicateServiceRescanTest, forgetsTheChoicesOfTheBulkCommands)
 {
     for (const char *name : {"one/x", "two/x", "three/x"})
         services.file(name);

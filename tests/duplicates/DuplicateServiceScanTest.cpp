@@ -6,13 +6,13 @@
 namespace {
 
 /// What a scan tells on its way, and when.
-class DuplicateServiceScan : public DuplicateServiceRun
+class DuplicateServiceScanTest : public DuplicateServiceRun
 {
 };
 
 } // namespace
 
-TEST_F(DuplicateServiceScan, beginsWithNothingFoundAndTheUsualScope)
+TEST_F(DuplicateServiceScanTest, beginsWithNothingFoundAndTheUsualScope)
 {
     DuplicateServices untouched;
     const DuplicateService &fresh = untouched.duplicates;
@@ -33,7 +33,7 @@ TEST_F(DuplicateServiceScan, beginsWithNothingFoundAndTheUsualScope)
     EXPECT_EQ(untouched.test.mainQueue.run(), 0);
 }
 
-TEST_F(DuplicateServiceScan, marksItselfDeniedWithoutFullDiskAccessAndGoesOn)
+TEST_F(DuplicateServiceScanTest, marksItselfDeniedWithoutFullDiskAccessAndGoesOn)
 {
     services.file("a");
     services.file("b");
@@ -42,7 +42,7 @@ TEST_F(DuplicateServiceScan, marksItselfDeniedWithoutFullDiskAccessAndGoesOn)
     EXPECT_EQ(duplicates.groups().size(), 1U);
 }
 
-TEST_F(DuplicateServiceScan, clearsItsDenialWithFullDiskAccess)
+TEST_F(DuplicateServiceScanTest, clearsItsDenialWithFullDiskAccess)
 {
     services.scan();
     test.access.markDenied("Another Tool");
@@ -52,7 +52,7 @@ TEST_F(DuplicateServiceScan, clearsItsDenialWithFullDiskAccess)
     EXPECT_EQ(test.access.deniedContexts(), QSet<QString>{"Another Tool"});
 }
 
-TEST_F(DuplicateServiceScan, asksForFullDiskAccessAtEachScan)
+TEST_F(DuplicateServiceScanTest, asksForFullDiskAccessAtEachScan)
 {
     test.temp.folder("home/Library/Safari");
     services.scan();
@@ -62,14 +62,14 @@ TEST_F(DuplicateServiceScan, asksForFullDiskAccessAtEachScan)
     EXPECT_TRUE(test.access.deniedContexts().isEmpty());
 }
 
-TEST_F(DuplicateServiceScan, isOneUserInitiatedJob)
+TEST_F(DuplicateServiceScanTest, isOneUserInitiatedJob)
 {
     duplicates.scan();
     EXPECT_EQ(test.workQueue.waiting(), 1U);
     EXPECT_EQ(test.workQueue.lastPriority(), WorkPriority::userInitiated);
 }
 
-TEST_F(DuplicateServiceScan, setsItsFieldsAtOnceAndLeavesTheMarks)
+TEST_F(DuplicateServiceScanTest, setsItsFieldsAtOnceAndLeavesTheMarks)
 {
     const QString first = services.file("one/x");
     services.file("two/x");
@@ -89,7 +89,7 @@ TEST_F(DuplicateServiceScan, setsItsFieldsAtOnceAndLeavesTheMarks)
     EXPECT_EQ(duplicates.markedForDeletion(), QSet<QString>{first});
 }
 
-TEST_F(DuplicateServiceScan, tellsEachStageInBlocksOfTheMainQueue)
+TEST_F(DuplicateServiceScanTest, tellsEachStageInBlocksOfTheMainQueue)
 {
     services.file("one/x", "equal");
     services.file("one/deep/x", "equal");
@@ -112,7 +112,7 @@ TEST_F(DuplicateServiceScan, tellsEachStageInBlocksOfTheMainQueue)
                          }));
 }
 
-TEST_F(DuplicateServiceScan, progressRisesByTheBucketsThatHoldMoreThanOneFile)
+TEST_F(DuplicateServiceScanTest, progressRisesByTheBucketsThatHoldMoreThanOneFile)
 {
     for (int size = 1; size <= 3; ++size) {
         services.file(QStringLiteral("one/%1").arg(size), QByteArray(size, 'a'));
@@ -130,7 +130,7 @@ TEST_F(DuplicateServiceScan, progressRisesByTheBucketsThatHoldMoreThanOneFile)
         EXPECT_DOUBLE_EQ(progress[i], expected[i]) << i;
 }
 
-TEST_F(DuplicateServiceScan, tellsAFolderThatItCannotListAndNoneThatItStaysOutOf)
+TEST_F(DuplicateServiceScanTest, tellsAFolderThatItCannotListAndNoneThatItStaysOutOf)
 {
     test.temp.folder("home/one");
     test.temp.folder("home/two/node_modules/inside");
@@ -145,7 +145,7 @@ TEST_F(DuplicateServiceScan, tellsAFolderThatItCannotListAndNoneThatItStaysOutOf
     EXPECT_EQ(seen[4], "rests 1 '' groups 0 failures 0");
 }
 
-TEST_F(DuplicateServiceScan, withoutScanPathsEndsAtOnceAsDone)
+TEST_F(DuplicateServiceScanTest, withoutScanPathsEndsAtOnceAsDone)
 {
     services.file("a");
     services.file("b");
@@ -157,7 +157,7 @@ TEST_F(DuplicateServiceScan, withoutScanPathsEndsAtOnceAsDone)
                          }));
 }
 
-TEST_F(DuplicateServiceScan, setsAllFieldsOfABlockBeforeItNotifies)
+TEST_F(DuplicateServiceScanTest, setsAllFieldsOfABlockBeforeItNotifies)
 {
     services.file("one/x");
     services.file("one/y");
@@ -180,7 +180,7 @@ TEST_F(DuplicateServiceScan, setsAllFieldsOfABlockBeforeItNotifies)
                     }));
 }
 
-TEST_F(DuplicateServiceScan, tellsEachFieldThatItSetsAtItsStartAndAtItsEnd)
+TEST_F(DuplicateServiceScanTest, tellsEachFieldThatItSetsAtItsStartAndAtItsEnd)
 {
     services.useScanPaths({});
     HeardSignals heard(duplicates);
@@ -199,7 +199,7 @@ TEST_F(DuplicateServiceScan, tellsEachFieldThatItSetsAtItsStartAndAtItsEnd)
     EXPECT_EQ(sorted(heard.take()), all);
 }
 
-TEST_F(DuplicateServiceScan, jobOfAServiceThatIsGoneDoesNothing)
+TEST_F(DuplicateServiceScanTest, jobOfAServiceThatIsGoneDoesNothing)
 {
     int operations = 0;
     const InjectedFaults counted([&operations](files::Operation, const QString &) {
@@ -216,7 +216,7 @@ TEST_F(DuplicateServiceScan, jobOfAServiceThatIsGoneDoesNothing)
     EXPECT_EQ(test.mainQueue.run(), 0);
 }
 
-TEST_F(DuplicateServiceScan, blocksForAServiceThatIsGoneDoNothing)
+TEST_F(DuplicateServiceScanTest, blocksForAServiceThatIsGoneDoNothing)
 {
     services.file("one/x");
     services.file("two/x");
@@ -228,7 +228,7 @@ TEST_F(DuplicateServiceScan, blocksForAServiceThatIsGoneDoNothing)
     EXPECT_GT(test.mainQueue.run(), 0);
 }
 
-TEST_F(DuplicateServiceScan, stopsWhenItsServiceGoesDuringTheWalk)
+TEST_F(DuplicateServiceScanTest, stopsWhenItsServiceGoesDuringTheWalk)
 {
     services.file("one/x");
     services.file("two/x");

@@ -41,7 +41,7 @@ struct SameFileTest : public testing::Test
 
 } // namespace
 
-TEST_F(SameFileTest, copiesAreFilesOfTheirOwn)
+TEST_F(SameFileTest, equalFilesAreFilesOfTheirOwn)
 {
     temp.file(u"a/x"_s, "equal");
     temp.file(u"b/x"_s, "equal");

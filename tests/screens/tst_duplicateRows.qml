@@ -53,7 +53,7 @@ DuplicatesCase {
         const doomed = "Click to keep this copy";
         mouseMove(file("a/film.mov"));
         find(kept);
-        Program.picture("copy-tip");
+        Program.picture("file-tip");
         restPointer();
         tryGone(kept);
         mouseMove(file("b/film.mov"));
@@ -62,7 +62,7 @@ DuplicatesCase {
         tryGone(doomed);
     }
 
-    function test_lastCopyMayBeMarkedToo() {
+    function test_lastFileMayBeMarkedToo() {
         clickFile("a/plain");
         verify(going().includes("a/plain") && going().includes("b/plain.zip"));
         compare(footText(), "7 files marked for deletion (1.3 MB)");
@@ -70,7 +70,7 @@ DuplicatesCase {
 
     function test_revealButtonRevealsAndTogglesNothing() {
         const before = going();
-        const button = Program.named("revealCopy", file("b/film.mov"));
+        const button = Program.named("revealFile", file("b/film.mov"));
         mouseMove(button);
         find("Reveal in Finder");
         clickOn(button);
@@ -96,7 +96,7 @@ DuplicatesCase {
         openFileMenu(data.file);
         compare(Program.menuLines(), "Open\nQuick Look\nReveal in Finder\nCopy Path\n-\n" + data.toggle
                 + "\nKeep Only This (mark others for deletion)");
-        Program.picture("copy-menu");
+        Program.picture("file-menu");
         closeMenu();
     }
 

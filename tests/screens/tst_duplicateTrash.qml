@@ -46,7 +46,7 @@ DuplicatesCase {
         moveToTrash();
         compare(Surroundings.recycled(), usuallyGoing.map(path).join("\n"));
         compare(gone(), usuallyGoing);
-        // One copy is left of each, which is no group any more.
+        // One file is left of each, which is no group any more.
         find("Configure scan directories above and click Start Scan", screen());
         compare(scanButton().text, "Start Scan");
         verify(!foot());

@@ -25,7 +25,7 @@ FocusScope {
         anchors.topMargin: visible ? Theme.unit * 3 : 0
         banner: screen.view.banner
     }
-    ScopePanel {
+    DuplicateScopePanel {
         id: panel
         anchors.left: header.left
         anchors.right: header.right

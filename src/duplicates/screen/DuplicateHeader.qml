@@ -36,20 +36,20 @@ Item {
         y: (header.lineHeight - height) / 2 + (header.isNarrow ? header.lineHeight + Theme.unit : 0)
         spacing: Theme.unit * 6
 
-        Figure {
+        DuplicateFigure {
             label: header.view.texts.groups
             value: header.view.groupsFigure
         }
-        Figure {
+        DuplicateFigure {
             label: header.view.texts.files
             value: header.view.filesFigure
         }
-        Figure {
+        DuplicateFigure {
             label: header.view.texts.wasted
             value: header.view.wastedFigure
             valueColor: Theme.amber
         }
-        Figure {
+        DuplicateFigure {
             objectName: "toDeleteFigure"
             visible: value.length > 0
             label: header.view.texts.toDelete

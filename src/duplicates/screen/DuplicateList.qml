@@ -31,7 +31,7 @@ FocusScope {
         }
 
         function openMenu(index, item) {
-            const menu = holder.view.isFile(index) ? copyMenu : groupMenu;
+            const menu = holder.view.isFile(index) ? fileMenu : groupMenu;
             menu.openFor(holder.view.rows, index, item);
         }
 
@@ -86,11 +86,11 @@ FocusScope {
             list.takePlace();
         }
     }
-    CopyMenu {
-        id: copyMenu
+    DuplicateFileMenu {
+        id: fileMenu
         view: holder.view
     }
-    GroupMenu {
+    DuplicateGroupMenu {
         id: groupMenu
         view: holder.view
     }

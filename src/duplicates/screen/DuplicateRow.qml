@@ -39,7 +39,7 @@ Item {
             height: parent.height - y + (row.isLast ? -1 : radius)
         }
     }
-    GroupHead {
+    DuplicateGroupHead {
         anchors.fill: parent
         anchors.topMargin: Theme.unit * 2
         visible: row.isHead
@@ -60,7 +60,7 @@ Item {
             row.menuRequested();
         }
     }
-    CopyRow {
+    DuplicateFileRow {
         anchors.fill: parent
         anchors.leftMargin: Theme.unit * 2
         anchors.rightMargin: Theme.unit * 2

@@ -17,7 +17,7 @@ class DuplicateRows final : public GroupRows
 public:
     enum Role {
         titleRole = firstOwnRole, ///< head: the first file's name; file: its name
-        detailRole,               ///< head: copies and sizes; file: its path
+        detailRole,               ///< head: how many files, and sizes; file: its path
         trailingRole,             ///< head: what can be won back; file: its date
         keepRole,                 ///< file: it stays
         badgeRole,                ///< file: "KEEP" or "DELETE"

@@ -60,7 +60,7 @@ TEST_F(DeleteNoteTest, tellsAtOnceWhatTheFilterHides)
     EXPECT_EQ(view->confirmation()->note(), u"4 of the files that go are hidden by the filter."_s);
 }
 
-TEST_F(DeleteNoteTest, countsTheGroupsOfWhichNoCopyStaysThoseHiddenToo)
+TEST_F(DeleteNoteTest, countsTheGroupsOfWhichNothingStaysThoseHiddenToo)
 {
     scan();
     view->toggleKeep(photoHead + 1);

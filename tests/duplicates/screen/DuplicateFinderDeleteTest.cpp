@@ -13,7 +13,7 @@ namespace {
 
 /// The delete run as the Duplicate Finder's screen asks for, starts and shows it. After the scan "b/photo.png",
 /// "b/report.pdf", "c/report.pdf", "b/pack.txt" and "b/song.mp3" are set to go.
-struct DuplicateFinderDelete : public DuplicateFinderHome
+struct DuplicateFinderDeleteTest : public DuplicateFinderHome
 {
     void SetUp() override
     {
@@ -33,7 +33,7 @@ struct DuplicateFinderDelete : public DuplicateFinderHome
 
 } // namespace
 
-TEST_F(DuplicateFinderDelete, isAskedForFirst)
+TEST_F(DuplicateFinderDeleteTest, isAskedForFirst)
 {
     const QSignalSpy changes(view->confirmation(), &Confirmation::changed);
     EXPECT_TRUE(view->canDelete());
@@ -49,7 +49,7 @@ TEST_F(DuplicateFinderDelete, isAskedForFirst)
     EXPECT_EQ(services.shown(), asScanned);
 }
 
-TEST_F(DuplicateFinderDelete, isNotOfferedWithNothingSetToGo)
+TEST_F(DuplicateFinderDeleteTest, isNotOfferedWithNothingSetToGo)
 {
     view->selectNone();
     EXPECT_FALSE(view->canDelete());
@@ -61,7 +61,7 @@ TEST_F(DuplicateFinderDelete, isNotOfferedWithNothingSetToGo)
     EXPECT_EQ(services.madeHistory, nullptr); // nothing was recorded
 }
 
-TEST_F(DuplicateFinderDelete, beginsInALaterTurnOfTheMainLoop)
+TEST_F(DuplicateFinderDeleteTest, beginsInALaterTurnOfTheMainLoop)
 {
     view->askToDelete();
     view->confirmation()->confirm();
@@ -75,7 +75,7 @@ TEST_F(DuplicateFinderDelete, beginsInALaterTurnOfTheMainLoop)
     EXPECT_FALSE(view->isDeleting());
 }
 
-TEST_F(DuplicateFinderDelete, givesTheBytesThatItFreed)
+TEST_F(DuplicateFinderDeleteTest, givesTheBytesThatItFreed)
 {
     EXPECT_EQ(view->deleteResult(), std::nullopt);
     deleteMarked();
@@ -83,7 +83,7 @@ TEST_F(DuplicateFinderDelete, givesTheBytesThatItFreed)
     EXPECT_EQ(services.records().at(0).title, u"Removed 5 duplicate files"_s);
 }
 
-TEST_F(DuplicateFinderDelete, givesNothingAfterAPartialFailure)
+TEST_F(DuplicateFinderDeleteTest, givesNothingAfterAPartialFailure)
 {
     view->toggleKeep(reportHead + 2);
     view->toggleKeep(packHead + 2);
@@ -99,7 +99,7 @@ TEST_F(DuplicateFinderDelete, givesNothingAfterAPartialFailure)
     EXPECT_EQ(services.records().at(0).title, u"Removed 1 duplicates · 1 failed"_s);
 }
 
-TEST_F(DuplicateFinderDelete, forgetsTheBytesOfTheRunBeforeOnAFailure)
+TEST_F(DuplicateFinderDeleteTest, forgetsTheBytesOfTheRunBeforeOnAFailure)
 {
     view->selectNone();
     view->toggleKeep(photoHead + 2);
@@ -114,7 +114,7 @@ TEST_F(DuplicateFinderDelete, forgetsTheBytesOfTheRunBeforeOnAFailure)
     EXPECT_EQ(view->deleteResult(), 200);
 }
 
-TEST_F(DuplicateFinderDelete, namesTheFilesOnViewAndTakesThoseThatTheFilterHidesToo)
+TEST_F(DuplicateFinderDeleteTest, namesTheFilesOnViewAndTakesThoseThatTheFilterHidesToo)
 {
     choose(u"images"_s);
     view->askToDelete();
@@ -127,7 +127,7 @@ TEST_F(DuplicateFinderDelete, namesTheFilesOnViewAndTakesThoseThatTheFilterHides
     EXPECT_TRUE(duplicates.groups().empty());
 }
 
-TEST_F(DuplicateFinderDelete, takesTheLastCopyWhenTheUserWantsIt)
+TEST_F(DuplicateFinderDeleteTest, takesTheLastFileWhenTheUserWantsIt)
 {
     view->selectNone();
     view->toggleKeep(packHead + 1);
@@ -138,7 +138,7 @@ TEST_F(DuplicateFinderDelete, takesTheLastCopyWhenTheUserWantsIt)
     EXPECT_EQ(view->groupsFigure(), u"3"_s);
 }
 
-TEST_F(DuplicateFinderDelete, leavesTheRowsOfWhatStaysWhereTheyAre)
+TEST_F(DuplicateFinderDeleteTest, leavesTheRowsOfWhatStaysWhereTheyAre)
 {
     view->toggleKeep(reportHead + 2);
     view->toggleKeep(songHead + 2);
@@ -158,7 +158,7 @@ TEST_F(DuplicateFinderDelete, leavesTheRowsOfWhatStaysWhereTheyAre)
     EXPECT_EQ(services.shown()[1], u"200: a/song- b/song.mp3"_s);
 }
 
-TEST_F(DuplicateFinderDelete, ofAllGroupsOffersTheStartAgain)
+TEST_F(DuplicateFinderDeleteTest, ofAllGroupsOffersTheStartAgain)
 {
     view->toggleKeep(reportHead + 1);
     deleteMarked();
@@ -167,7 +167,7 @@ TEST_F(DuplicateFinderDelete, ofAllGroupsOffersTheStartAgain)
     EXPECT_EQ(view->emptyText(), u"Configure scan directories above and click Start Scan"_s);
 }
 
-TEST_F(DuplicateFinderDelete, showsAGroupThatPassesTheFilterByItsNewFirstFile)
+TEST_F(DuplicateFinderDeleteTest, showsAGroupThatPassesTheFilterByItsNewFirstFile)
 {
     make(u"a/mixed"_s, 700, 100);
     make(u"b/mixed.zip"_s, 700, 200);
@@ -185,7 +185,7 @@ TEST_F(DuplicateFinderDelete, showsAGroupThatPassesTheFilterByItsNewFirstFile)
     EXPECT_EQ(view->groupsFigure(), u"1"_s);
 }
 
-TEST_F(DuplicateFinderDelete, tellsHowFarItIs)
+TEST_F(DuplicateFinderDeleteTest, tellsHowFarItIs)
 {
     QStringList shown;
     const QSignalSpy changes(view.get(), &DuplicateFinderView::deletingChanged);
@@ -201,7 +201,7 @@ TEST_F(DuplicateFinderDelete, tellsHowFarItIs)
     EXPECT_EQ(changes.count(), 7); // its beginning, five files, its end
 }
 
-TEST_F(DuplicateFinderDelete, disablesItsCommandsUntilItEnds)
+TEST_F(DuplicateFinderDeleteTest, disablesItsCommandsUntilItEnds)
 {
     duringTheRun([this] {
         EXPECT_FALSE(view->canScan());
@@ -224,7 +224,7 @@ TEST_F(DuplicateFinderDelete, disablesItsCommandsUntilItEnds)
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
-TEST_F(DuplicateFinderDelete, isNoLongerAskedAboutOnceAScanHasReplacedTheGroups)
+TEST_F(DuplicateFinderDeleteTest, isNoLongerAskedAboutOnceAScanHasReplacedTheGroups)
 {
     view->askToDelete();
     test.notifications.post(notifications::rescan);
@@ -235,7 +235,7 @@ TEST_F(DuplicateFinderDelete, isNoLongerAskedAboutOnceAScanHasReplacedTheGroups)
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
 }
 
-TEST_F(DuplicateFinderDelete, isStartedOnceByTwoClicksOnTheDialog)
+TEST_F(DuplicateFinderDeleteTest, isStartedOnceByTwoClicksOnTheDialog)
 {
     view->askToDelete();
     view->confirmation()->confirm();
@@ -245,7 +245,7 @@ TEST_F(DuplicateFinderDelete, isStartedOnceByTwoClicksOnTheDialog)
     EXPECT_EQ(services.madeHistory->entries().size(), 1U);
 }
 
-TEST_F(DuplicateFinderDelete, isNotStartedASecondTimeFromWithin)
+TEST_F(DuplicateFinderDeleteTest, isNotStartedASecondTimeFromWithin)
 {
     duringTheRun([this] {
         view->confirmation()->confirm();
@@ -257,7 +257,7 @@ TEST_F(DuplicateFinderDelete, isNotStartedASecondTimeFromWithin)
     EXPECT_EQ(view->deleteResult(), 5700);
 }
 
-TEST_F(DuplicateFinderDelete, goesOnWhenAFilterIsChosenMeanwhile)
+TEST_F(DuplicateFinderDeleteTest, goesOnWhenAFilterIsChosenMeanwhile)
 {
     duringTheRun([this] { choose(u"documents"_s); });
     view->toggleKeep(reportHead + 2);
@@ -267,7 +267,7 @@ TEST_F(DuplicateFinderDelete, goesOnWhenAFilterIsChosenMeanwhile)
     EXPECT_EQ(view->groupsFigure(), u"1"_s);
 }
 
-TEST_F(DuplicateFinderDelete, keepsItsScreenModelUntilItEnds)
+TEST_F(DuplicateFinderDeleteTest, keepsItsScreenModelUntilItEnds)
 {
     const std::weak_ptr<DuplicateFinderView> held = view;
     QString during;
@@ -281,7 +281,7 @@ TEST_F(DuplicateFinderDelete, keepsItsScreenModelUntilItEnds)
     EXPECT_TRUE(held.expired());
 }
 
-TEST_F(DuplicateFinderDelete, goesOnWhenItsScreenIsGoneMeanwhile)
+TEST_F(DuplicateFinderDeleteTest, goesOnWhenItsScreenIsGoneMeanwhile)
 {
     duringTheRun([this] { close(); });
     deleteMarked();
@@ -292,7 +292,7 @@ TEST_F(DuplicateFinderDelete, goesOnWhenItsScreenIsGoneMeanwhile)
     EXPECT_EQ(services.records().at(0).bytesAffected, 5700);
 }
 
-TEST_F(DuplicateFinderDelete, endsWithoutAWordWhenItFailsAndItsScreenIsGone)
+TEST_F(DuplicateFinderDeleteTest, endsWithoutAWordWhenItFailsAndItsScreenIsGone)
 {
     test.recycler.answers = [this](const QStringList &, const Recycler::Completion &done) {
         close();
@@ -303,7 +303,7 @@ TEST_F(DuplicateFinderDelete, endsWithoutAWordWhenItFailsAndItsScreenIsGone)
     EXPECT_EQ(services.records().at(0).title, u"Removed 0 duplicates · 5 failed"_s);
 }
 
-TEST_F(DuplicateFinderDelete, isSeenByAScreenThatIsMadeMeanwhile)
+TEST_F(DuplicateFinderDeleteTest, isSeenByAScreenThatIsMadeMeanwhile)
 {
     QStringList shown;
     duringTheRun([&] {
@@ -322,7 +322,7 @@ TEST_F(DuplicateFinderDelete, isSeenByAScreenThatIsMadeMeanwhile)
     EXPECT_EQ(view->rows()->rowCount(), 0);
 }
 
-TEST_F(DuplicateFinderDelete, doesNotBeginOnceItsScreenIsGone)
+TEST_F(DuplicateFinderDeleteTest, doesNotBeginOnceItsScreenIsGone)
 {
     view->askToDelete();
     view->confirmation()->confirm();
@@ -331,7 +331,7 @@ TEST_F(DuplicateFinderDelete, doesNotBeginOnceItsScreenIsGone)
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
 }
 
-TEST_F(DuplicateFinderDelete, doesNotBeginWhenAScanWasQuicker)
+TEST_F(DuplicateFinderDeleteTest, doesNotBeginWhenAScanWasQuicker)
 {
     view->askToDelete();
     test.notifications.post(notifications::rescan);

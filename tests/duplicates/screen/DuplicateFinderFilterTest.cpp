@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The filter of the Duplicate Finder's screen, and the figures over what it lets through.
-struct DuplicateFinderFilter : public DuplicateFinderHome
+struct DuplicateFinderFilterTest : public DuplicateFinderHome
 {
     QString heads() const
     {
@@ -35,7 +35,7 @@ struct DuplicateFinderFilter : public DuplicateFinderHome
 
 } // namespace
 
-TEST_F(DuplicateFinderFilter, isOneOfFiveInOrder)
+TEST_F(DuplicateFinderFilterTest, isOneOfFiveInOrder)
 {
     EXPECT_EQ(DuplicateFinderView::filters(),
               QStringList({u"all"_s, u"images"_s, u"documents"_s, u"archives"_s, u"media"_s}));
@@ -44,7 +44,7 @@ TEST_F(DuplicateFinderFilter, isOneOfFiveInOrder)
     EXPECT_EQ(columnTexts(view->filterRows(), "isSelected").join(u' '), u"true false false false false"_s);
 }
 
-TEST_F(DuplicateFinderFilter, knowsItsExtensions)
+TEST_F(DuplicateFinderFilterTest, knowsItsExtensions)
 {
     const std::map<QString, QStringList> expected = {
         {u"images"_s, {u"jpg"_s, u"jpeg"_s, u"png"_s, u"gif"_s, u"heic"_s, u"webp"_s, u"svg"_s}},
@@ -57,7 +57,7 @@ TEST_F(DuplicateFinderFilter, knowsItsExtensions)
     EXPECT_EQ(DuplicateFinderView::extMap(), expected);
 }
 
-TEST_F(DuplicateFinderFilter, isChosenByItsChip)
+TEST_F(DuplicateFinderFilterTest, isChosenByItsChip)
 {
     QAbstractItemModelTester chips(view->filterRows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     const QSignalSpy lists(view.get(), &DuplicateFinderView::rowsWillChange);
@@ -78,14 +78,14 @@ TEST_F(DuplicateFinderFilter, isChosenByItsChip)
     EXPECT_EQ(heads(), u"photo.JPG report.pdf pack.zip song"_s);
 }
 
-TEST_F(DuplicateFinderFilter, takesExtensionsInCapitals)
+TEST_F(DuplicateFinderFilterTest, takesExtensionsInCapitals)
 {
     scan();
     choose(u"images"_s);
     EXPECT_EQ(titles(), u"photo.JPG photo.JPG photo.png"_s);
 }
 
-TEST_F(DuplicateFinderFilter, judgesAGroupByItsFirstFileAlone)
+TEST_F(DuplicateFinderFilterTest, judgesAGroupByItsFirstFileAlone)
 {
     scan();
     choose(u"documents"_s);
@@ -96,7 +96,7 @@ TEST_F(DuplicateFinderFilter, judgesAGroupByItsFirstFileAlone)
     EXPECT_EQ(titles(), QString()); // "song" has no extension, "song.mp3" stands second
 }
 
-TEST_F(DuplicateFinderFilter, letsEachOfItsExtensionsThrough)
+TEST_F(DuplicateFinderFilterTest, letsEachOfItsExtensionsThrough)
 {
     int size = 10;
     for (const auto &[filter, extensions] : DuplicateFinderView::extMap()) {
@@ -123,7 +123,7 @@ TEST_F(DuplicateFinderFilter, letsEachOfItsExtensionsThrough)
     EXPECT_TRUE(all.contains(u"other.exe"_s));
 }
 
-TEST_F(DuplicateFinderFilter, keepsTheOrderOfTheGroups)
+TEST_F(DuplicateFinderFilterTest, keepsTheOrderOfTheGroups)
 {
     make(u"a/small.gif"_s, 30, 100);
     make(u"b/small.gif"_s, 30, 100);
@@ -136,7 +136,7 @@ TEST_F(DuplicateFinderFilter, keepsTheOrderOfTheGroups)
     EXPECT_EQ(view->filteredGroups(), (std::vector<size_t>{0, 1, 5}));
 }
 
-TEST_F(DuplicateFinderFilter, countsOnlyWhatItLetsThrough)
+TEST_F(DuplicateFinderFilterTest, countsOnlyWhatItLetsThrough)
 {
     scan();
     EXPECT_EQ(figures(), u"4 groups, 9 files, 5.6 KB wasted"_s);
@@ -156,7 +156,7 @@ TEST_F(DuplicateFinderFilter, countsOnlyWhatItLetsThrough)
     EXPECT_EQ(view->bytesToDelete(), 2000);
 }
 
-TEST_F(DuplicateFinderFilter, countsWhatIsWastedWhateverIsSetToGo)
+TEST_F(DuplicateFinderFilterTest, countsWhatIsWastedWhateverIsSetToGo)
 {
     scan();
     view->selectNone();
@@ -170,7 +170,7 @@ TEST_F(DuplicateFinderFilter, countsWhatIsWastedWhateverIsSetToGo)
     EXPECT_TRUE(view->canDelete());
 }
 
-TEST_F(DuplicateFinderFilter, saysSoWhenItHidesAllGroups)
+TEST_F(DuplicateFinderFilterTest, saysSoWhenItHidesAllGroups)
 {
     scan();
     choose(u"media"_s);
@@ -185,13 +185,13 @@ TEST_F(DuplicateFinderFilter, saysSoWhenItHidesAllGroups)
     EXPECT_EQ(view->emptyText(), QString());
 }
 
-TEST_F(DuplicateFinderFilter, hidesNothingWhereNothingWasScanned)
+TEST_F(DuplicateFinderFilterTest, hidesNothingWhereNothingWasScanned)
 {
     choose(u"media"_s);
     EXPECT_EQ(view->emptyText(), u"Configure scan directories above and click Start Scan"_s);
 }
 
-TEST_F(DuplicateFinderFilter, offersNoRunForFilesThatItHides)
+TEST_F(DuplicateFinderFilterTest, offersNoRunForFilesThatItHides)
 {
     scan();
     view->selectNone();
@@ -205,7 +205,7 @@ TEST_F(DuplicateFinderFilter, offersNoRunForFilesThatItHides)
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
 }
 
-TEST_F(DuplicateFinderFilter, staysForTheNextScan)
+TEST_F(DuplicateFinderFilterTest, staysForTheNextScan)
 {
     scan();
     choose(u"archives"_s);

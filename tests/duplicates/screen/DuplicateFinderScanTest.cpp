@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The scan as the Duplicate Finder's screen starts, shows and stops it.
-struct DuplicateFinderScan : public DuplicateFinderHome
+struct DuplicateFinderScanTest : public DuplicateFinderHome
 {
     /// A scan that finds nothing.
     void scanNothing()
@@ -53,7 +53,7 @@ struct DuplicateFinderScan : public DuplicateFinderHome
 
 } // namespace
 
-TEST_F(DuplicateFinderScan, startsAndEndsByItself)
+TEST_F(DuplicateFinderScanTest, startsAndEndsByItself)
 {
     const QSignalSpy states(view.get(), &DuplicateFinderView::stateChanged);
     view->scan();
@@ -71,7 +71,7 @@ TEST_F(DuplicateFinderScan, startsAndEndsByItself)
     EXPECT_EQ(services.shown(), asScanned);
 }
 
-TEST_F(DuplicateFinderScan, isCalledARescanOnceThereAreGroups)
+TEST_F(DuplicateFinderScanTest, isCalledARescanOnceThereAreGroups)
 {
     EXPECT_EQ(view->scanText(), u"Start Scan"_s);
     scan();
@@ -83,7 +83,7 @@ TEST_F(DuplicateFinderScan, isCalledARescanOnceThereAreGroups)
     EXPECT_EQ(view->scanText(), u"Rescan"_s);
 }
 
-TEST_F(DuplicateFinderScan, thatFindsNothingOffersTheStartAgain)
+TEST_F(DuplicateFinderScanTest, thatFindsNothingOffersTheStartAgain)
 {
     scan();
     scanNothing();
@@ -95,7 +95,7 @@ TEST_F(DuplicateFinderScan, thatFindsNothingOffersTheStartAgain)
     EXPECT_EQ(view->rows()->rowCount(), 0);
 }
 
-TEST_F(DuplicateFinderScan, isNotStartedASecondTimeWhileOneRuns)
+TEST_F(DuplicateFinderScanTest, isNotStartedASecondTimeWhileOneRuns)
 {
     view->scan();
     view->scan();
@@ -105,7 +105,7 @@ TEST_F(DuplicateFinderScan, isNotStartedASecondTimeWhileOneRuns)
     EXPECT_EQ(test.workQueue.waiting(), 1U);
 }
 
-TEST_F(DuplicateFinderScan, startsAtTheNotification)
+TEST_F(DuplicateFinderScanTest, startsAtTheNotification)
 {
     test.notifications.post(notifications::rescan);
     EXPECT_TRUE(view->isScanning());
@@ -115,7 +115,7 @@ TEST_F(DuplicateFinderScan, startsAtTheNotification)
     EXPECT_EQ(services.shown(), asScanned);
 }
 
-TEST_F(DuplicateFinderScan, startsAtTheNotificationWithoutScanPathsToo)
+TEST_F(DuplicateFinderScanTest, startsAtTheNotificationWithoutScanPathsToo)
 {
     scan();
     services.useScanPaths({});
@@ -126,7 +126,7 @@ TEST_F(DuplicateFinderScan, startsAtTheNotificationWithoutScanPathsToo)
     EXPECT_TRUE(duplicates.groups().empty());
 }
 
-TEST_F(DuplicateFinderScan, doesNotStartAtANotificationOnceTheScreenIsGone)
+TEST_F(DuplicateFinderScanTest, doesNotStartAtANotificationOnceTheScreenIsGone)
 {
     close();
     test.notifications.post(notifications::rescan);
@@ -134,7 +134,7 @@ TEST_F(DuplicateFinderScan, doesNotStartAtANotificationOnceTheScreenIsGone)
     EXPECT_EQ(test.workQueue.waiting(), 0U);
 }
 
-TEST_F(DuplicateFinderScan, doesNotStartWhileADeleteRunIsOnItsWay)
+TEST_F(DuplicateFinderScanTest, doesNotStartWhileADeleteRunIsOnItsWay)
 {
     scan();
     duringTheRun([this] {
@@ -149,7 +149,7 @@ TEST_F(DuplicateFinderScan, doesNotStartWhileADeleteRunIsOnItsWay)
     EXPECT_TRUE(view->canScan());
 }
 
-TEST_F(DuplicateFinderScan, isAskedOnceToStop)
+TEST_F(DuplicateFinderScanTest, isAskedOnceToStop)
 {
     view->scan();
     EXPECT_EQ(view->stopText(), u"Stop"_s);
@@ -167,7 +167,7 @@ TEST_F(DuplicateFinderScan, isAskedOnceToStop)
     EXPECT_TRUE(view->canStop());
 }
 
-TEST_F(DuplicateFinderScan, thatWasStoppedInTheWalkEndsWithoutAWord)
+TEST_F(DuplicateFinderScanTest, thatWasStoppedInTheWalkEndsWithoutAWord)
 {
     scanStoppedAt(files::Operation::list);
     EXPECT_TRUE(duplicates.groups().empty());
@@ -176,7 +176,7 @@ TEST_F(DuplicateFinderScan, thatWasStoppedInTheWalkEndsWithoutAWord)
     EXPECT_EQ(view->percentText(), u"0%"_s);
 }
 
-TEST_F(DuplicateFinderScan, thatWasStoppedInTheComparisonSaysSo)
+TEST_F(DuplicateFinderScanTest, thatWasStoppedInTheComparisonSaysSo)
 {
     scanStoppedAt(files::Operation::read);
     ASSERT_TRUE(duplicates.groups().empty());
@@ -190,7 +190,7 @@ TEST_F(DuplicateFinderScan, thatWasStoppedInTheComparisonSaysSo)
     EXPECT_EQ(services.shown(), asScanned);
 }
 
-TEST_F(DuplicateFinderScan, showsItsFoldersAsTheyStand)
+TEST_F(DuplicateFinderScanTest, showsItsFoldersAsTheyStand)
 {
     test.temp.folder(u"home/a/deep"_s);
     const QStringList shown = shownDuringAScan([this] { return view->currentPathText(); });
@@ -198,14 +198,14 @@ TEST_F(DuplicateFinderScan, showsItsFoldersAsTheyStand)
                                   test.home + u"/c"_s, u"Comparing file hashes..."_s, u""_s}));
 }
 
-TEST_F(DuplicateFinderScan, showsAFolderWhoseNameIsNoTextWithReplacementCharacters)
+TEST_F(DuplicateFinderScanTest, showsAFolderWhoseNameIsNoTextWithReplacementCharacters)
 {
     test.temp.folder(u"home/a/"_s + paths::fromBytes("d\xFF"));
     const QStringList shown = shownDuringAScan([this] { return view->currentPathText(); });
     EXPECT_TRUE(shown.contains(test.home + u"/a/d\uFFFD"_s)) << shown.join(u' ').toStdString();
 }
 
-TEST_F(DuplicateFinderScan, showsItsProgressInWholePercentCutOff)
+TEST_F(DuplicateFinderScanTest, showsItsProgressInWholePercentCutOff)
 {
     for (int size = 10; size < 13; ++size) { // with these there are seven sizes to compare
         make(u"a/%1"_s.arg(size), size, 100);
@@ -216,7 +216,7 @@ TEST_F(DuplicateFinderScan, showsItsProgressInWholePercentCutOff)
     EXPECT_EQ(view->progress(), 1);
 }
 
-TEST_F(DuplicateFinderScan, shows40PercentAfterTheWalk)
+TEST_F(DuplicateFinderScanTest, shows40PercentAfterTheWalk)
 {
     view->scan();
     test.workQueue.run();
@@ -226,13 +226,13 @@ TEST_F(DuplicateFinderScan, shows40PercentAfterTheWalk)
     EXPECT_EQ(view->percentText(), u"40%"_s);
 }
 
-TEST_F(DuplicateFinderScan, showsNoEmptyTextWhileItRuns)
+TEST_F(DuplicateFinderScanTest, showsNoEmptyTextWhileItRuns)
 {
     const QStringList shown = shownDuringAScan([this] { return view->emptyText() + view->endText(); });
     EXPECT_EQ(shown, QStringList{QString()});
 }
 
-TEST_F(DuplicateFinderScan, tellsOfItsProgressNoMoreOftenThanEveryTwentiethOfASecond)
+TEST_F(DuplicateFinderScanTest, tellsOfItsProgressNoMoreOftenThanEveryTwentiethOfASecond)
 {
     const QSignalSpy told(view.get(), &DuplicateFinderView::progressChanged);
     for (int folder = 0; folder < 1000; ++folder)
@@ -253,7 +253,7 @@ TEST_F(DuplicateFinderScan, tellsOfItsProgressNoMoreOftenThanEveryTwentiethOfASe
     EXPECT_LE(told.count(), 1 + 20);
 }
 
-TEST_F(DuplicateFinderScan, tellsOfItsBeginningAndItsEndAtOnce)
+TEST_F(DuplicateFinderScanTest, tellsOfItsBeginningAndItsEndAtOnce)
 {
     for (int folder = 0; folder < 100; ++folder)
         test.temp.folder(u"home/a/%1"_s.arg(folder));
@@ -271,7 +271,7 @@ TEST_F(DuplicateFinderScan, tellsOfItsBeginningAndItsEndAtOnce)
     EXPECT_EQ(view->percentText(), u"100%"_s);
 }
 
-TEST_F(DuplicateFinderScan, tellsNothingToAScreenThatIsGone)
+TEST_F(DuplicateFinderScanTest, tellsNothingToAScreenThatIsGone)
 {
     view->scan();
     test.workQueue.run();
@@ -281,7 +281,7 @@ TEST_F(DuplicateFinderScan, tellsNothingToAScreenThatIsGone)
     EXPECT_EQ(services.shown(), asScanned);
 }
 
-TEST_F(DuplicateFinderScan, isShownByAScreenThatIsMadeMeanwhile)
+TEST_F(DuplicateFinderScanTest, isShownByAScreenThatIsMadeMeanwhile)
 {
     view->scan();
     open();
@@ -293,7 +293,7 @@ TEST_F(DuplicateFinderScan, isShownByAScreenThatIsMadeMeanwhile)
     EXPECT_EQ(view->rows()->rowCount(), 13);
 }
 
-TEST_F(DuplicateFinderScan, takesTheListAwayAndItsCommandsWithIt)
+TEST_F(DuplicateFinderScanTest, takesTheListAwayAndItsCommandsWithIt)
 {
     scan();
     QSignalSpy lists(view.get(), &DuplicateFinderView::rowsWillChange);
@@ -317,7 +317,7 @@ TEST_F(DuplicateFinderScan, takesTheListAwayAndItsCommandsWithIt)
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
-TEST_F(DuplicateFinderScan, thatIsRepeatedLosesBulkChoicesAndKeepsSingleMarks)
+TEST_F(DuplicateFinderScanTest, thatIsRepeatedLosesBulkChoicesAndKeepsSingleMarks)
 {
     scan();
     view->keepNewest();

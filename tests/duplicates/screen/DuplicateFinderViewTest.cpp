@@ -118,7 +118,7 @@ TEST_F(DuplicateFinderViewTest, findsAFinishedResultWhenItIsMade)
     EXPECT_EQ(view->scanText(), u"Rescan"_s);
 }
 
-TEST_F(DuplicateFinderViewTest, choosesTheCopiesOfAllGroups)
+TEST_F(DuplicateFinderViewTest, choosesTheFilesOfAllGroups)
 {
     scan();
     view->selectNone();
@@ -140,7 +140,7 @@ TEST_F(DuplicateFinderViewTest, choosesTheCopiesOfAllGroups)
                                              u"500: a/pack.zip b/pack.txt"_s, u"200: a/song b/song.mp3-"_s}));
 }
 
-TEST_F(DuplicateFinderViewTest, choosesTheCopiesOfGroupsThatTheFilterHidesAsWell)
+TEST_F(DuplicateFinderViewTest, choosesTheFilesOfGroupsThatTheFilterHidesAsWell)
 {
     scan();
     choose(u"images"_s);
@@ -148,7 +148,7 @@ TEST_F(DuplicateFinderViewTest, choosesTheCopiesOfGroupsThatTheFilterHidesAsWell
     EXPECT_FALSE(services.shown().join(u' ').contains(u'-'));
 }
 
-TEST_F(DuplicateFinderViewTest, choosesTheCopiesOfOneGroupAtItsHead)
+TEST_F(DuplicateFinderViewTest, choosesTheFilesOfOneGroupAtItsHead)
 {
     scan();
     view->keepNewestOf(reportHead);
@@ -160,7 +160,7 @@ TEST_F(DuplicateFinderViewTest, choosesTheCopiesOfOneGroupAtItsHead)
     EXPECT_EQ(services.shown(), asScanned);
 }
 
-TEST_F(DuplicateFinderViewTest, choosesTheCopiesOfNoGroupAtARowThatIsNoHead)
+TEST_F(DuplicateFinderViewTest, choosesTheFilesOfNoGroupAtARowThatIsNoHead)
 {
     scan();
     for (const int row : {photoHead + 1, reportHead + 3, songHead + 2, -1, 13, 1000}) {

@@ -16,7 +16,7 @@ using DuplicateRowsTest = ShownGroups;
 using Range = std::pair<int, int>;
 } // namespace
 
-TEST_F(DuplicateRowsTest, headTellsCopiesSizeAndWaste)
+TEST_F(DuplicateRowsTest, headTellsNumberSizeAndWaste)
 {
     show({group(1000, {u"/home/ada/report.pdf"_s, u"/b/other.pdf"_s, u"/c/third.pdf"_s})});
     EXPECT_EQ(text(0, "title"), u"report.pdf"_s);

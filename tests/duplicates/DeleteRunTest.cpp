@@ -8,7 +8,7 @@
 namespace {
 
 /// The delete run over real groups, with a Trash that takes what it is given and answers at once.
-struct DeleteMarked : public testing::Test
+struct DeleteRunTest : public testing::Test
 {
     DuplicateServices services;
     TestPlatform &test = services.test;
@@ -22,7 +22,7 @@ struct DeleteMarked : public testing::Test
 
     /// Makes a file of that name in each of so many folders, all of one content, and scans them in their order. The
     /// names are put into groups by their contents.
-    QStringList scanCopies(const QString &name, int count, const QByteArray &content = "equal")
+    QStringList scanEqual(const QString &name, int count, const QByteArray &content = "equal")
     {
         QStringList folders;
         QStringList made;
@@ -65,27 +65,27 @@ struct DeleteMarked : public testing::Test
 
 } // namespace
 
-TEST_F(DeleteMarked, movesWhatIsSetToGoAndGivesTheBytesFreed)
+TEST_F(DeleteRunTest, movesWhatIsSetToGoAndGivesTheBytesFreed)
 {
     services.file("0/y", "others");
     services.file("1/y", "others");
-    const QStringList copies = scanCopies("x", 3);
+    const QStringList equal = scanEqual("x", 3);
     ASSERT_EQ(services.shown(), QStringList({"5: 0/x 1/x- 2/x-", "6: 0/y 1/y-"}));
     EXPECT_EQ(duplicates.deleteMarked(), 5 + 5 + 6);
-    EXPECT_EQ(test.recycler.recycled, QStringList({copies[1], copies[2], services.inHome("1/y")}));
-    EXPECT_TRUE(files::exists(copies[0]));
+    EXPECT_EQ(test.recycler.recycled, QStringList({equal[1], equal[2], services.inHome("1/y")}));
+    EXPECT_TRUE(files::exists(equal[0]));
     EXPECT_TRUE(files::exists(services.inHome("0/y")));
-    EXPECT_FALSE(files::exists(copies[1]));
+    EXPECT_FALSE(files::exists(equal[1]));
     EXPECT_TRUE(duplicates.groups().empty());
 }
 
-TEST_F(DeleteMarked, aGroupOfThreeThatLosesOneStaysInItsPlaceAsTwo)
+TEST_F(DeleteRunTest, aGroupOfThreeThatLosesOneStaysInItsPlaceAsTwo)
 {
     services.file("0/y", "others");
     services.file("1/y", "others");
     services.file("0/z", "still more of it");
     services.file("1/z", "still more of it");
-    scanCopies("x", 3);
+    scanEqual("x", 3);
     duplicates.keepAllInAllGroups();
     ASSERT_EQ(services.shown(), QStringList({"16: 0/z 1/z", "5: 0/x 1/x 2/x", "6: 0/y 1/y"}));
     const QUuid id = duplicates.groups()[1].id;
@@ -96,67 +96,67 @@ TEST_F(DeleteMarked, aGroupOfThreeThatLosesOneStaysInItsPlaceAsTwo)
     EXPECT_EQ(duplicates.groups()[1].id, id);
 }
 
-TEST_F(DeleteMarked, aGroupOfTwoThatLosesOneGoesFromTheListThoughTheOtherIsThere)
+TEST_F(DeleteRunTest, aGroupOfTwoThatLosesOneGoesFromTheListThoughTheOtherIsThere)
 {
-    const QStringList copies = scanCopies("x", 2);
+    const QStringList equal = scanEqual("x", 2);
     duplicates.deleteMarked();
     EXPECT_TRUE(duplicates.groups().empty());
-    EXPECT_TRUE(files::exists(copies[0]));
+    EXPECT_TRUE(files::exists(equal[0]));
 }
 
-TEST_F(DeleteMarked, aGroupLeftWithOneFileThatFailedGoesFromTheListAsWell)
+TEST_F(DeleteRunTest, aGroupLeftWithOneFileThatFailedGoesFromTheListAsWell)
 {
-    const QStringList copies = scanCopies("x", 2);
+    const QStringList equal = scanEqual("x", 2);
     duplicates.toggleKeep(0, 0);
-    services.useTrash({copies[1]});
+    services.useTrash({equal[1]});
     errorOfRun();
     EXPECT_TRUE(duplicates.groups().empty());
-    EXPECT_TRUE(files::exists(copies[1]));
+    EXPECT_TRUE(files::exists(equal[1]));
     EXPECT_EQ(duplicates.markedForDeletion(), QSet<QString>()); // the failed one was not marked by a click
 }
 
-TEST_F(DeleteMarked, nothingProtectsTheLastCopyOfAGroupThatIsSetToGoWhole)
+TEST_F(DeleteRunTest, nothingProtectsTheLastFileOfAGroupThatIsSetToGoWhole)
 {
-    const QStringList copies = scanCopies("x", 3);
+    const QStringList equal = scanEqual("x", 3);
     duplicates.toggleKeep(0, 0);
     EXPECT_EQ(duplicates.deleteMarked(), 15);
-    EXPECT_EQ(test.recycler.recycled, copies);
-    for (const QString &copy : copies)
-        EXPECT_FALSE(files::exists(copy));
+    EXPECT_EQ(test.recycler.recycled, equal);
+    for (const QString &path : equal)
+        EXPECT_FALSE(files::exists(path));
     EXPECT_TRUE(duplicates.groups().empty());
 }
 
-TEST_F(DeleteMarked, aFailedFileStaysSetToGoForTheNextRun)
+TEST_F(DeleteRunTest, aFailedFileStaysSetToGoForTheNextRun)
 {
-    const QStringList copies = scanCopies("x", 3);
-    services.useTrash({copies[1]});
+    const QStringList equal = scanEqual("x", 3);
+    services.useTrash({equal[1]});
     errorOfRun();
-    EXPECT_EQ(test.recycler.recycled, copies.mid(1)); // the failure did not stop the run
+    EXPECT_EQ(test.recycler.recycled, equal.mid(1)); // the failure did not stop the run
     EXPECT_EQ(services.shown(), QStringList{"5: 0/x 1/x-"});
 
     services.useTrash();
     EXPECT_EQ(duplicates.deleteMarked(), 5);
-    EXPECT_FALSE(files::exists(copies[1]));
+    EXPECT_FALSE(files::exists(equal[1]));
     EXPECT_EQ(services.records().size(), 2U);
 }
 
-TEST_F(DeleteMarked, aGroupThatLostNothingStaysAsItIs)
+TEST_F(DeleteRunTest, aGroupThatLostNothingStaysAsItIs)
 {
-    const QStringList copies = scanCopies("x", 2);
+    const QStringList equal = scanEqual("x", 2);
     const DuplicateFileGroup before = duplicates.groups()[0];
-    services.useTrash({copies[1]});
+    services.useTrash({equal[1]});
     errorOfRun();
     EXPECT_EQ(services.shown(), QStringList{"5: 0/x 1/x-"});
     EXPECT_EQ(duplicates.groups()[0].id, before.id);
     EXPECT_EQ(duplicates.groups()[0].files[1].id, before.files[1].id);
 }
 
-TEST_F(DeleteMarked, ofSevenFailuresTheFirstFiveAreTold)
+TEST_F(DeleteRunTest, ofSevenFailuresTheFirstFiveAreTold)
 {
-    const QStringList copies = scanCopies("x", 10);
-    services.useTrash(copies.mid(3));
+    const QStringList equal = scanEqual("x", 10);
+    services.useTrash(equal.mid(3));
     const Error error = errorOfRun();
-    const QString told = failuresOf(copies.mid(3, 5)).join('\n');
+    const QString told = failuresOf(equal.mid(3, 5)).join('\n');
     EXPECT_EQ(error.domain, "Quillmere.DuplicateService");
     EXPECT_EQ(error.code, 1);
     EXPECT_EQ(error.description, "Freed 10 bytes but 7 files failed to delete:\n" + told);
@@ -164,42 +164,42 @@ TEST_F(DeleteMarked, ofSevenFailuresTheFirstFiveAreTold)
     EXPECT_EQ(record.title, "Removed 2 duplicates · 7 failed");
     EXPECT_EQ(record.detail, told);
     EXPECT_FALSE(record.success);
-    EXPECT_EQ(record.paths, copies.mid(1, 2));
+    EXPECT_EQ(record.paths, equal.mid(1, 2));
     EXPECT_EQ(record.bytesAffected, 10);
-    EXPECT_FALSE(files::exists(copies[1]));
+    EXPECT_FALSE(files::exists(equal[1]));
 }
 
-TEST_F(DeleteMarked, failuresHaveOneTitleForAnyNumber)
+TEST_F(DeleteRunTest, failuresHaveOneTitleForAnyNumber)
 {
-    const QStringList copies = scanCopies("x", 3);
-    services.useTrash({copies[2]});
+    const QStringList equal = scanEqual("x", 3);
+    services.useTrash({equal[2]});
     const Error error = errorOfRun();
     EXPECT_EQ(error.description,
-              "Freed 5 bytes but 1 files failed to delete:\n" + failuresOf({copies[2]}).first());
+              "Freed 5 bytes but 1 files failed to delete:\n" + failuresOf({equal[2]}).first());
     EXPECT_EQ(onlyRecord().title, "Removed 1 duplicates · 1 failed");
-    EXPECT_EQ(onlyRecord().detail, failuresOf({copies[2]}).first());
+    EXPECT_EQ(onlyRecord().detail, failuresOf({equal[2]}).first());
 }
 
-TEST_F(DeleteMarked, tellsPathsAsTheyStand)
+TEST_F(DeleteRunTest, tellsPathsAsTheyStand)
 {
-    const QString copy = scanCopies("%1 %2\tüx", 2)[1];
-    services.useTrash({copy});
+    const QString path = scanEqual("%1 %2\tüx", 2)[1];
+    services.useTrash({path});
     EXPECT_EQ(errorOfRun().description,
-              "Freed 0 bytes but 1 files failed to delete:\n" + copy + ": The disk says no.");
-    EXPECT_EQ(onlyRecord().detail, copy + ": The disk says no.");
+              "Freed 0 bytes but 1 files failed to delete:\n" + path + ": The disk says no.");
+    EXPECT_EQ(onlyRecord().detail, path + ": The disk says no.");
 }
 
-TEST_F(DeleteMarked, movesFilesWhoseNamesAreNoText)
+TEST_F(DeleteRunTest, movesFilesWhoseNamesAreNoText)
 {
-    const QString copy = scanCopies(paths::fromBytes("broken \xff\xfe name"), 2)[1];
+    const QString path = scanEqual(paths::fromBytes("broken \xff\xfe name"), 2)[1];
     EXPECT_EQ(duplicates.deleteMarked(), 5);
-    EXPECT_EQ(test.recycler.recycled, QStringList{copy});
-    EXPECT_FALSE(files::exists(copy));
+    EXPECT_EQ(test.recycler.recycled, QStringList{path});
+    EXPECT_FALSE(files::exists(path));
 }
 
-TEST_F(DeleteMarked, recordsARunWithoutFailures)
+TEST_F(DeleteRunTest, recordsARunWithoutFailures)
 {
-    const QStringList copies = scanCopies("x", 3);
+    const QStringList equal = scanEqual("x", 3);
     test.clock.advance(60);
     duplicates.deleteMarked();
     test.clock.advance(60);
@@ -208,20 +208,20 @@ TEST_F(DeleteMarked, recordsARunWithoutFailures)
     EXPECT_EQ(dates::secondsBetween(record.timestamp, test.clock.now()), 60);
     EXPECT_EQ(record.kind, HistoryEntry::Kind::duplicateDelete);
     EXPECT_EQ(record.title, "Removed 2 duplicate files");
-    EXPECT_EQ(record.paths, copies.mid(1));
+    EXPECT_EQ(record.paths, equal.mid(1));
     EXPECT_EQ(record.bytesAffected, 10);
     EXPECT_TRUE(record.success);
     EXPECT_FALSE(record.detail);
 }
 
-TEST_F(DeleteMarked, aSingleFileIsTitledInTheSingular)
+TEST_F(DeleteRunTest, aSingleFileIsTitledInTheSingular)
 {
-    scanCopies("x", 2);
+    scanEqual("x", 2);
     duplicates.deleteMarked();
     EXPECT_EQ(onlyRecord().title, "Removed 1 duplicate file");
 }
 
-TEST_F(DeleteMarked, recordsTheFirstTwoHundredPathsAndAllBytes)
+TEST_F(DeleteRunTest, recordsTheFirstTwoHundredPathsAndAllBytes)
 {
     for (int i = 0; i < 251; ++i)
         services.file(QStringLiteral("many/%1").arg(i));
@@ -239,7 +239,7 @@ TEST_F(DeleteMarked, recordsTheFirstTwoHundredPathsAndAllBytes)
     EXPECT_TRUE(duplicates.groups().empty());
 }
 
-TEST_F(DeleteMarked, recordsTwoHundredPathsWhole)
+TEST_F(DeleteRunTest, recordsTwoHundredPathsWhole)
 {
     for (int i = 0; i < 201; ++i)
         services.file(QStringLiteral("many/%1").arg(i));
@@ -250,10 +250,10 @@ TEST_F(DeleteMarked, recordsTwoHundredPathsWhole)
     EXPECT_EQ(onlyRecord().paths.size(), 200);
 }
 
-TEST_F(DeleteMarked, logsARunWithItsFailures)
+TEST_F(DeleteRunTest, logsARunWithItsFailures)
 {
-    const QStringList copies = scanCopies("x", 4, QByteArray(1'000'000, 'x'));
-    services.useTrash({copies[3]});
+    const QStringList equal = scanEqual("x", 4, QByteArray(1'000'000, 'x'));
+    services.useTrash({equal[3]});
     errorOfRun();
     EXPECT_EQ(test.systemLog.lines,
               QStringList{"info Duplicates: Deleted 2 duplicate files (2000000 bytes); 1 failures"});
@@ -263,9 +263,9 @@ TEST_F(DeleteMarked, logsARunWithItsFailures)
               "info Duplicates: Deleted 1 duplicate files (1000000 bytes); 0 failures");
 }
 
-TEST_F(DeleteMarked, aRunWithNothingToDoIsLoggedAndRecordedAllTheSame)
+TEST_F(DeleteRunTest, aRunWithNothingToDoIsLoggedAndRecordedAllTheSame)
 {
-    scanCopies("x", 2);
+    scanEqual("x", 2);
     duplicates.keepAllInAllGroups();
     EXPECT_EQ(services.madeHistory, nullptr); // nobody has needed the activity log yet
     EXPECT_EQ(duplicates.deleteMarked(), 0);
@@ -281,36 +281,36 @@ TEST_F(DeleteMarked, aRunWithNothingToDoIsLoggedAndRecordedAllTheSame)
     EXPECT_FALSE(record.detail);
 }
 
-TEST_F(DeleteMarked, countsTheSizesOfTheScanNotThoseOnTheDisk)
+TEST_F(DeleteRunTest, countsTheSizesOfTheScanNotThoseOnTheDisk)
 {
-    const QStringList copies = scanCopies("x", 2);
+    const QStringList equal = scanEqual("x", 2);
     services.file("1/x", "by now it is far larger");
     EXPECT_EQ(duplicates.deleteMarked(), 5);
 }
 
-TEST_F(DeleteMarked, aFileThatIsGoneAlreadyCountsAsMoved)
+TEST_F(DeleteRunTest, aFileThatIsGoneAlreadyCountsAsMoved)
 {
-    const QStringList copies = scanCopies("x", 2);
-    services.useTrash({copies[1]}); // the service can't move what is not there
-    DuplicateServices::remove(copies[1]);
+    const QStringList equal = scanEqual("x", 2);
+    services.useTrash({equal[1]}); // the service can't move what is not there
+    DuplicateServices::remove(equal[1]);
     EXPECT_EQ(duplicates.deleteMarked(), 5);
     EXPECT_TRUE(duplicates.groups().empty());
 }
 
-TEST_F(DeleteMarked, takesTheMarksOfWhatWentAndLeavesThoseOfWhatFailed)
+TEST_F(DeleteRunTest, takesTheMarksOfWhatWentAndLeavesThoseOfWhatFailed)
 {
-    const QStringList copies = scanCopies("x", 4);
+    const QStringList equal = scanEqual("x", 4);
     duplicates.keepAllInAllGroups();
     duplicates.toggleKeep(0, 1);
     duplicates.toggleKeep(0, 2);
-    services.useTrash({copies[2]});
+    services.useTrash({equal[2]});
     errorOfRun();
-    EXPECT_EQ(duplicates.markedForDeletion(), QSet<QString>{copies[2]});
+    EXPECT_EQ(duplicates.markedForDeletion(), QSet<QString>{equal[2]});
 }
 
-TEST_F(DeleteMarked, aMarkThatWentSeedsNoScanThatFindsTheFileAgain)
+TEST_F(DeleteRunTest, aMarkThatWentSeedsNoScanThatFindsTheFileAgain)
 {
-    const QStringList copies = scanCopies("x", 3);
+    const QStringList equal = scanEqual("x", 3);
     duplicates.keepAllInAllGroups();
     duplicates.toggleKeep(0, 0);
     duplicates.deleteMarked();
@@ -319,7 +319,7 @@ TEST_F(DeleteMarked, aMarkThatWentSeedsNoScanThatFindsTheFileAgain)
     EXPECT_EQ(services.shown(), QStringList{"5: 0/x 1/x- 2/x-"});
 }
 
-TEST_F(DeleteMarked, aFileThatIsListedTwiceGoesThoughItIsTheOnlyCopy)
+TEST_F(DeleteRunTest, aFileThatIsListedTwiceGoesThoughItIsTheOnlyOne)
 {
     const QString only = services.file("one/inside/x");
     services.useScanPaths({"one", "one/inside"});
@@ -331,7 +331,7 @@ TEST_F(DeleteMarked, aFileThatIsListedTwiceGoesThoughItIsTheOnlyCopy)
     EXPECT_EQ(onlyRecord().title, "Removed 1 duplicate file");
 }
 
-TEST_F(DeleteMarked, aFileThatIsListedTwiceAndSetToGoTwiceCountsTwice)
+TEST_F(DeleteRunTest, aFileThatIsListedTwiceAndSetToGoTwiceCountsTwice)
 {
     const QString only = services.file("one/inside/x");
     services.useScanPaths({"one", "one/inside"});
@@ -342,9 +342,9 @@ TEST_F(DeleteMarked, aFileThatIsListedTwiceAndSetToGoTwiceCountsTwice)
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
-TEST_F(DeleteMarked, tellsHowFarItIs)
+TEST_F(DeleteRunTest, tellsHowFarItIs)
 {
-    scanCopies("x", 3);
+    scanEqual("x", 3);
     QStringList seen;
     QObject::connect(&duplicates, &DuplicateService::deletingChanged, [&] {
         seen << QStringLiteral("%1 %2/%3")
@@ -356,19 +356,19 @@ TEST_F(DeleteMarked, tellsHowFarItIs)
     EXPECT_EQ(seen, QStringList({"deletes 0/2", "deletes 1/2", "deletes 2/2", "rests 0/0"}));
 }
 
-TEST_F(DeleteMarked, isNoLongerUnderWayAfterAFailure)
+TEST_F(DeleteRunTest, isNoLongerUnderWayAfterAFailure)
 {
-    const QStringList copies = scanCopies("x", 3);
-    services.useTrash({copies[1]});
+    const QStringList equal = scanEqual("x", 3);
+    services.useTrash({equal[1]});
     errorOfRun();
     EXPECT_FALSE(duplicates.isDeleting());
     EXPECT_EQ(duplicates.deletedFiles(), 0U);
     EXPECT_EQ(duplicates.filesToDelete(), 0U);
 }
 
-TEST_F(DeleteMarked, tellsOnceThatTheListHasShrunk)
+TEST_F(DeleteRunTest, tellsOnceThatTheListHasShrunk)
 {
-    scanCopies("x", 3);
+    scanEqual("x", 3);
     HeardSignals heard(duplicates);
     duplicates.deleteMarked();
     EXPECT_EQ(heard.take(), QStringList({"deletingChanged", "deletingChanged", "deletingChanged",

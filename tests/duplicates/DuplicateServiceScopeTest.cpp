@@ -1,5 +1,6 @@
-#include "common/SettingsKeys.h"
 #include "duplicates/DuplicateServices.h"
+
+#include "common/SettingsKeys.h"
 #include "duplicates/HeardSignals.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +8,7 @@
 namespace {
 
 /// What the duplicate finder looks at, and the commands that change it.
-struct DuplicateScope : public testing::Test
+struct DuplicateServiceScopeTest : public testing::Test
 {
     DuplicateServices services;
     TestPlatform &test = services.test;
@@ -24,13 +25,13 @@ const QStringList scopeChanged = {QStringLiteral("scopeChanged")};
 
 } // namespace
 
-TEST_F(DuplicateScope, isTheHomeFolderWithEightRulesAtTheStart)
+TEST_F(DuplicateServiceScopeTest, isTheHomeFolderWithEightRulesAtTheStart)
 {
     EXPECT_EQ(duplicates.scanPaths(), QStringList{home});
     EXPECT_EQ(duplicates.ignorePaths(), defaultRules);
 }
 
-TEST_F(DuplicateScope, addsAScanPathAtTheEndAndASecondTimeNot)
+TEST_F(DuplicateServiceScopeTest, addsAScanPathAtTheEndAndASecondTimeNot)
 {
     duplicates.addScanPath("/b");
     duplicates.addScanPath("/a");
@@ -41,7 +42,7 @@ TEST_F(DuplicateScope, addsAScanPathAtTheEndAndASecondTimeNot)
     EXPECT_TRUE(heard.take().isEmpty());
 }
 
-TEST_F(DuplicateScope, takesAScanPathAsTheTextThatItIs)
+TEST_F(DuplicateServiceScopeTest, takesAScanPathAsTheTextThatItIs)
 {
     duplicates.addScanPath("/a");
     duplicates.addScanPath("/a/");
@@ -50,7 +51,7 @@ TEST_F(DuplicateScope, takesAScanPathAsTheTextThatItIs)
     EXPECT_EQ(duplicates.scanPaths(), QStringList({home, "/a", "/a/", "/A", "/a/../a"}));
 }
 
-TEST_F(DuplicateScope, putsAReplacementInTheOldPathsPlace)
+TEST_F(DuplicateServiceScopeTest, putsAReplacementInTheOldPathsPlace)
 {
     for (const char *path : {"/a", "/b", "/c"})
         duplicates.addScanPath(path);
@@ -62,7 +63,7 @@ TEST_F(DuplicateScope, putsAReplacementInTheOldPathsPlace)
     EXPECT_EQ(duplicates.scanPaths(), QStringList({"/first", "/a", "/new", "/c"}));
 }
 
-TEST_F(DuplicateScope, replacementThatIsListedAlreadyOnlyTakesTheOldPathAway)
+TEST_F(DuplicateServiceScopeTest, replacementThatIsListedAlreadyOnlyTakesTheOldPathAway)
 {
     for (const char *path : {"/a", "/b", "/c"})
         duplicates.addScanPath(path);
@@ -74,7 +75,7 @@ TEST_F(DuplicateScope, replacementThatIsListedAlreadyOnlyTakesTheOldPathAway)
     EXPECT_EQ(duplicates.scanPaths(), QStringList({home, "/b"}));
 }
 
-TEST_F(DuplicateScope, replacingAPathByItselfOrOneThatIsNotListedChangesNothing)
+TEST_F(DuplicateServiceScopeTest, replacingAPathByItselfOrOneThatIsNotListedChangesNothing)
 {
     duplicates.addScanPath("/a");
     duplicates.replaceScanPath("/a", "/a");
@@ -85,7 +86,7 @@ TEST_F(DuplicateScope, replacingAPathByItselfOrOneThatIsNotListedChangesNothing)
     EXPECT_EQ(duplicates.scanPaths(), QStringList({home, "/a"}));
 }
 
-TEST_F(DuplicateScope, removesAScanPathEvenTheLast)
+TEST_F(DuplicateServiceScopeTest, removesAScanPathEvenTheLast)
 {
     duplicates.addScanPath("/a");
     heard.take();
@@ -98,7 +99,7 @@ TEST_F(DuplicateScope, removesAScanPathEvenTheLast)
     EXPECT_TRUE(heard.take().isEmpty());
 }
 
-TEST_F(DuplicateScope, addsARuleAtTheEndAndASecondTimeNot)
+TEST_F(DuplicateServiceScopeTest, addsARuleAtTheEndAndASecondTimeNot)
 {
     duplicates.addIgnorePath("/a");
     duplicates.addIgnorePath("vendor");
@@ -109,7 +110,7 @@ TEST_F(DuplicateScope, addsARuleAtTheEndAndASecondTimeNot)
     EXPECT_TRUE(heard.take().isEmpty());
 }
 
-TEST_F(DuplicateScope, removesARule)
+TEST_F(DuplicateServiceScopeTest, removesARule)
 {
     duplicates.addIgnorePath("/a");
     duplicates.addIgnorePath("vendor");
@@ -122,7 +123,7 @@ TEST_F(DuplicateScope, removesARule)
     EXPECT_TRUE(heard.take().isEmpty());
 }
 
-TEST_F(DuplicateScope, isResetToTheHomeFolderAndTheEightRules)
+TEST_F(DuplicateServiceScopeTest, isResetToTheHomeFolderAndTheEightRules)
 {
     duplicates.addScanPath("/a");
     duplicates.removeScanPath(home);
@@ -137,7 +138,7 @@ TEST_F(DuplicateScope, isResetToTheHomeFolderAndTheEightRules)
     EXPECT_EQ(heard.take(), scopeChanged);
 }
 
-TEST_F(DuplicateScope, theEightRulesAreBuiltInWhateverTheListHolds)
+TEST_F(DuplicateServiceScopeTest, theEightRulesAreBuiltInWhateverTheListHolds)
 {
     duplicates.addIgnorePath("/user");
     duplicates.removeIgnorePath(".git");
@@ -147,7 +148,7 @@ TEST_F(DuplicateScope, theEightRulesAreBuiltInWhateverTheListHolds)
         EXPECT_FALSE(duplicates.isBuiltIn(rule)) << rule.toStdString();
 }
 
-TEST_F(DuplicateScope, aScanPathAtOrBelowABuiltInFolderOverridesIt)
+TEST_F(DuplicateServiceScopeTest, aScanPathAtOrBelowABuiltInFolderOverridesIt)
 {
     const QString library = home + "/Library";
     EXPECT_FALSE(duplicates.isOverridden(library)); // though it lies below the home folder
@@ -163,7 +164,7 @@ TEST_F(DuplicateScope, aScanPathAtOrBelowABuiltInFolderOverridesIt)
     }
 }
 
-TEST_F(DuplicateScope, noBareRuleAndNoneOfTheUsersIsEverOverridden)
+TEST_F(DuplicateServiceScopeTest, noBareRuleAndNoneOfTheUsersIsEverOverridden)
 {
     duplicates.addScanPath(home + "/node_modules");
     duplicates.addScanPath("node_modules");
@@ -174,7 +175,7 @@ TEST_F(DuplicateScope, noBareRuleAndNoneOfTheUsersIsEverOverridden)
     EXPECT_FALSE(duplicates.isOverridden("/user"));
 }
 
-TEST_F(DuplicateScope, aBuiltInFolderIsScannedFromARootInItWhileOthersStayOut)
+TEST_F(DuplicateServiceScopeTest, aBuiltInFolderIsScannedFromARootInItWhileOthersStayOut)
 {
     services.file("Library/Mail/x");
     services.file("Library/y");
@@ -195,7 +196,7 @@ TEST_F(DuplicateScope, aBuiltInFolderIsScannedFromARootInItWhileOthersStayOut)
     EXPECT_TRUE(services.shown()[0].startsWith("5: z "));
 }
 
-TEST_F(DuplicateScope, anExclusionOfTheUserThatHoldsAScanPathHasNoEffectOnIt)
+TEST_F(DuplicateServiceScopeTest, anExclusionOfTheUserThatHoldsAScanPathHasNoEffectOnIt)
 {
     services.file("one/x");
     services.file("one/y");
@@ -213,7 +214,7 @@ TEST_F(DuplicateScope, anExclusionOfTheUserThatHoldsAScanPathHasNoEffectOnIt)
     EXPECT_TRUE(duplicates.groups().empty());
 }
 
-TEST_F(DuplicateScope, smallestSizeIsReadFromTheSettingsAtTheStart)
+TEST_F(DuplicateServiceScopeTest, smallestSizeIsReadFromTheSettingsAtTheStart)
 {
     EXPECT_EQ(duplicates.minFileSize(), 102400); // nothing stored
     test.defaults.registerDefaults(settings::registeredDefaults());
@@ -235,7 +236,7 @@ TEST_F(DuplicateScope, smallestSizeIsReadFromTheSettingsAtTheStart)
     EXPECT_EQ(duplicates.minFileSize(), 102400); // a running one does not look again
 }
 
-TEST_F(DuplicateScope, smallestSizeIsWrittenThroughAtOnce)
+TEST_F(DuplicateServiceScopeTest, smallestSizeIsWrittenThroughAtOnce)
 {
     duplicates.setMinFileSize(qint64(3) << 32);
     EXPECT_EQ(duplicates.minFileSize(), qint64(3) << 32);
@@ -243,7 +244,7 @@ TEST_F(DuplicateScope, smallestSizeIsWrittenThroughAtOnce)
     EXPECT_EQ(heard.take(), QStringList{"minFileSizeChanged"});
 }
 
-TEST_F(DuplicateScope, aRestartKeepsTheSmallestSizeAndBringsTheListsBack)
+TEST_F(DuplicateServiceScopeTest, aRestartKeepsTheSmallestSizeAndBringsTheListsBack)
 {
     duplicates.setMinFileSize(1234);
     duplicates.addScanPath("/a");

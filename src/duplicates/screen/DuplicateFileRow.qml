@@ -27,7 +27,7 @@ T.ItemDelegate {
     Accessible.description: spoken
 
     contentItem: Item {
-        CopyBadge {
+        DuplicateFileBadge {
             id: pill
             anchors.verticalCenter: parent.verticalCenter
             text: row.badge
@@ -65,7 +65,7 @@ T.ItemDelegate {
         }
         IconButton {
             id: reveal
-            objectName: "revealCopy"
+            objectName: "revealFile"
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             symbol: "folder"

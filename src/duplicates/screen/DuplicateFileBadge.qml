@@ -1,7 +1,7 @@
 import QtQuick
 import Quillmere
 
-// What becomes of a copy.
+// What becomes of a file.
 Rectangle {
     id: pill
 

@@ -22,7 +22,7 @@ Card {
         width: parent.width - Theme.unit * 8
         spacing: Theme.unit * 6
 
-        ScopeColumn {
+        DuplicateScopeColumn {
             id: folders
             width: (parent.width - parent.spacing) / 2
             title: panel.view.texts.scanDirectories
@@ -33,13 +33,13 @@ Card {
             rows: panel.scope.scanPaths
             listName: "scanPathList"
             onAdded: panel.scope.addFolder()
-            delegate: ScanPathRow {
+            delegate: DuplicateScanPathRow {
                 view: panel.view
                 onChanged: panel.scope.changeScanPath(index)
                 onRemoved: panel.scope.removeScanPath(index)
             }
         }
-        ScopeColumn {
+        DuplicateScopeColumn {
             width: folders.width
             title: panel.view.texts.ignoreDirectories
             emptyText: ""
@@ -49,7 +49,7 @@ Card {
             rows: panel.scope.rules
             listName: "ruleList"
             onAdded: panel.scope.addExclusion()
-            delegate: RuleRow {
+            delegate: DuplicateRuleRow {
                 view: panel.view
                 onRemoved: panel.scope.removeExclusion(index)
             }

@@ -9,7 +9,7 @@ namespace {
 
 /// Two groups of three and of two files: "one/big", "two/big" and "three/big", and "one/small" and "two/small". A group
 /// without files can't be tested: only a scan makes groups, and each of its has two files at least.
-struct DuplicateMarks : public testing::Test
+struct DuplicateServiceKeepTest : public testing::Test
 {
     DuplicateServices services;
     DuplicateService &duplicates = services.duplicates;
@@ -60,13 +60,13 @@ const QStringList asScanned = {QStringLiteral("15: one/big two/big- three/big-")
 
 } // namespace
 
-TEST_F(DuplicateMarks, beginWithTheFirstCopyKept)
+TEST_F(DuplicateServiceKeepTest, beginWithTheFirstFileKept)
 {
     EXPECT_EQ(services.shown(), asScanned);
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
-TEST_F(DuplicateMarks, aClickTurnsOneFileAndTellsItAlone)
+TEST_F(DuplicateServiceKeepTest, aClickTurnsOneFileAndTellsItAlone)
 {
     duplicates.toggleKeep(0, 0);
     EXPECT_EQ(services.shown(), QStringList({"15: one/big- two/big- three/big-", small()}));
@@ -85,7 +85,7 @@ TEST_F(DuplicateMarks, aClickTurnsOneFileAndTellsItAlone)
     EXPECT_EQ(heard.take(), QStringList({"fileChanged 1 1", "fileChanged 0 0"}));
 }
 
-TEST_F(DuplicateMarks, aClickOnWhatIsNotThereDoesNothing)
+TEST_F(DuplicateServiceKeepTest, aClickOnWhatIsNotThereDoesNothing)
 {
     duplicates.toggleKeep(0, 3);
     duplicates.toggleKeep(1, 2);
@@ -97,7 +97,7 @@ TEST_F(DuplicateMarks, aClickOnWhatIsNotThereDoesNothing)
     EXPECT_TRUE(heard.take().isEmpty());
 }
 
-TEST_F(DuplicateMarks, keepOnlyLetsAllOthersOfTheGroupGo)
+TEST_F(DuplicateServiceKeepTest, keepOnlyLetsAllOthersOfTheGroupGo)
 {
     duplicates.keepOnly(0, 2);
     EXPECT_EQ(services.shown(), QStringList({"15: one/big- two/big- three/big", "5: one/small two/small-"}));
@@ -107,7 +107,7 @@ TEST_F(DuplicateMarks, keepOnlyLetsAllOthersOfTheGroupGo)
     EXPECT_EQ(heard.take(), QStringList{"groupChanged 1"});
 }
 
-TEST_F(DuplicateMarks, keepOnlyOfWhatIsNotThereDoesNothing)
+TEST_F(DuplicateServiceKeepTest, keepOnlyOfWhatIsNotThereDoesNothing)
 {
     duplicates.keepOnly(0, 3);
     duplicates.keepOnly(2, 0);
@@ -116,7 +116,7 @@ TEST_F(DuplicateMarks, keepOnlyOfWhatIsNotThereDoesNothing)
     EXPECT_TRUE(heard.take().isEmpty());
 }
 
-TEST_F(DuplicateMarks, keepNewestAndOldestWorkInTheGroupNamed)
+TEST_F(DuplicateServiceKeepTest, keepNewestAndOldestWorkInTheGroupNamed)
 {
     duplicates.keepOldest(groupId(0));
     EXPECT_EQ(services.shown(), QStringList({"15: one/big- two/big three/big-", "5: one/small two/small-"}));
@@ -128,7 +128,7 @@ TEST_F(DuplicateMarks, keepNewestAndOldestWorkInTheGroupNamed)
     EXPECT_EQ(heard.take(), QStringList{"groupChanged 1"});
 }
 
-TEST_F(DuplicateMarks, keepNewestKeepsAllThatShareTheLatestDate)
+TEST_F(DuplicateServiceKeepTest, keepNewestKeepsAllThatShareTheLatestDate)
 {
     make("three/big", 300);
     rescan();
@@ -138,7 +138,7 @@ TEST_F(DuplicateMarks, keepNewestKeepsAllThatShareTheLatestDate)
     EXPECT_EQ(big(), "15: one/big- two/big three/big-");
 }
 
-TEST_F(DuplicateMarks, keepOldestKeepsAllThatShareTheEarliestDate)
+TEST_F(DuplicateServiceKeepTest, keepOldestKeepsAllThatShareTheEarliestDate)
 {
     make("three/big", 100);
     rescan();
@@ -148,7 +148,7 @@ TEST_F(DuplicateMarks, keepOldestKeepsAllThatShareTheEarliestDate)
     EXPECT_EQ(big(), "15: one/big two/big- three/big-");
 }
 
-TEST_F(DuplicateMarks, aGroupThatIsNotThereIsPassedOver)
+TEST_F(DuplicateServiceKeepTest, aGroupThatIsNotThereIsPassedOver)
 {
     const QUuid earlier = groupId(0);
     rescan();
@@ -161,13 +161,13 @@ TEST_F(DuplicateMarks, aGroupThatIsNotThereIsPassedOver)
     EXPECT_TRUE(heard.take().isEmpty());
 }
 
-TEST_F(DuplicateMarks, aGroupsIndexIsItsPlaceInTheList)
+TEST_F(DuplicateServiceKeepTest, aGroupsIndexIsItsPlaceInTheList)
 {
     EXPECT_EQ(duplicates.indexOf(groupId(0)), 0U);
     EXPECT_EQ(duplicates.indexOf(groupId(1)), 1U);
 }
 
-TEST_F(DuplicateMarks, theCommandsForAllGroupsReachEachOfThem)
+TEST_F(DuplicateServiceKeepTest, theCommandsForAllGroupsReachEachOfThem)
 {
     duplicates.keepAllInAllGroups();
     EXPECT_EQ(services.shown(), QStringList({"15: one/big two/big three/big", "5: one/small two/small"}));
@@ -183,7 +183,7 @@ TEST_F(DuplicateMarks, theCommandsForAllGroupsReachEachOfThem)
     EXPECT_EQ(heard.take(), QStringList{"keepChanged"});
 }
 
-TEST_F(DuplicateMarks, theCommandsForAllGroupsKeepAllFilesOfATie)
+TEST_F(DuplicateServiceKeepTest, theCommandsForAllGroupsKeepAllFilesOfATie)
 {
     make("three/big", 300);
     make("two/small", 100);
@@ -194,7 +194,7 @@ TEST_F(DuplicateMarks, theCommandsForAllGroupsKeepAllFilesOfATie)
     EXPECT_EQ(services.shown(), QStringList({"15: one/big- two/big three/big-", "5: one/small two/small"}));
 }
 
-TEST_F(DuplicateMarks, theCommandsForAllGroupsDoNothingToAnEmptyList)
+TEST_F(DuplicateServiceKeepTest, theCommandsForAllGroupsDoNothingToAnEmptyList)
 {
     services.useScanPaths({});
     rescan();
@@ -208,7 +208,7 @@ TEST_F(DuplicateMarks, theCommandsForAllGroupsDoNothingToAnEmptyList)
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
-TEST_F(DuplicateMarks, onlyAClickChangesTheMarks)
+TEST_F(DuplicateServiceKeepTest, onlyAClickChangesTheMarks)
 {
     duplicates.toggleKeep(0, 0);
     duplicates.toggleKeep(1, 0);
@@ -226,7 +226,7 @@ TEST_F(DuplicateMarks, onlyAClickChangesTheMarks)
     EXPECT_EQ(duplicates.markedForDeletion(), marks);
 }
 
-TEST_F(DuplicateMarks, aMarkOutlivesABulkCommandThatKeepsItsFile)
+TEST_F(DuplicateServiceKeepTest, aMarkOutlivesABulkCommandThatKeepsItsFile)
 {
     duplicates.toggleKeep(0, 0);
     duplicates.keepAllInAllGroups();
@@ -235,7 +235,7 @@ TEST_F(DuplicateMarks, aMarkOutlivesABulkCommandThatKeepsItsFile)
     EXPECT_EQ(small(), "5: one/small two/small-");
 }
 
-TEST_F(DuplicateMarks, aClickThatUndoesABulkChoiceLeavesNoMark)
+TEST_F(DuplicateServiceKeepTest, aClickThatUndoesABulkChoiceLeavesNoMark)
 {
     duplicates.keepAllInAllGroups();
     duplicates.toggleKeep(0, 1); // now it goes, and is marked

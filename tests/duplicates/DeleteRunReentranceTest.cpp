@@ -10,19 +10,19 @@
 namespace {
 
 /// A delete run that is entered again while it moves a file, as it happens when the event loop turns meanwhile. Four
-/// copies in the order of their folders, of which "1/x", "2/x" and "3/x" are set to go.
-struct DeleteMarkedReentrance : public testing::Test
+/// equal files in the order of their folders, of which "1/x", "2/x" and "3/x" are set to go.
+struct DeleteRunReentranceTest : public testing::Test
 {
     DuplicateServices services;
     TestPlatform &test = services.test;
     DuplicateService &duplicates = services.duplicates;
-    QStringList copies;
+    QStringList equal;
 
     void SetUp() override
     {
         duplicates.setMinFileSize(0);
         for (int i = 0; i < 4; ++i)
-            copies << services.file(QStringLiteral("%1/x").arg(i));
+            equal << services.file(QStringLiteral("%1/x").arg(i));
         services.useScanPaths({"0", "1", "2", "3"});
         services.scan();
     }
@@ -38,13 +38,13 @@ struct DeleteMarkedReentrance : public testing::Test
         };
     }
 
-    /// The copies that are still on the disk.
+    /// The files that are still on the disk.
     QStringList onDisk() const
     {
         QStringList there;
-        for (const QString &copy : copies) {
-            if (files::exists(copy))
-                there << copy.mid(test.home.size() + 1);
+        for (const QString &path : equal) {
+            if (files::exists(path))
+                there << path.mid(test.home.size() + 1);
         }
         return there;
     }
@@ -52,82 +52,82 @@ struct DeleteMarkedReentrance : public testing::Test
 
 } // namespace
 
-TEST_F(DeleteMarkedReentrance, aFileThatIsToStayAfterAllIsSpared)
+TEST_F(DeleteRunReentranceTest, aFileThatIsToStayAfterAllIsSpared)
 {
-    during(copies[1], [this] { duplicates.toggleKeep(0, 2); });
+    during(equal[1], [this] { duplicates.toggleKeep(0, 2); });
     EXPECT_EQ(duplicates.deleteMarked(), 10);
-    EXPECT_EQ(test.recycler.recycled, QStringList({copies[1], copies[3]}));
+    EXPECT_EQ(test.recycler.recycled, QStringList({equal[1], equal[3]}));
     EXPECT_EQ(services.shown(), QStringList{"5: 0/x 2/x"});
     EXPECT_EQ(services.records().at(0).title, "Removed 2 duplicate files");
 }
 
-TEST_F(DeleteMarkedReentrance, filesThatAreToGoOnlySinceStayInThisRun)
+TEST_F(DeleteRunReentranceTest, filesThatAreToGoOnlySinceStayInThisRun)
 {
     duplicates.toggleKeep(0, 3);
     // One before and one behind the file that moves.
-    during(copies[1], [this] {
+    during(equal[1], [this] {
         duplicates.toggleKeep(0, 0);
         duplicates.toggleKeep(0, 3);
     });
     EXPECT_EQ(duplicates.deleteMarked(), 10);
     EXPECT_EQ(onDisk(), QStringList({"0/x", "3/x"}));
     EXPECT_EQ(services.shown(), QStringList{"5: 0/x- 3/x-"});
-    EXPECT_EQ(duplicates.markedForDeletion(), QSet<QString>({copies[0], copies[3]}));
+    EXPECT_EQ(duplicates.markedForDeletion(), QSet<QString>({equal[0], equal[3]}));
 }
 
-TEST_F(DeleteMarkedReentrance, aClickOnAFileThatHasGoneBringsNothingBack)
+TEST_F(DeleteRunReentranceTest, aClickOnAFileThatHasGoneBringsNothingBack)
 {
-    during(copies[2], [this] { duplicates.toggleKeep(0, 1); });
+    during(equal[2], [this] { duplicates.toggleKeep(0, 1); });
     EXPECT_EQ(duplicates.deleteMarked(), 15);
     EXPECT_TRUE(duplicates.groups().empty());
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
-TEST_F(DeleteMarkedReentrance, aKeptFileSetToGoMeanwhileGoesInTheNextRun)
+TEST_F(DeleteRunReentranceTest, aKeptFileSetToGoMeanwhileGoesInTheNextRun)
 {
     duplicates.toggleKeep(0, 1); // two files stay
-    during(copies[2], [this] { duplicates.toggleKeep(0, 0); });
+    during(equal[2], [this] { duplicates.toggleKeep(0, 0); });
     EXPECT_EQ(duplicates.deleteMarked(), 10);
     EXPECT_EQ(duplicates.deleteMarked(), 5);
     EXPECT_EQ(onDisk(), QStringList{"1/x"});
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
-TEST_F(DeleteMarkedReentrance, aSecondRunMeanwhileDoesNothing)
+TEST_F(DeleteRunReentranceTest, aSecondRunMeanwhileDoesNothing)
 {
     qint64 freed = -1;
-    during(copies[1], [&] { freed = duplicates.deleteMarked(); });
+    during(equal[1], [&] { freed = duplicates.deleteMarked(); });
     EXPECT_EQ(duplicates.deleteMarked(), 15);
     EXPECT_EQ(freed, 0);
-    EXPECT_EQ(test.recycler.recycled, copies.mid(1));
+    EXPECT_EQ(test.recycler.recycled, equal.mid(1));
     EXPECT_EQ(services.records().size(), 1U);
     EXPECT_EQ(test.systemLog.lines.size(), 1);
 }
 
-TEST_F(DeleteMarkedReentrance, keepingAllSparesWhatHasNotGoneYet)
+TEST_F(DeleteRunReentranceTest, keepingAllSparesWhatHasNotGoneYet)
 {
-    during(copies[1], [this] { duplicates.keepAllInAllGroups(); });
+    during(equal[1], [this] { duplicates.keepAllInAllGroups(); });
     EXPECT_EQ(duplicates.deleteMarked(), 5);
     EXPECT_EQ(onDisk(), QStringList({"0/x", "2/x", "3/x"}));
     EXPECT_EQ(services.shown(), QStringList{"5: 0/x 2/x 3/x"});
 }
 
-TEST_F(DeleteMarkedReentrance, aScanMeanwhileReplacesTheGroupsAndStopsNothing)
+TEST_F(DeleteRunReentranceTest, aScanMeanwhileReplacesTheGroupsAndStopsNothing)
 {
-    during(copies[1], [this] { services.scan(); });
+    during(equal[1], [this] { services.scan(); });
     EXPECT_EQ(duplicates.deleteMarked(), 15);
     EXPECT_EQ(onDisk(), QStringList{"0/x"});
     EXPECT_TRUE(duplicates.groups().empty()); // of the new group as well one file is left
-    EXPECT_EQ(services.records().at(0).paths, copies.mid(1));
+    EXPECT_EQ(services.records().at(0).paths, equal.mid(1));
 }
 
-TEST_F(DeleteMarkedReentrance, aScanMeanwhileBringsNoFileIntoTheRun)
+TEST_F(DeleteRunReentranceTest, aScanMeanwhileBringsNoFileIntoTheRun)
 {
     duplicates.keepAllInAllGroups();
     duplicates.toggleKeep(0, 3);
     duplicates.toggleKeep(0, 0);
     // The scan sets more files to go, some of them at the places of those that the run began with.
-    during(copies[0], [this] {
+    during(equal[0], [this] {
         services.file("4/y", "others");
         services.file("5/y", "others");
         services.useScanPaths({"4", "5", "2", "1"});
@@ -141,12 +141,12 @@ TEST_F(DeleteMarkedReentrance, aScanMeanwhileBringsNoFileIntoTheRun)
     EXPECT_TRUE(duplicates.markedForDeletion().isEmpty());
 }
 
-TEST_F(DeleteMarkedReentrance, aFileIsNotSparedForAnotherThatHasItsPlaceSinceAScan)
+TEST_F(DeleteRunReentranceTest, aFileIsNotSparedForAnotherThatHasItsPlaceSinceAScan)
 {
     duplicates.keepAllInAllGroups();
     duplicates.toggleKeep(0, 0);
     duplicates.toggleKeep(0, 1);
-    during(copies[0], [this] {
+    during(equal[0], [this] {
         services.useScanPaths({"2", "3", "1"});
         services.scan();
         ASSERT_EQ(services.shown(), QStringList{"5: 2/x 3/x 1/x-"});
@@ -156,9 +156,9 @@ TEST_F(DeleteMarkedReentrance, aFileIsNotSparedForAnotherThatHasItsPlaceSinceASc
     EXPECT_EQ(services.shown(), QStringList{"5: 2/x 3/x"});
 }
 
-TEST_F(DeleteMarkedReentrance, aFileThatAScanMeanwhileHasSetToKeepIsSpared)
+TEST_F(DeleteRunReentranceTest, aFileThatAScanMeanwhileHasSetToKeepIsSpared)
 {
-    during(copies[1], [this] {
+    during(equal[1], [this] {
         services.useScanPaths({"3", "2", "0"});
         services.scan();
         ASSERT_EQ(services.shown(), QStringList{"5: 3/x 2/x- 0/x-"});
@@ -166,10 +166,10 @@ TEST_F(DeleteMarkedReentrance, aFileThatAScanMeanwhileHasSetToKeepIsSpared)
     EXPECT_EQ(duplicates.deleteMarked(), 10);
     EXPECT_EQ(onDisk(), QStringList({"0/x", "3/x"}));
     EXPECT_EQ(services.shown(), QStringList{"5: 3/x 0/x-"});
-    EXPECT_EQ(services.records().at(0).paths, QStringList({copies[1], copies[2]}));
+    EXPECT_EQ(services.records().at(0).paths, QStringList({equal[1], equal[2]}));
 }
 
-TEST_F(DeleteMarkedReentrance, aFileThatTheUserKeepsAfterAScanMeanwhileIsSpared)
+TEST_F(DeleteRunReentranceTest, aFileThatTheUserKeepsAfterAScanMeanwhileIsSpared)
 {
     int moves = 0;
     test.recycler.answers = [&](const QStringList &paths, const Recycler::Completion &done) {
@@ -185,7 +185,7 @@ TEST_F(DeleteMarkedReentrance, aFileThatTheUserKeepsAfterAScanMeanwhileIsSpared)
     EXPECT_EQ(services.shown(), QStringList{"5: 0/x 3/x"});
 }
 
-TEST_F(DeleteMarkedReentrance, eachScanMeanwhileIsAskedAnew)
+TEST_F(DeleteRunReentranceTest, eachScanMeanwhileIsAskedAnew)
 {
     int moves = 0;
     test.recycler.answers = [&](const QStringList &paths, const Recycler::Completion &done) {
@@ -198,20 +198,20 @@ TEST_F(DeleteMarkedReentrance, eachScanMeanwhileIsAskedAnew)
     EXPECT_EQ(onDisk(), QStringList{"0/x"});
 }
 
-TEST_F(DeleteMarkedReentrance, aScanMeanwhileThatIsStillUnderWayLeavesNoGroupsToTidy)
+TEST_F(DeleteRunReentranceTest, aScanMeanwhileThatIsStillUnderWayLeavesNoGroupsToTidy)
 {
-    during(copies[1], [this] { duplicates.scan(); });
+    during(equal[1], [this] { duplicates.scan(); });
     EXPECT_EQ(duplicates.deleteMarked(), 15);
     EXPECT_TRUE(duplicates.groups().empty());
     EXPECT_TRUE(duplicates.isScanning());
     test.settle();
-    EXPECT_TRUE(duplicates.groups().empty()); // one copy is left to find
+    EXPECT_TRUE(duplicates.groups().empty()); // one file is left to find
     EXPECT_EQ(onDisk(), QStringList{"0/x"});
 }
 
-TEST_F(DeleteMarkedReentrance, anotherScopeMeanwhileChangesNothing)
+TEST_F(DeleteRunReentranceTest, anotherScopeMeanwhileChangesNothing)
 {
-    during(copies[1], [this] {
+    during(equal[1], [this] {
         duplicates.resetScope();
         duplicates.setMinFileSize(1'000'000);
     });
@@ -220,7 +220,7 @@ TEST_F(DeleteMarkedReentrance, anotherScopeMeanwhileChangesNothing)
     EXPECT_EQ(duplicates.scanPaths(), QStringList{test.home});
 }
 
-TEST_F(DeleteMarkedReentrance, theEventLoopTurnsUntilEachMoveIsAnswered)
+TEST_F(DeleteRunReentranceTest, theEventLoopTurnsUntilEachMoveIsAnswered)
 {
     std::vector<std::thread> answers;
     QStringList seen;
@@ -244,7 +244,7 @@ TEST_F(DeleteMarkedReentrance, theEventLoopTurnsUntilEachMoveIsAnswered)
     EXPECT_FALSE(duplicates.isDeleting());
 }
 
-TEST_F(DeleteMarkedReentrance, commandsOfTheEventLoopReachTheRun)
+TEST_F(DeleteRunReentranceTest, commandsOfTheEventLoopReachTheRun)
 {
     QObject context;
     qint64 freed = -1;
