@@ -68,9 +68,10 @@ void fillWays(const TempHome &home, const QString &folder)
     setDay(linked, March / 7);
     setDay(make("b/plain.pdf", 'z', 150), January / 5);
     setDay(make("c/plain.pdf", 'z', 150), February / 6);
-    home.link(folder + u"/way", home.at(folder + u"/a"));
-    std::filesystem::create_hard_link(paths::toBytes(linked).toStdString(),
-                                      paths::toBytes(home.at(folder + u"/c/linked.bin")).toStdString());
+    home.link(folder + QStringLiteral("/way"), home.at(folder + QStringLiteral("/a")));
+    std::filesystem::create_hard_link(
+        paths::toBytes(linked).toStdString(),
+        paths::toBytes(home.at(folder + QStringLiteral("/c/linked.bin"))).toStdString());
 }
 
 void fillTriples(const TempHome &home, const QString &folder, int triples)

@@ -234,6 +234,20 @@ DuplicatesCase {
         compare(going().join(), byKey);
     }
 
+    function test_listThatIsNotOnViewGetsNoKeys() {
+        focusList();
+        const view = list();
+        Surroundings.holdDisk(path("a"));
+        press(Qt.Key_R, Qt.ControlModifier);
+        tryVerify(() => Surroundings.isDiskHeld(), patience, "the scan waits");
+        verify(!view.visible && !view.activeFocus);
+        press(Qt.Key_Menu);
+        compare(Program.menuLines(), "");
+        Surroundings.releaseDisk();
+        waitForScan();
+        tryVerify(() => list().activeFocus, patience, "the list has the keys again");
+    }
+
     function test_headOpensItsMenuByTheRightButton() {
         const title = groups()[0];
         openContextMenu(() => mouseClick(head(title), 60, 25, Qt.RightButton));

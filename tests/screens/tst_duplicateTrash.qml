@@ -142,6 +142,18 @@ DuplicatesCase {
         compare(gone(), usuallyGoing);
     }
 
+    function test_menuThatIsOpenAsTheRunEndsFollowsItsRow() {
+        onlyPhoto();
+        whileRecycling(beginRun, () => {
+            list().forceActiveFocus();
+            list().currentIndex = file("a/film.mov").index;
+            openContextMenu(() => press(Qt.Key_Menu));
+        });
+        tryVerify(() => list().count === 13, patience, "the row of the file has gone");
+        chooseInContext("Copy Path");
+        compare(Surroundings.clipboard(), path("a/film.mov"));
+    }
+
     function test_nothingElseCanBeDoneMeanwhile() {
         whileRecycling(beginRun, () => {
             clickFile("a/film.mov");

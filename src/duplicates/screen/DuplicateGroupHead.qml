@@ -43,9 +43,9 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         Item {
             width: parent.width
-            height: title.height
+            height: caption.height
             BodyText {
-                id: title
+                id: caption
                 width: Math.min(implicitWidth, parent.width - (marks.width > 0 ? marks.width + marks.anchors.leftMargin : 0))
                 text: head.title
                 font.weight: Font.DemiBold
@@ -53,9 +53,9 @@ Item {
             }
             Row {
                 id: marks
-                anchors.left: title.right
+                anchors.left: caption.right
                 anchors.leftMargin: Theme.unit * 2
-                anchors.verticalCenter: title.verticalCenter
+                anchors.verticalCenter: caption.verticalCenter
                 spacing: Theme.unit
                 DuplicateMark {
                     text: head.sameMark

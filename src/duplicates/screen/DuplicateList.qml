@@ -48,6 +48,8 @@ FocusScope {
         function takePlace() {
             const topRow = Math.floor(heldTop / heldHeight);
             currentIndex = holder.view.rows.rowNow(heldRow);
+            if (heldHeight === 0) // there were no rows
+                return;
             forceLayout();
             contentY = originY + heldTop + (holder.view.rows.rowNow(topRow) - topRow) * heldHeight;
             returnToBounds();

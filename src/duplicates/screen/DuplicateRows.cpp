@@ -40,15 +40,7 @@ QString badge(const DuplicateFileEntry &file)
 
 QString sameMark(samefile::Kind kind)
 {
-    switch (kind) {
-    case samefile::Kind::oneEntry:
-        return QStringLiteral("SAME FILE");
-    case samefile::Kind::hardLinks:
-        return QStringLiteral("HARD LINKS");
-    case samefile::Kind::none:
-        break;
-    }
-    return {};
+    return kind == samefile::Kind::none ? QString() : QStringLiteral("SAME FILE");
 }
 
 QString sameTip(samefile::Kind kind)

@@ -97,7 +97,7 @@ TEST_F(DuplicateRowsTest, headTellsWhereItsFilesAreOne)
         text(0, "spoken"),
         u"2 copies · 1000 B each · 1000 B wasted, SAME FILE, Two of these paths lead to one and the same file: if one goes, both are gone."_s);
     kinds.insert(groups[0].id, samefile::Kind::hardLinks);
-    EXPECT_EQ(text(0, "sameMark"), u"HARD LINKS"_s);
+    EXPECT_EQ(text(0, "sameMark"), u"SAME FILE"_s);
     EXPECT_EQ(
         text(0, "sameTip"),
         u"Some of these are hard links, names of one file: if one goes, nothing is lost and nothing is freed."_s);
