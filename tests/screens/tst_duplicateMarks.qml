@@ -2,7 +2,7 @@ import QtQuick
 import QtTest
 import Quillmere.Screens
 
-// What the Duplicate Finder tells of one file by two ways, and of the last copy: on the heads of the groups, and before a
+// What the Duplicate Finder tells of one file by two ways, and of the last file: on the heads of the groups, and before a
 // delete run.
 DuplicatesCase {
     name: "DuplicateMarks"

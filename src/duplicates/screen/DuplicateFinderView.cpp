@@ -49,6 +49,11 @@ DuplicateFinderView::DuplicateFinderView(const Platform &platform, DuplicateServ
 {
     filterRows_.reset({filters().begin(), filters().end()});
     observeService();
+    connect(&sameFiles_, &SameFileMarks::changed, &rows_, &DuplicateRows::refreshAll);
+    connect(&confirmation_, &Confirmation::changed, this, [this] {
+        if (!confirmation_.isUp())
+            question_.reset(); // what is still being looked up for it stops
+    });
     platform_.notifications.observe(notifications::rescan, this, [this](const QVariant &) { scan(); });
     showGroups();
     sameFiles_.lookUp(service_.groups());
@@ -66,11 +71,6 @@ void DuplicateFinderView::observeService()
         rows_.shrink(filteredGroups_);
         takeFigures();
         sameFiles_.lookUp(service_.groups());
-    });
-    connect(&sameFiles_, &SameFileMarks::changed, &rows_, &DuplicateRows::refreshAll);
-    connect(&confirmation_, &Confirmation::changed, this, [this] {
-        if (!confirmation_.isUp())
-            question_.reset(); // what is still being looked up for it stops
     });
     connect(&service_, &DuplicateService::fileChanged, this, [this](size_t group, size_t file) {
         rows_.refreshFile(group, file);

@@ -46,7 +46,7 @@ Item {
             height: caption.height
             BodyText {
                 id: caption
-                width: Math.min(implicitWidth, parent.width - (marks.width > 0 ? marks.width + marks.anchors.leftMargin : 0))
+                width: Math.min(implicitWidth, parent.width - marks.width - marks.anchors.leftMargin)
                 text: head.title
                 font.weight: Font.DemiBold
                 elide: Text.ElideMiddle
@@ -54,7 +54,7 @@ Item {
             Row {
                 id: marks
                 anchors.left: caption.right
-                anchors.leftMargin: Theme.unit * 2
+                anchors.leftMargin: width > 0 ? Theme.unit * 2 : 0
                 anchors.verticalCenter: caption.verticalCenter
                 spacing: Theme.unit
                 DuplicateMark {
