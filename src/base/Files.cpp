@@ -53,6 +53,26 @@ QByteArray readUpTo(const Descriptor &file, qint64 most)
     return content;
 }
 
+/// For file systems that know no exclusive rename (some FUSE and network mounts). A hard link is exclusive too; where
+/// that is refused as well (folders, no links) a look right before the rename is all there is, which leaves a moment in
+/// which another program's new file would be replaced. 0, or the error number.
+int renameAfterLook(const char *from, const char *to)
+{
+    if (link(from, to) == 0) {
+        if (unlink(from) == 0)
+            return 0;
+        const int code = errno;
+        unlink(to); // else the entry would be there twice
+        return code;
+    }
+    if (errno == EEXIST)
+        return EEXIST;
+    struct stat status = {};
+    if (lstat(to, &status) == 0)
+        return EEXIST;
+    return rename(from, to) == 0 ? 0 : errno;
+}
+
 std::optional<struct stat> followed(const QString &path)
 {
     struct stat status = {};
@@ -154,7 +174,13 @@ void makeDirectories(const QString &path)
 
 void move(const QString &from, const QString &to)
 {
-    const int code = systemcalls::renameWithoutReplacing(native(from).constData(), native(to).constData());
+    const QByteArray oldName = native(from);
+    const QByteArray newName = native(to);
+    int code = fails(Operation::move, from)
+                   ? errno
+                   : systemcalls::renameWithoutReplacing(oldName.constData(), newName.constData());
+    if (code == EINVAL)
+        code = renameAfterLook(oldName.constData(), newName.constData());
     if (code != 0)
         throw errors::fromErrno(code);
 }

@@ -167,6 +167,7 @@ enum class Operation {
     write, ///< of `writeAtomically`, whose path this and the next two get
     sync,
     rename,
+    move, ///< of `move`, with the path that it leaves; EINVAL is a file system without an exclusive rename
 };
 
 /// Asked before each of these calls with the path at hand; an error number other than 0 makes the call fail

@@ -24,7 +24,8 @@ Date modificationDate(const struct stat &status);
 /// Tells that these bytes of an open file will be read soon.
 void expectReading(int descriptor, qint64 offset, qint64 count);
 
-/// Renames and never replaces. 0, or the error number: EEXIST when the target's name is taken.
+/// Renames and never replaces. 0, or the error number: EEXIST when the target's name is taken, EINVAL where the file
+/// system knows no exclusive rename.
 int renameWithoutReplacing(const char *from, const char *to);
 
 /// A pipe of which a child process inherits no end by chance: the end to read from, then the one to write to.

@@ -34,21 +34,6 @@ std::optional<files::Extent> extent(int directory, const char *path, int flags)
     return files::Extent{kindOf(status.st_mode), status.st_size, hasHiddenName(path)};
 }
 
-/// For file systems that know no exclusive rename (EINVAL on some FUSE and network mounts). A hard link is
-/// exclusive too; where that is refused as well (folders, no links) a look right before the rename is all there
-/// is, which leaves a moment in which another program's new file would be replaced.
-int renameAfterLook(const char *from, const char *to)
-{
-    if (link(from, to) == 0)
-        return unlink(from) == 0 ? 0 : errno;
-    if (errno == EEXIST)
-        return EEXIST;
-    struct stat status = {};
-    if (lstat(to, &status) == 0)
-        return EEXIST;
-    return rename(from, to) == 0 ? 0 : errno;
-}
-
 } // namespace
 
 namespace systemcalls {
@@ -94,9 +79,7 @@ void expectReading(int descriptor, qint64 offset, qint64 count)
 
 int renameWithoutReplacing(const char *from, const char *to)
 {
-    if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0)
-        return 0;
-    return errno == EINVAL ? renameAfterLook(from, to) : errno;
+    return renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0 ? 0 : errno;
 }
 
 int openPipe(int (&ends)[2])
