@@ -3,11 +3,11 @@
 #include "base/Error.h"
 #include "base/Paths.h"
 #include "base/SystemCalls.h"
+#include "base/Threads.h"
 
 #include <cerrno>
 #include <csignal>
 #include <iterator>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -46,7 +46,8 @@ private:
 class SpawnAttributes
 {
 public:
-    SpawnAttributes()
+    /// With `hasOwnSession` the process survives the hang-up of our terminal.
+    explicit SpawnAttributes(bool hasOwnSession)
     {
         sigset_t all;
         sigset_t none;
@@ -55,7 +56,9 @@ public:
         posix_spawnattr_init(&attributes_);
         posix_spawnattr_setsigdefault(&attributes_, &all);
         posix_spawnattr_setsigmask(&attributes_, &none);
-        posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
+        const int session = hasOwnSession ? POSIX_SPAWN_SETSID : 0;
+        posix_spawnattr_setflags(
+            &attributes_, static_cast<short>(POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK | session));
     }
     ~SpawnAttributes() { posix_spawnattr_destroy(&attributes_); }
     SpawnAttributes(const SpawnAttributes &) = delete;
@@ -115,9 +118,10 @@ private:
 };
 
 /// 0, or the system's error number.
-int spawn(pid_t &child, const QString &executable, const QStringList &arguments, const SpawnActions &actions)
+int spawn(pid_t &child, const QString &executable, const QStringList &arguments, const SpawnActions &actions,
+          bool hasOwnSession)
 {
-    const SpawnAttributes attributes;
+    const SpawnAttributes attributes(hasOwnSession);
     const Arguments argumentList(executable, arguments);
     return posix_spawn(&child, argumentList.data()[0], actions.get(), attributes.get(), argumentList.data(),
                        environ);
@@ -183,7 +187,7 @@ void ChildProcess::launch()
     {
         const std::lock_guard lock(mutex_);
         pid_t child = 0;
-        const int failure = spawn(child, executable_, arguments_, actions);
+        const int failure = spawn(child, executable_, arguments_, actions, false);
         if (failure != 0)
             throw errors::fromErrno(failure);
         child_ = child;
@@ -256,9 +260,13 @@ bool ChildProcess::launchDetached(const QString &executable, const QStringList &
     if (!workingDirectory.isEmpty())
         actions.changeFolder(workingDirectory);
     pid_t child = 0;
-    if (spawn(child, executable, arguments, actions) != 0)
+    if (spawn(child, executable, arguments, actions, true) != 0)
         return false;
-    // Somebody has to collect the end of a child, whenever that is, or it stays in the process table.
-    std::thread([child] { reap(child); }).detach();
+    try {
+        // Somebody has to collect the end of a child, whenever that is, or it stays in the process table.
+        threads::runDetached([child] { reap(child); });
+    } catch (const Error &) {
+        // It has been started all the same, and its entry stays until we end.
+    }
     return true;
 }

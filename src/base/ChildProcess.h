@@ -57,8 +57,9 @@ public:
     /// The program's own exit code; none while it runs, when it was not launched and when a signal ended it.
     std::optional<int> exitCode() const;
 
-    /// Starts a program that lives on without us, in `workingDirectory` where one is given. False when it
-    /// can't be started. Its output goes where ours goes.
+    /// Starts a program that lives on without us, in a session of its own, so that the end of our terminal is
+    /// not its end, and in `workingDirectory` where one is given. False when it can't be started. Its output
+    /// goes where ours goes.
     static bool launchDetached(const QString &executable, const QStringList &arguments,
                                const QString &workingDirectory = {});
 

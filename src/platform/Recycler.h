@@ -40,8 +40,8 @@ public:
     virtual ~Recycler() = default;
 
     /// Moves items into the Trash and returns at once. A link goes itself, never what it leads to. Goes on
-    /// after an item that can't be moved. `completion` runs exactly once, on a thread of its own, and may
-    /// outlive this object.
+    /// after an item that can't be moved. `completion` runs exactly once, on a thread of its own, or
+    /// inside the call where none can be started, and may outlive this object.
     virtual void recycle(const QStringList &paths, Completion completion) = 0;
 
     /// Moves one item into the user's Trash with an administrator's permissions, for which the system asks

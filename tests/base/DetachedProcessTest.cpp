@@ -4,9 +4,11 @@
 #include "support/FifoLine.h"
 #include "support/TempHome.h"
 
+#include <csignal>
 #include <cstdlib>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +29,18 @@ TEST(DetachedProcess, runsInOurFolderWhenNoneIsGiven)
     char *here = realpath(".", nullptr);
     EXPECT_EQ(told.read(), QByteArray(here));
     free(here);
+}
+
+TEST(DetachedProcess, hasASessionOfItsOwn)
+{
+    const TempHome temp;
+    const FifoLine told(temp.at(u"told"_s));
+    ASSERT_TRUE(
+        ChildProcess::launchDetached(shell, script(u"echo $$ > \"$0\"; exec sleep 60"_s) << told.path()));
+    const pid_t child = told.read().toInt();
+    ASSERT_GT(child, 0);
+    EXPECT_EQ(getsid(child), child);
+    EXPECT_EQ(kill(child, SIGTERM), 0);
 }
 
 TEST(DetachedProcess, saysWhenItCannotBeStarted)

@@ -3,11 +3,11 @@
 #include "base/ChildProcess.h"
 #include "base/Files.h"
 #include "base/Paths.h"
+#include "base/Threads.h"
 #include "platform/linux/GioTrash.h"
 #include "platform/linux/TrashFolder.h"
 
 #include <cerrno>
-#include <thread>
 
 using AdminFailure = Recycler::AdminFailure;
 
@@ -258,9 +258,11 @@ LinuxRecycler::LinuxRecycler(QString pkexec, QString mv, LogSink &log)
 
 void LinuxRecycler::recycle(const QStringList &paths, Completion completion)
 {
-    std::thread([paths, log = log_, completion = std::move(completion)] {
-        completion(recycleAll(paths, log));
-    }).detach();
+    try {
+        threads::runDetached([paths, log = log_, completion] { completion(recycleAll(paths, log)); });
+    } catch (const Error &error) {
+        completion({{}, error});
+    }
 }
 
 std::optional<AdminFailure> LinuxRecycler::moveToTrashAsAdministrator(const QString &path)
