@@ -97,12 +97,12 @@ bool FDAService::shouldShowBanner(const QString &context) const
 
 void FDAService::startGrantPolling()
 {
-    grantPollTimer_.start(pollPeriod, [this, start = platform_.clock.now()] { poll(start); });
+    grantPollTimer_.start(pollPeriod, [this, start = platform_.clock.steadySeconds()] { poll(start); });
 }
 
-void FDAService::poll(Date start)
+void FDAService::poll(double start)
 {
-    if (dates::secondsBetween(start, platform_.clock.now()) > longestPoll) {
+    if (platform_.clock.steadySeconds() - start > longestPoll) {
         grantPollTimer_.stop();
         return;
     }

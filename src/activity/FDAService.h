@@ -75,7 +75,7 @@ private:
     };
 
     bool canListProtectedFolder() const;
-    void poll(Date start);
+    void poll(double start);
 
     const Platform &platform_;
     const Program program_;

@@ -122,11 +122,11 @@ void SidebarView::refreshDiskUsage()
 {
     isRefreshingDisk_ = true;
     emit isRefreshingDiskChanged();
-    const Date start = platform_.clock.now();
+    const double start = platform_.clock.steadySeconds();
     platform_.workQueue.post(WorkPriority::utility, [self = QPointer(this), start, &disk = diskService_,
                                                      &clock = platform_.clock, &main = platform_.mainQueue] {
         const DiskUsage usage = disk.getDiskUsage();
-        const double elapsed = dates::secondsBetween(start, clock.now());
+        const double elapsed = clock.steadySeconds() - start;
         main.postAfter(std::max(0.0, shortestSpin - elapsed), [self, usage] {
             if (self)
                 self->finishRefresh(usage);

@@ -220,6 +220,20 @@ TEST_F(SidebarViewTest, showsALateAnswerWithoutFurtherDelay)
     EXPECT_EQ(view->diskUsage().available, 300);
 }
 
+TEST_F(SidebarViewTest, spinsNoLongerWhenTheTimeIsSetMeanwhile)
+{
+    make();
+    for (const int hours : {-1, 1}) {
+        view->refreshDiskUsage();
+        test.clock.set(test.clock.now() + std::chrono::hours(hours));
+        test.workQueue.run();
+        test.mainQueue.advance(0.34);
+        EXPECT_TRUE(view->isRefreshingDisk());
+        test.mainQueue.advance(0.02);
+        EXPECT_FALSE(view->isRefreshingDisk());
+    }
+}
+
 TEST_F(SidebarViewTest, tellsTheSpinAtItsBeginningAndItsEnd)
 {
     make();

@@ -19,15 +19,19 @@ class FakeClock final : public Clock
 {
 public:
     Date now() const override { return now_.load(); }
+    double steadySeconds() const override { return steadySeconds_; }
+    /// As a user or the network does: no time passes.
     void set(Date now) { now_ = now; }
     void advance(double seconds)
     {
+        steadySeconds_ = steadySeconds_ + seconds;
         now_ =
             now_.load() + std::chrono::duration_cast<Date::duration>(std::chrono::duration<double>(seconds));
     }
 
 private:
     std::atomic<Date> now_ = Date(std::chrono::hours(24 * 365 * 50));
+    std::atomic<double> steadySeconds_ = 1000;
 };
 
 /// A desktop that writes down what it is asked for, a line a call.

@@ -26,6 +26,7 @@ class LateClock final : public Clock
 {
 public:
     Date now() const override { return SystemClock().now() + ahead; }
+    double steadySeconds() const override { return SystemClock().steadySeconds(); }
 
     std::chrono::minutes ahead{0};
 };
