@@ -127,6 +127,7 @@ Locations linuxLocations(const QString &home, const LinuxEnvironment &environmen
     locations.cleanup = cleanupRows(locations, base);
     locations.accessProbeFolders = {locations.home, base.config};
     locations.organizerDestinations = organizerDestinations(folders, locations.home);
-    locations.duplicateIgnoreRules = tables::duplicateIgnoreRules(locations.home);
+    // The "current" link of each snap leads to a folder beside it, which doubles all that is below.
+    locations.duplicateIgnoreRules = tables::duplicateIgnoreRules(locations.home) << inHome(u"snap"_s);
     return locations;
 }

@@ -13,8 +13,8 @@ namespace tables {
 void setUserFolders(Locations &locations, const UserDirectories &folders, const QStringList &applications,
                     const QStringList &library);
 
-/// The built-in locks of the duplicate scan. They are the same on every system: the home folders that they
-/// name are not there on Linux, and cost nothing.
+/// The built-in locks of the duplicate scan that every system has: the home folders that they name are not there on
+/// Linux, and cost nothing.
 QStringList duplicateIgnoreRules(const QString &home);
 
 } // namespace tables

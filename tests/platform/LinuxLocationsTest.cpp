@@ -218,7 +218,13 @@ TEST(LinuxLocations, probesHomeAndConfigurationAndKeepsTheIgnoreRules)
 {
     EXPECT_EQ(plainLinux.accessProbeFolders, QStringList({u"/home/ada"_s, u"/home/ada/.config"_s}));
     EXPECT_EQ(plainLinux.applicationSupport, u"/home/ada/.local/share"_s);
-    EXPECT_EQ(plainLinux.duplicateIgnoreRules, macLocations(u"/home/ada"_s).duplicateIgnoreRules);
+}
+
+TEST(LinuxLocations, locksTheFolderOfSnapsAfterTheEightRulesOfTheOtherSystem)
+{
+    EXPECT_EQ(macLocations(u"/home/ada"_s).duplicateIgnoreRules.size(), 8);
+    EXPECT_EQ(plainLinux.duplicateIgnoreRules,
+              macLocations(u"/home/ada"_s).duplicateIgnoreRules << u"/home/ada/snap"_s);
 }
 
 TEST(LinuxLocations, followsTheBaseFoldersOfTheEnvironment)
