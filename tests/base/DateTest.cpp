@@ -1,30 +1,14 @@
 #include "base/Date.h"
 
+#include "support/LocaleGuard.h"
+
 #include <limits>
-#include <memory>
 
 #include <gtest/gtest.h>
-#include <unicode/timezone.h>
 
 using namespace std::chrono_literals;
 
 namespace {
-
-/// Sets the current time zone for as long as it lives.
-class TimeZoneGuard
-{
-public:
-    explicit TimeZoneGuard(const char *name)
-    {
-        icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(name));
-    }
-    ~TimeZoneGuard() { icu::TimeZone::adoptDefault(before_.release()); }
-    TimeZoneGuard(const TimeZoneGuard &) = delete;
-    TimeZoneGuard &operator=(const TimeZoneGuard &) = delete;
-
-private:
-    std::unique_ptr<icu::TimeZone> before_{icu::TimeZone::createDefault()};
-};
 
 Date utc(std::chrono::year_month_day day, std::chrono::nanoseconds time = 0ns)
 {
@@ -35,7 +19,7 @@ Date utc(std::chrono::year_month_day day, std::chrono::nanoseconds time = 0ns)
 
 TEST(WholeDays, countsElapsedDaysAndNotMidnights)
 {
-    const TimeZoneGuard zone("UTC");
+    const LocaleGuard zone("en_US", "UTC");
     const Date evening = utc(2024y / 5 / 10, 23h);
     EXPECT_EQ(dates::wholeDaysBetween(evening, evening), 0);
     EXPECT_EQ(dates::wholeDaysBetween(evening, evening + 2h), 0);
@@ -46,7 +30,7 @@ TEST(WholeDays, countsElapsedDaysAndNotMidnights)
 
 TEST(WholeDays, takeTheShortDayOfSpringAsADay)
 {
-    const TimeZoneGuard zone("Europe/Berlin");
+    const LocaleGuard zone("en_US", "Europe/Berlin");
     const Date midnight = utc(2023y / 3 / 25, 23h); // 26 March, on which the clocks skip an hour
     EXPECT_EQ(dates::wholeDaysBetween(midnight, midnight + 23h), 1);
     EXPECT_EQ(dates::wholeDaysBetween(midnight, midnight + 23h - 1ms), 0);
@@ -54,7 +38,7 @@ TEST(WholeDays, takeTheShortDayOfSpringAsADay)
 
 TEST(WholeDays, takeTheLongDayOfAutumnAsADay)
 {
-    const TimeZoneGuard zone("Europe/Berlin");
+    const LocaleGuard zone("en_US", "Europe/Berlin");
     const Date midnight = utc(2023y / 10 / 28, 22h); // 29 October, which has an hour twice
     EXPECT_EQ(dates::wholeDaysBetween(midnight, midnight + 24h), 0);
     EXPECT_EQ(dates::wholeDaysBetween(midnight, midnight + 25h), 1);
@@ -63,13 +47,13 @@ TEST(WholeDays, takeTheLongDayOfAutumnAsADay)
 TEST(WholeDays, countByTheCurrentZone)
 {
     const Date midnight = utc(2023y / 3 / 25, 23h);
-    const TimeZoneGuard zone("UTC");
+    const LocaleGuard zone("en_US", "UTC");
     EXPECT_EQ(dates::wholeDaysBetween(midnight, midnight + 23h), 0);
 }
 
 TEST(WholeDays, spanAChangeOfClocksInAWeek)
 {
-    const TimeZoneGuard zone("America/New_York");
+    const LocaleGuard zone("en_US", "America/New_York");
     const Date noon = utc(2024y / 3 / 7, 17h);
     EXPECT_EQ(dates::wholeDaysBetween(noon, noon + 7 * 24h - 1h), 7);
     EXPECT_EQ(dates::wholeDaysBetween(noon, noon + 7 * 24h - 2h), 6);
@@ -77,7 +61,7 @@ TEST(WholeDays, spanAChangeOfClocksInAWeek)
 
 TEST(WholeDays, areNegativeBackwardsAndTruncatedTowardZero)
 {
-    const TimeZoneGuard zone("Europe/Berlin");
+    const LocaleGuard zone("en_US", "Europe/Berlin");
     const Date midnight = utc(2023y / 3 / 26, 22h); // 27 March
     EXPECT_EQ(dates::wholeDaysBetween(midnight, midnight - 23h), -1);
     EXPECT_EQ(dates::wholeDaysBetween(midnight, midnight - 23h + 1ms), 0);
@@ -87,7 +71,7 @@ TEST(WholeDays, areNegativeBackwardsAndTruncatedTowardZero)
 
 TEST(WholeDays, reachFromTheDistantPastToTheFarFuture)
 {
-    const TimeZoneGuard zone("UTC");
+    const LocaleGuard zone("en_US", "UTC");
     const Date epoch;
     EXPECT_EQ(dates::wholeDaysBetween(dates::distantPast, epoch), 106751);
     EXPECT_EQ(dates::wholeDaysBetween(epoch, dates::distantPast), -106751);
@@ -97,7 +81,7 @@ TEST(WholeDays, reachFromTheDistantPastToTheFarFuture)
 
 TEST(WholeDays, countAcrossTheEpoch)
 {
-    const TimeZoneGuard zone("UTC");
+    const LocaleGuard zone("en_US", "UTC");
     EXPECT_EQ(dates::wholeDaysBetween(Date(-12h), Date(12h)), 1);
     EXPECT_EQ(dates::wholeDaysBetween(Date(-12h), Date(12h - 1ms)), 0);
     EXPECT_EQ(dates::wholeDaysBetween(Date(-1ns), Date(0ns)), 0);

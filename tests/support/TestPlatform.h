@@ -24,9 +24,19 @@ struct TestPlatform
     FakeRecycler recycler;
     FakeSystemLog systemLog;
     FakeSystemInfo systemInfo;
-    Platform platform{home,      locations, defaults,      clock,     ChildPrograms(), KeyStyle::words,
-                      mainQueue, workQueue, notifications, workspace, recycler,        systemLog,
-                      systemInfo};
+    Platform platform{.home = home,
+                      .locations = locations,
+                      .defaults = defaults,
+                      .clock = clock,
+                      .programs = ChildPrograms(),
+                      .keyStyle = KeyStyle::words,
+                      .mainQueue = mainQueue,
+                      .workQueue = workQueue,
+                      .notifications = notifications,
+                      .workspace = workspace,
+                      .recycler = recycler,
+                      .systemLog = systemLog,
+                      .systemInfo = systemInfo};
     FDAService access{platform, {}};
     SizeProbes probes{platform};
 

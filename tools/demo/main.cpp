@@ -95,9 +95,19 @@ int runDemo(DemoHome &demo)
     LinuxSystemLog systemLog(clock);
     LinuxRecycler recycler(ChildPrograms().pkexec, ChildPrograms().mv, systemLog);
     const LinuxSystemInfo systemInfo;
-    const Platform platform{demo.home(),     locations, defaults,  clock,         ChildPrograms(),
-                            KeyStyle::words, mainQueue, workQueue, notifications, workspace,
-                            recycler,        systemLog, systemInfo};
+    const Platform platform{.home = demo.home(),
+                            .locations = locations,
+                            .defaults = defaults,
+                            .clock = clock,
+                            .programs = ChildPrograms(),
+                            .keyStyle = KeyStyle::words,
+                            .mainQueue = mainQueue,
+                            .workQueue = workQueue,
+                            .notifications = notifications,
+                            .workspace = workspace,
+                            .recycler = recycler,
+                            .systemLog = systemLog,
+                            .systemInfo = systemInfo};
     Appearance appearance;
     appearance.setDark(!options.isLight);
     const auto exitNow = [&demo] {

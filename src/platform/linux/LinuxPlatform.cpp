@@ -64,9 +64,19 @@ LinuxPlatform::LinuxPlatform(LinuxDesktop desktop)
     , workspace_(std::move(desktop), workQueue_)
     , systemLog_(clock_)
     , recycler_(ChildPrograms().pkexec, ChildPrograms().mv, systemLog_)
-    , platform_{home_,           locations_, defaults_,  clock_,         ChildPrograms(),
-                KeyStyle::words, mainQueue_, workQueue_, notifications_, workspace_,
-                recycler_,       systemLog_, systemInfo_}
+    , platform_{.home = home_,
+                .locations = locations_,
+                .defaults = defaults_,
+                .clock = clock_,
+                .programs = ChildPrograms(),
+                .keyStyle = KeyStyle::words,
+                .mainQueue = mainQueue_,
+                .workQueue = workQueue_,
+                .notifications = notifications_,
+                .workspace = workspace_,
+                .recycler = recycler_,
+                .systemLog = systemLog_,
+                .systemInfo = systemInfo_}
 {
 }
 
