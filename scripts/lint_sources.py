@@ -298,11 +298,13 @@ def main():
     if arguments.self_test:
         return self_test()
     build = PROJECT / "build" / "lint"
-    commands = build / "compile_commands.json"
-    if not commands.exists():
-        print("nothing to go by: cmake --preset lint && cmake --build --preset lint --target quillmere_symbol_font")
+    # Brings the compile commands up to date too. The table of symbols is the one header of ours that a build makes.
+    made = subprocess.run(["ninja", "-C", str(build), "quillmere_symbol_font"], stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, text=True, check=False)
+    if made.returncode != 0:
+        print(f"{made.stdout}\nno preset to go by: cmake --preset lint")
         return 1
-    entries = json.loads(commands.read_text(encoding="utf-8"))
+    entries = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
     wanted = [Path(folder).resolve() for folder in arguments.folders] or [PROJECT]
     units = [unit for unit in units_of(entries, PROJECT)
              if any(unit.folder.is_relative_to(folder) for folder in wanted)]
