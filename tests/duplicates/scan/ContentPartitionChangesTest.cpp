@@ -11,12 +11,6 @@
 using namespace Qt::StringLiterals;
 using namespace contents;
 
-namespace {
-
-constexpr qint64 mebibyte = 1048576;
-
-} // namespace
-
 TEST_F(ContentPartitionTest, takesAContentForAnotherOnceTheOneThatWasNotKeptHasChanged)
 {
     const QByteArray base = filled(mebibyte);

@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+inline constexpr qint64 mebibyte = 1048576; // up to here a content is compared whole
+
 /// Files in a folder, named by their number, which is their index in the table as well.
 class ContentPartitionTest : public testing::Test
 {
