@@ -1,12 +1,15 @@
-#include "base/EventLoopMainQueue.h"
+#include "activity/HistoryService.h"
+#include "Arguments.h"
 #include "base/Paths.h"
 #include "Benchmarks.h"
 #include "Commands.h"
+#include "DriverPlatform.h"
 #include "DuplicatePeer.h"
+#include "duplicates/DuplicateService.h"
 #include "duplicates/scan/DuplicateScan.h"
+#include "duplicates/screen/DuplicateFinderView.h"
 #include "DuplicateTree.h"
 #include "Measurement.h"
-#include "platform/Locations.h"
 #include "TemporaryFolder.h"
 
 #include <QCoreApplication>
@@ -16,10 +19,12 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
+#include <memory>
+#include <optional>
 #include <set>
 #include <sstream>
 #include <stdexcept>
-#include <thread>
 
 #include <unistd.h>
 
@@ -45,9 +50,10 @@ constexpr size_t silentScans = 21; // since the difference is small
 /// A generated home and what is planted in it.
 struct Home
 {
-    explicit Home(int files)
-        : planted(generateDuplicateTree(folder.path(), files, 1))
+    Home(DuplicateTreeShape shape, int files)
     {
+        shape.tree.files = files;
+        planted = generateDuplicateTree(folder.path(), shape);
     }
 
     const std::string &path() const { return folder.path(); }
@@ -57,10 +63,13 @@ struct Home
 };
 
 /// Made at its first use and kept for all benchmarks of a run.
-const Home &largeHome()
+const Home &largeHome(const DuplicateTreeShape &shape = DuplicateTreeShape::usual())
 {
-    static const Home home(manyFiles);
-    return home;
+    static std::map<std::string, std::unique_ptr<const Home>> homes; // by the shape's name
+    std::unique_ptr<const Home> &home = homes[shape.name];
+    if (!home)
+        home = std::make_unique<const Home>(shape, manyFiles);
+    return *home;
 }
 
 Command ourCommand(const std::string &home, std::int64_t minSize)
@@ -130,32 +139,43 @@ void requireAgreement(const Home &home, std::int64_t minSize)
                 peer.name + " finds other groups than were planted");
 }
 
-void compareWithPeers(const std::string &name, std::int64_t minSize, double mostOfFast)
+void compareWithPeer(const DuplicatePeer &peer, const Home &home, const std::string &name,
+                     std::int64_t minSize, double target)
 {
-    const Home &home = largeHome();
-    requireAgreement(home, minSize);
-    for (const DuplicatePeer &peer : DuplicatePeer::all()) {
-        if (!commands::isInstalled(peer.name)) {
-            measurement::printSkipped(name, peer.name + " is not installed");
-            continue;
+    if (!commands::isInstalled(peer.name)) {
+        measurement::printSkipped(name, peer.name + " is not installed");
+        return;
+    }
+    const auto comparison =
+        measurement::compareCosts([&] { return commands::run(ourCommand(home.path(), minSize)); },
+                                  [&] { return commands::run(peer.command(home.path(), minSize)); });
+    measurement::printRatio(name + "-cpu", comparison.cpu, target, "ms", peer.name);
+    measurement::printRatio(name + "-wall", comparison.wall, target, "ms", peer.name);
+}
+
+/// Against the fastest peer on both homes, against the others on the usual one.
+void compareWithPeers(const std::string &threshold, std::int64_t minSize, double mostOfFast)
+{
+    for (const DuplicateTreeShape *shape : {&DuplicateTreeShape::usual(), &DuplicateTreeShape::deep()}) {
+        const Home &home = largeHome(*shape);
+        requireAgreement(home, minSize);
+        for (const DuplicatePeer &peer : DuplicatePeer::all()) {
+            const bool isFastest = &peer == &DuplicatePeer::all().front();
+            if (isFastest || shape == &DuplicateTreeShape::usual())
+                compareWithPeer(peer, home, shape->name + threshold, minSize,
+                                isFastest ? mostOfFast : mostOfSlowPeer);
         }
-        const double target = &peer == &DuplicatePeer::all().front() ? mostOfFast : mostOfSlowPeer;
-        const auto comparison =
-            measurement::compareCosts([&] { return commands::run(ourCommand(home.path(), minSize)); },
-                                      [&] { return commands::run(peer.command(home.path(), minSize)); });
-        measurement::printRatio(name + "-cpu", comparison.cpu, target, "ms", peer.name);
-        measurement::printRatio(name + "-wall", comparison.wall, target, "ms", peer.name);
     }
 }
 
 void usualScan()
 {
-    compareWithPeers("dup-100k", usualMinimum, mostOfFastPeer);
+    compareWithPeers("-100k", usualMinimum, mostOfFastPeer);
 }
 
 void readingScan()
 {
-    compareWithPeers("dup-1k", lowMinimum, mostOfFastPeerReading);
+    compareWithPeers("-1k", lowMinimum, mostOfFastPeerReading);
 }
 
 /// Lets the system forget what it has read from disks. False where it may not be asked for that.
@@ -178,17 +198,19 @@ void coldScan()
         measurement::printSkipped("dup-cold", "the system's caches can't be dropped (needs root on Linux)");
         return;
     }
-    const Home &home = largeHome();
     const auto cold = [](const Command &command) {
         dropCaches();
         return commands::run(command);
     };
-    for (const std::int64_t minSize : {usualMinimum, lowMinimum}) {
-        const auto comparison =
-            measurement::compareCosts([&] { return cold(ourCommand(home.path(), minSize)); },
-                                      [&] { return cold(peer.command(home.path(), minSize)); }, coldRuns);
-        const std::string name = minSize == usualMinimum ? "dup-cold-100k" : "dup-cold-1k";
-        measurement::printRatio(name, comparison.wall, mostOfFastPeerCold, "ms", peer.name);
+    for (const DuplicateTreeShape *shape : {&DuplicateTreeShape::usual(), &DuplicateTreeShape::deep()}) {
+        const Home &home = largeHome(*shape);
+        for (const std::int64_t minSize : {usualMinimum, lowMinimum}) {
+            const auto comparison =
+                measurement::compareCosts([&] { return cold(ourCommand(home.path(), minSize)); },
+                                          [&] { return cold(peer.command(home.path(), minSize)); }, coldRuns);
+            const std::string name = shape->name + (minSize == usualMinimum ? "-cold-100k" : "-cold-1k");
+            measurement::printRatio(name, comparison.wall, mostOfFastPeerCold, "ms", peer.name);
+        }
     }
 }
 
@@ -202,7 +224,7 @@ double peakMemory(const std::string &home)
 
 void memory()
 {
-    const Home fewer(fewerFiles);
+    const Home fewer(DuplicateTreeShape::usual(), fewerFiles);
     const double ofFewer = peakMemory(fewer.path());
     const double ofMany = peakMemory(largeHome().path());
     measurement::printFigure("dup-memory", ofFewer / 1e6, mostMemory, "MB",
@@ -211,40 +233,68 @@ void memory()
                              mostMemoryOfFile, "bytes", "for each file more, up to 100,000");
 }
 
-/// Scans the large home as the program does, on a thread of its own beside the main loop.
-void scanBesideMainLoop(bool isPublished)
+/// The service over the large home.
+class ScanOfService
 {
-    const QString home = paths::fromBytes(largeHome().path());
-    const duplicatescan::Request request{{home}, macLocations(home).duplicateIgnoreRules, usualMinimum, {}};
-    EventLoopMainQueue queue;
-    QString current;
-    duplicatescan::Hooks hooks = {[] { return false; }, [](const QString &) {}, [] {}, [](size_t, size_t) {}};
-    if (isPublished)
-        hooks.entered = [&queue, &current](const QString &folder) {
-            queue.post([&current, folder] { current = folder; });
-        };
-    size_t groups = 0;
-    std::thread worker([&] {
-        groups = duplicatescan::run(request, hooks).groups.size();
-        queue.post([] { QCoreApplication::quit(); });
-    });
-    QCoreApplication::exec();
-    worker.join();
-    require(groups > 0 && current.isEmpty() != isPublished, "the scan did not run as it was to");
-}
+public:
+    ScanOfService()
+    {
+        service_.setMinFileSize(usualMinimum);
+        QObject::connect(&service_, &DuplicateService::isScanningChanged, &service_, [this] {
+            if (!service_.isScanning())
+                QCoreApplication::quit();
+        });
+    }
+
+    /// The scan as the Duplicate Finder shows it: the service tells each folder, the screen model takes it on, and the text
+    /// is read anew at each of its changes, as the window does.
+    void runForAView()
+    {
+        DuplicateFinderView view(platform_.platform(), service_, platform_.fileSystem(), platform_.access());
+        size_t reads = 0;
+        QObject::connect(&view, &DuplicateFinderView::progressChanged, &view,
+                         [&view, &reads] { reads += view.currentPathText().isEmpty() ? 0 : 1; });
+        service_.scan();
+        QCoreApplication::exec();
+        require(!service_.groups().empty() && reads > 0, "the scan told nothing of its way");
+    }
+
+    /// The same work with nobody to tell anything.
+    void runForNobody()
+    {
+        const duplicatescan::Request request{
+            service_.scanPaths(), service_.ignorePaths(), service_.minFileSize(), {}};
+        size_t groups = 0;
+        platform_.platform().workQueue.post(WorkPriority::userInitiated, [&] {
+            groups = duplicatescan::run(request, {[] { return false; }, [](const QString &) {}, [] {},
+                                                  [](size_t, size_t) {}})
+                         .groups.size();
+            platform_.platform().mainQueue.post([] { QCoreApplication::quit(); });
+        });
+        QCoreApplication::exec();
+        require(groups > 0, "the scan did not run as it was to");
+    }
+
+private:
+    std::optional<HistoryService> history_; // a scan records nothing, so no log is made in the home folder
+    DriverPlatform platform_{Arguments({"dup"}, {}), paths::fromBytes(largeHome().path())};
+    DuplicateService service_{platform_.platform(), platform_.fileSystem(), platform_.access(),
+                              [this]() -> HistoryService & {
+                                  return history_ ? *history_ : history_.emplace(platform_.platform());
+                              }};
+};
 
 void publishing()
 {
     int count = 0;
-    QCoreApplication application(count, nullptr);
-    const auto cost = [](bool isPublished) {
-        return measurement::Cost{
-            measurement::processTime([isPublished] { scanBesideMainLoop(isPublished); })};
-    };
-    const auto comparison = measurement::compareCosts([&cost] { return cost(true); },
-                                                      [&cost] { return cost(false); }, silentScans);
+    const QCoreApplication application(count, nullptr);
+    ScanOfService scan;
+    const auto comparison = measurement::compareCosts(
+        [&scan] { return measurement::Cost{measurement::processTime([&scan] { scan.runForAView(); })}; },
+        [&scan] { return measurement::Cost{measurement::processTime([&scan] { scan.runForNobody(); })}; },
+        silentScans);
     measurement::printRatio("dup-path", comparison.cpu, mostOfSilentScan, "ms",
-                            "the same scan telling no folder");
+                            "the same scan telling nobody");
 }
 
 } // namespace
@@ -252,10 +302,11 @@ void publishing()
 std::vector<Benchmark> benchmarks::ofDuplicates()
 {
     return {
-        {"dup-100k", "a duplicate scan of 100,000 files from 100 KB on, against other programs", usualScan},
+        {"dup-100k", "a duplicate scan of 100,000 files from 100 KB on, against other programs, in two homes",
+         usualScan},
         {"dup-1k", "the same from 1 KB on", readingScan},
         {"dup-memory", "memory of a duplicate scan by the number of files", memory},
-        {"dup-path", "a duplicate scan that shows the folder it is in against one that does not", publishing},
+        {"dup-path", "a duplicate scan that the screen follows against one that nobody does", publishing},
         {"dup-cold", "dup-100k and dup-1k against jdupes with nothing of the disk in memory", coldScan},
     };
 }

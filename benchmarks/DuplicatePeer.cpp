@@ -4,10 +4,10 @@ namespace {
 
 using commands::Command;
 
-/// With its comparison of all bytes after the hashes agree.
+/// With its comparison of all bytes after the hashes agree, and hard links as copies, which they are for us.
 Command jdupes(const std::string &root, std::int64_t minSize)
 {
-    return {"jdupes", "-r", "-q", "-A", "-X", "size+=:" + std::to_string(minSize), root};
+    return {"jdupes", "-r", "-q", "-A", "-H", "-X", "size+=:" + std::to_string(minSize), root};
 }
 
 Command rmlint(const std::string &root, std::int64_t minSize)

@@ -14,16 +14,10 @@ using treeparts::Random;
 
 constexpr std::int64_t largestSmall = 1 << 20; // bytes
 constexpr std::int64_t smallest = 16;          // bytes: room for two stamps
-constexpr size_t largeSpread = 1 << 16;        // bytes that a large file has at most beyond 1 MiB
-constexpr double medianSize = 2048;            // bytes
-constexpr double spread = 1.6;
 
 constexpr size_t perMille = 1000;
-constexpr size_t largeShare = 31;  // contents in a thousand; a few more small ones have a twin's size
-constexpr size_t asideShare = 50;  // likewise
-constexpr size_t groupEvery = 25;  // one content in so many has two copies or more
-constexpr size_t fewestCopies = 2; // with the next one a fifth of all files
-constexpr size_t mostCopies = 10;
+constexpr size_t asideShare = 50; // contents in a thousand
+constexpr size_t fewestCopies = 2;
 constexpr std::uint64_t twinEvery = 50; // one content in so many has a twin
 constexpr size_t largestAside = 1000;   // bytes, so that those who look there have no more to compare
 constexpr size_t copiedAsideEvery = 40; // ... but for one aside file in so many, a copy of any size
@@ -76,11 +70,13 @@ private:
 class Maker
 {
 public:
-    Maker(const std::string &home, int files, std::uint64_t seed)
-        : random_(seed)
-        , folders_(treeparts::makeFolders(home, {.files = files, .filesPerFolder = 20}, random_))
+    Maker(const std::string &home, const DuplicateTreeShape &shape)
+        : shape_(shape)
+        , random_(shape.tree.seed)
+        , folders_(treeparts::makeFolders(home, shape.tree, random_))
         , bodies_(random_)
-        , wanted_(files)
+        , sizes_(std::log(shape.tree.medianSize), shape.tree.spread)
+        , wanted_(shape.tree.files)
     {
         makeAsideFolders(home);
     }
@@ -120,8 +116,10 @@ private:
             twinSize_ = smallSize();
         if (content.isTwin)
             content.size = twinSize_;
-        else if (below(random_, perMille) < largeShare)
-            content.size = largestSmall + 1 + static_cast<std::int64_t>(below(random_, largeSpread));
+        else if (below(random_, perMille) < shape_.largePerMille)
+            content.size =
+                largestSmall + 1
+                + static_cast<std::int64_t>(below(random_, static_cast<size_t>(shape_.largestBeyond)));
         else
             content.size = smallSize();
         return content;
@@ -130,13 +128,16 @@ private:
     void plantCopies()
     {
         const Content content = nextContent();
-        const size_t drawn = below(random_, groupEvery) == 0
-                                 ? fewestCopies + below(random_, mostCopies - fewestCopies + 1)
+        const size_t drawn = below(random_, shape_.groupEvery) == 0
+                                 ? fewestCopies + below(random_, shape_.mostCopies - fewestCopies + 1)
                                  : 1;
         const size_t copies = std::min(drawn, static_cast<size_t>(wanted_ - made_));
         PlantedTree::Group group{content.size, {}};
-        for (size_t copy = 0; copy < copies; ++copy)
-            group.paths.push_back(write(folders_[below(random_, folders_.size())], "", content));
+        for (size_t copy = 0; copy < copies; ++copy) {
+            const std::string &folder = folders_[below(random_, folders_.size())];
+            const bool isLink = copy > 0 && shape_.linkEvery > 0 && below(random_, shape_.linkEvery) == 0;
+            group.paths.push_back(isLink ? link(folder, group.paths.front()) : write(folder, "", content));
+        }
         if (copies < fewestCopies)
             return;
         tree_.groups.push_back(std::move(group));
@@ -156,19 +157,32 @@ private:
         tree_.asides.insert(write(folders[below(random_, folders.size())], isHiddenFile ? "." : "", content));
     }
 
-    /// Gives the path.
+    std::string nextPath(const std::string &folder, const char *dot)
+    {
+        return folder + "/" + dot + "file " + std::to_string(made_++) + ".dat";
+    }
+
+    /// Gives the path, as the next one does.
+    std::string link(const std::string &folder, const std::string &file)
+    {
+        std::string path = nextPath(folder, "");
+        treeparts::makeLink(path, file);
+        return path;
+    }
+
     std::string write(const std::string &folder, const char *dot, const Content &content)
     {
-        std::string path = folder + "/" + dot + "file " + std::to_string(made_++) + ".dat";
+        std::string path = nextPath(folder, dot);
         treeparts::makeFile(path, bodies_.bytes(content), content.size);
         return path;
     }
 
+    const DuplicateTreeShape &shape_;
     Random random_;
     const std::vector<std::string> folders_;
     std::vector<std::string> asideFolders_;
     Bodies bodies_;
-    std::lognormal_distribution<double> sizes_{std::log(medianSize), spread};
+    std::lognormal_distribution<double> sizes_;
     const int wanted_;
     int made_ = 0;
     std::uint64_t nextNumber_ = 0;
@@ -179,7 +193,44 @@ private:
 
 } // namespace
 
-PlantedTree generateDuplicateTree(const std::string &home, int files, std::uint64_t seed)
+/// Few small files have the size of another of no kin, folders hold some twenty files, and one file in five is one of two
+/// to ten equal ones.
+const DuplicateTreeShape &DuplicateTreeShape::usual()
 {
-    return Maker(home, files, seed).run();
+    static const DuplicateTreeShape shape = {
+        .name = "dup",
+        .tree = {.filesPerFolder = 20, .medianSize = 2048, .spread = 1.6},
+        .largePerMille = 31,
+        .largestBeyond = 1 << 16,
+        .groupEvery = 25,
+        .mostCopies = 10,
+    };
+    return shape;
+}
+
+/// A home of projects and media: folders of few files that reach far down, sizes that mostly stand alone, pairs rather
+/// than crowds of equal files, some of them hard links, and a few films.
+const DuplicateTreeShape &DuplicateTreeShape::deep()
+{
+    static const DuplicateTreeShape shape = {
+        .name = "deep",
+        .tree = {.seed = 2,
+                 .filesPerFolder = 8,
+                 .topFolders = 12,
+                 .shallowestBranch = 4,
+                 .deepestBranch = 7,
+                 .medianSize = 3000,
+                 .spread = 2.2},
+        .largePerMille = 2,
+        .largestBeyond = 16 << 20,
+        .groupEvery = 12,
+        .mostCopies = 3,
+        .linkEvery = 10,
+    };
+    return shape;
+}
+
+PlantedTree generateDuplicateTree(const std::string &home, const DuplicateTreeShape &shape)
+{
+    return Maker(home, shape).run();
 }

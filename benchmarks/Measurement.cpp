@@ -136,6 +136,12 @@ void printFigure(const std::string &name, double figure, double target, const st
     fflush(stdout);
 }
 
+void printFigure(const std::string &name, double figure, const std::string &unit, const std::string &note)
+{
+    printf("%-14s %8.3f %-5s  %s\n", name.c_str(), figure, unit.c_str(), note.c_str());
+    fflush(stdout);
+}
+
 void printSkipped(const std::string &name, const std::string &reason)
 {
     printf("%-14s skipped: %s\n", name.c_str(), reason.c_str());

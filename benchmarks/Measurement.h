@@ -64,6 +64,9 @@ void printRatio(const std::string &name, const Comparison &comparison, double ta
 void printFigure(const std::string &name, double figure, double target, const std::string &unit,
                  const std::string &note);
 
+/// The same without a target.
+void printFigure(const std::string &name, double figure, const std::string &unit, const std::string &note);
+
 /// Prints the line of what could not be measured here, and why.
 void printSkipped(const std::string &name, const std::string &reason);
 

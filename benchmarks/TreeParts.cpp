@@ -17,9 +17,6 @@ struct Folder
     int deepest = 0; ///< the level that its branch reaches
 };
 
-constexpr int shallowestBranch = 3;
-constexpr int deepestBranch = 5;
-
 void requireCall(bool done, const std::string &path)
 {
     if (!done)
@@ -38,14 +35,14 @@ size_t below(Random &random, size_t end)
 std::vector<std::string> makeFolders(const std::string &root, const TreeShape &shape, Random &random)
 {
     const auto wanted = static_cast<size_t>(std::max(1, shape.files / std::max(1, shape.filesPerFolder)));
-    std::vector<Folder> folders = {{root, 0, deepestBranch}};
+    const auto branchDepths = static_cast<size_t>(shape.deepestBranch - shape.shallowestBranch + 1);
+    std::vector<Folder> folders = {{root, 0, shape.deepestBranch}};
     std::vector<size_t> open; // those that may get a folder, by index; the root as long as it lacks some
     while (folders.size() < wanted) {
         const bool isTop = folders.size() <= static_cast<size_t>(shape.topFolders) || open.empty();
         const Folder parent = isTop ? folders.front() : folders[open[below(random, open.size())]];
         const int deepest =
-            isTop ? shallowestBranch + static_cast<int>(below(random, deepestBranch - shallowestBranch + 1))
-                  : parent.deepest;
+            isTop ? shape.shallowestBranch + static_cast<int>(below(random, branchDepths)) : parent.deepest;
         const Folder made = {parent.path + "/folder " + std::to_string(folders.size()), parent.level + 1,
                              deepest};
         makeFolder(made.path);
@@ -63,6 +60,11 @@ std::vector<std::string> makeFolders(const std::string &root, const TreeShape &s
 void makeFolder(const std::string &path)
 {
     requireCall(mkdir(path.c_str(), 0777) == 0, path);
+}
+
+void makeLink(const std::string &path, const std::string &file)
+{
+    requireCall(link(file.c_str(), path.c_str()) == 0, path);
 }
 
 void makeFile(const std::string &path, std::string_view content, std::int64_t size)

@@ -22,6 +22,9 @@ std::vector<std::string> makeFolders(const std::string &root, const TreeShape &s
 /// Makes one folder.
 void makeFolder(const std::string &path);
 
+/// Makes another name of a file: a hard link.
+void makeLink(const std::string &path, const std::string &file);
+
 /// Makes a file of that content, and a hole behind it up to `size` bytes.
 void makeFile(const std::string &path, std::string_view content, std::int64_t size);
 

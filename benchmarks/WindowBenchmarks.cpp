@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
+#include <cstdlib>
 #include <map>
 #include <stdexcept>
 #include <thread>
@@ -43,6 +45,62 @@ void startToFirstFrame()
                                   [&environment] { return start(EMPTY_WINDOW_PROGRAM, environment); });
     measurement::printRatio("start-cpu", comparison.cpu, mostStart, "ms", "empty window");
     measurement::printRatio("start-wall", comparison.wall, mostStart, "ms", "empty window");
+}
+
+/// How a window is drawn, by the variables that say so.
+struct Drawing
+{
+    std::string name;
+    WindowProcess::Environment variables;
+};
+
+/// As the program chooses by itself, and with OpenGL computed by the processor, which is what a machine without a render
+/// node has else.
+const std::vector<Drawing> &drawings()
+{
+    static const std::vector<Drawing> both = {
+        {"own", {{"QT_QUICK_BACKEND", ""}}},
+        {"opengl", {{"QT_QUICK_BACKEND", ""}, {"QSG_RHI_BACKEND", "opengl"}, {"LIBGL_ALWAYS_SOFTWARE", "1"}}},
+    };
+    return both;
+}
+
+/// Resident memory of the program at its first frame, in MiB.
+double memoryAtFirstFrame(WindowProcess::Environment environment)
+{
+    environment["QT_QPA_GENERIC_PLUGINS"] = "firstframe";
+    WindowProcess process({QUILLMERE_PROGRAM}, environment);
+    process.awaitReady();
+    return process.memory().resident;
+}
+
+/// On the display at hand, since without one there is no OpenGL.
+void startByDrawing()
+{
+    const char *display = getenv("DISPLAY"); // NOLINT(concurrency-mt-unsafe): no other thread runs
+    if (!display) {
+        measurement::printSkipped("render", "there is no display (xvfb-run gives one)");
+        return;
+    }
+    const TemporaryFolder folder;
+    auto environment = WindowProcess::environment(folder.folder("home"), folder.folder("runtime"));
+    environment["DISPLAY"] = display;
+    environment["QT_QPA_PLATFORM"] = "xcb";
+    for (const Drawing &drawing : drawings()) {
+        auto drawn = drawing.variables;
+        drawn.insert(environment.begin(), environment.end());
+        std::vector<double> wall;
+        const double cpu = measurement::median([&] {
+            const measurement::Cost cost = start(QUILLMERE_PROGRAM, drawn);
+            wall.push_back(cost.wall);
+            return cost.cpu;
+        });
+        wall.erase(wall.begin()); // the one that is not counted
+        const double resident = measurement::median([&drawn] { return memoryAtFirstFrame(drawn); });
+        measurement::printFigure("render-" + drawing.name, median(wall) * 1e3, "ms",
+                                 "to the first frame; CPU " + std::to_string(std::lround(cpu * 1e3))
+                                     + " ms; resident " + std::to_string(std::lround(resident)) + " MiB");
+    }
 }
 
 /// The home folder with many files, made at its first use and kept for all benchmarks of a run.
@@ -128,6 +186,7 @@ std::vector<Benchmark> benchmarks::ofWindow()
 {
     return {
         {"start", "start to the first painted frame against an empty window", startToFirstFrame},
+        {"render", "start and memory by how the window is drawn; needs a display", startByDrawing},
         {"main-loop", "our handlers during a scan of 200,000 files, and its cancel", mainLoop},
         {"memory", "memory on the Disk Analyzer with 200,000 files against an empty window", windowMemory},
     };
