@@ -1,15 +1,14 @@
 #include "activity/FDABanner.h"
 
+#include "activity/FDAContexts.h"
 #include "common/NotificationNames.h"
 #include "support/TestPlatform.h"
 
 #include <gtest/gtest.h>
 
-namespace {
+using namespace fdacontexts;
 
-const QString duplicates = QStringLiteral("Duplicate Finder");
-const QString cleanup = QStringLiteral("Smart Cleanup");
-const QString analyzer = QStringLiteral("Disk Analyzer");
+namespace {
 
 struct FDABannerTest : public testing::Test
 {

@@ -1,5 +1,6 @@
 #include "activity/FDAService.h"
 
+#include "activity/FDAContexts.h"
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "support/FifoLine.h"
@@ -12,10 +13,9 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+using namespace fdacontexts;
 
-const QString duplicates = QStringLiteral("Duplicate Finder");
-const QString analyzer = QStringLiteral("Disk Analyzer");
+namespace {
 
 struct FDAServiceTest : public testing::Test
 {
