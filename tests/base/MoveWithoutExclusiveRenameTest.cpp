@@ -16,7 +16,7 @@ using files::Operation;
 namespace {
 
 /// A file system that refuses the exclusive rename, as some FUSE and network mounts do.
-class MoveWithoutExclusiveRename : public ::testing::Test
+class MoveWithoutExclusiveRenameTest : public ::testing::Test
 {
 protected:
     void SetUp() override
@@ -31,7 +31,7 @@ protected:
 
 } // namespace
 
-TEST_F(MoveWithoutExclusiveRename, movesFilesLinksAndFolders)
+TEST_F(MoveWithoutExclusiveRenameTest, movesFilesLinksAndFolders)
 {
     temp.file(u"file"_s, "content");
     temp.link(u"link"_s, u"missing"_s);
@@ -44,7 +44,7 @@ TEST_F(MoveWithoutExclusiveRename, movesFilesLinksAndFolders)
     EXPECT_EQ(files::list(temp.path())->size(), 3U);
 }
 
-TEST_F(MoveWithoutExclusiveRename, neverReplaces)
+TEST_F(MoveWithoutExclusiveRenameTest, neverReplaces)
 {
     const QStringList sources{temp.file(u"file"_s, "mine"), temp.folder(u"folder"_s)};
     const QStringList targets{temp.file(u"other"_s, "other"), temp.folder(u"other folder"_s),
@@ -58,7 +58,7 @@ TEST_F(MoveWithoutExclusiveRename, neverReplaces)
     EXPECT_EQ(content(temp.at(u"other"_s)), "other");
 }
 
-TEST_F(MoveWithoutExclusiveRename, leavesNoSecondNameWhereTheOldOneCannotGo)
+TEST_F(MoveWithoutExclusiveRenameTest, leavesNoSecondNameWhereTheOldOneCannotGo)
 {
     EXPECT_TRUE(holdsForOrdinaryUser([] {
         const TempHome home;

@@ -3,6 +3,9 @@
 #include "common/SettingsKeys.h"
 #include "duplicates/HeardSignals.h"
 
+#include <memory>
+#include <stdexcept>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -19,6 +22,21 @@ struct DuplicateServiceScopeTest : public testing::Test
         home + "/Library", home + "/.Trash", home + "/DerivedData", "node_modules", ".git",
         "DerivedData",     ".build",         "__pycache__",
     };
+};
+
+/// The same over this system's own places.
+struct DuplicateServiceLinuxScopeTest : public testing::Test
+{
+    DuplicateServiceLinuxScopeTest() { test.usesLinuxLocations = true; }
+
+    TestPlatform test;
+    FileSystemService fileSystem{test.platform, test.probes};
+    std::unique_ptr<DuplicateService> makeService()
+    {
+        return std::make_unique<DuplicateService>(
+            test.platform, fileSystem, test.access,
+            []() -> HistoryService & { throw std::logic_error("the scope records nothing"); });
+    }
 };
 
 const QStringList scopeChanged = {QStringLiteral("scopeChanged")};
@@ -255,4 +273,33 @@ TEST_F(DuplicateServiceScopeTest, aRestartKeepsTheSmallestSizeAndBringsTheListsB
     EXPECT_EQ(next->minFileSize(), 1234);
     EXPECT_EQ(next->scanPaths(), QStringList{home});
     EXPECT_EQ(next->ignorePaths(), defaultRules);
+}
+
+TEST_F(DuplicateServiceLinuxScopeTest, keepsTheFoldersOfSnapsOutAsItsNinthRule)
+{
+    const auto duplicates = makeService();
+    const QString snap = test.home + "/snap";
+    ASSERT_EQ(duplicates->ignorePaths().size(), 9);
+    EXPECT_EQ(duplicates->ignorePaths().last(), snap);
+    test.temp.file("home/a", "equal");
+    test.temp.file("home/snap/app/12/b", "equal");
+    test.temp.link("home/snap/app/current", "12");
+    duplicates->setMinFileSize(0);
+    duplicates->scan();
+    test.settle();
+    EXPECT_TRUE(duplicates->groups().empty());
+}
+
+TEST_F(DuplicateServiceLinuxScopeTest, treatsTheNinthRuleLikeTheOthers)
+{
+    const auto duplicates = makeService();
+    const QString snap = test.home + "/snap";
+    EXPECT_TRUE(duplicates->isBuiltIn(snap));
+    EXPECT_FALSE(duplicates->isOverridden(snap));
+    duplicates->addScanPath(snap + "/app");
+    EXPECT_TRUE(duplicates->isOverridden(snap));
+    duplicates->removeIgnorePath(snap);
+    duplicates->resetScope();
+    EXPECT_EQ(duplicates->ignorePaths().last(), snap);
+    EXPECT_FALSE(duplicates->isOverridden(snap));
 }

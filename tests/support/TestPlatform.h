@@ -2,6 +2,7 @@
 
 #include "activity/FDAService.h"
 #include "filesystem/SizeProbes.h"
+#include "platform/LinuxEnvironment.h"
 #include "platform/Platform.h"
 #include "support/Fakes.h"
 #include "support/SteppedQueues.h"
@@ -14,7 +15,11 @@ struct TestPlatform
     TempHome temp; ///< "home" and "Applications" lie in it
 
     QString home = temp.folder(QStringLiteral("home"));
-    Lazy<Locations> locations{[this] { return macLocations(home, temp.at(QStringLiteral("Applications"))); }};
+    bool usesLinuxLocations = false; ///< to be set before anything asks for a place
+    Lazy<Locations> locations{[this] {
+        return usesLinuxLocations ? linuxLocations(home, {})
+                                  : macLocations(home, temp.at(QStringLiteral("Applications")));
+    }};
     Defaults defaults;
     FakeClock clock;
     SteppedMainQueue mainQueue;

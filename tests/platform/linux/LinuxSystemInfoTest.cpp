@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A kernel's folders in a temporary one: "vda2" is a device there, with the number 254:2.
-class LinuxSystemInfoFiles : public testing::Test
+class LinuxSystemInfoFilesTest : public testing::Test
 {
 protected:
-    LinuxSystemInfoFiles()
+    LinuxSystemInfoFilesTest()
     {
         temp_.folder(u"dev"_s);
         temp_.folder(u"by-label"_s);
@@ -51,7 +51,7 @@ protected:
 
 } // namespace
 
-TEST_F(LinuxSystemInfoFiles, namesTheRootVolumeByItsLabel)
+TEST_F(LinuxSystemInfoFilesTest, namesTheRootVolumeByItsLabel)
 {
     mountRootFrom(device("vda2"));
     link("../dev/vda9", u"by-label/Other"_s);
@@ -59,7 +59,7 @@ TEST_F(LinuxSystemInfoFiles, namesTheRootVolumeByItsLabel)
     EXPECT_EQ(info().rootVolumeName(), u"My Disk"_s);
 }
 
-TEST_F(LinuxSystemInfoFiles, findsTheLabelThroughADeviceMappersLink)
+TEST_F(LinuxSystemInfoFilesTest, findsTheLabelThroughADeviceMappersLink)
 {
     temp_.folder(u"dev/mapper"_s);
     link("../vda2", u"dev/mapper/group-root"_s);
@@ -69,7 +69,7 @@ TEST_F(LinuxSystemInfoFiles, findsTheLabelThroughADeviceMappersLink)
     EXPECT_EQ(info().rootVolumeName(), u"System"_s);
 }
 
-TEST_F(LinuxSystemInfoFiles, namesTheRootVolumeByItsDeviceWithoutALabel)
+TEST_F(LinuxSystemInfoFilesTest, namesTheRootVolumeByItsDeviceWithoutALabel)
 {
     mountRootFrom(device("vda2"));
     link("../dev/vda9", u"by-label/Other"_s);
@@ -77,7 +77,7 @@ TEST_F(LinuxSystemInfoFiles, namesTheRootVolumeByItsDeviceWithoutALabel)
     EXPECT_EQ(info().rootVolumeName(), u"vda2"_s);
 }
 
-TEST_F(LinuxSystemInfoFiles, findsTheDeviceOfAnEarlyBootByItsNumber)
+TEST_F(LinuxSystemInfoFilesTest, findsTheDeviceOfAnEarlyBootByItsNumber)
 {
     mountRootFrom(device("root"));
     EXPECT_EQ(info().rootVolumeName(), u"vda2"_s);
@@ -85,7 +85,7 @@ TEST_F(LinuxSystemInfoFiles, findsTheDeviceOfAnEarlyBootByItsNumber)
     EXPECT_EQ(info().rootVolumeName(), u"System"_s);
 }
 
-TEST_F(LinuxSystemInfoFiles, namesWhatIsNoDeviceByTheSourceOfItsMount)
+TEST_F(LinuxSystemInfoFilesTest, namesWhatIsNoDeviceByTheSourceOfItsMount)
 {
     for (const QByteArray &source :
          {QByteArray("overlay"), QByteArray("server:/export"), QByteArray("tank/ROOT"),
@@ -97,7 +97,7 @@ TEST_F(LinuxSystemInfoFiles, namesWhatIsNoDeviceByTheSourceOfItsMount)
     EXPECT_EQ(info().rootVolumeName(), u"odd \uFFFD"_s);
 }
 
-TEST_F(LinuxSystemInfoFiles, namesAVolumeWithoutAnySourceByItsPlace)
+TEST_F(LinuxSystemInfoFilesTest, namesAVolumeWithoutAnySourceByItsPlace)
 {
     for (const QByteArray &source : {QByteArray("none"), QByteArray("\\040"), QByteArray()}) {
         mountRootFrom(source, "0:42");
@@ -105,27 +105,27 @@ TEST_F(LinuxSystemInfoFiles, namesAVolumeWithoutAnySourceByItsPlace)
     }
 }
 
-TEST_F(LinuxSystemInfoFiles, namesTheVolumeByItsPlaceWithoutAMountTable)
+TEST_F(LinuxSystemInfoFilesTest, namesTheVolumeByItsPlaceWithoutAMountTable)
 {
     EXPECT_EQ(info().rootVolumeName(), u"/"_s);
     temp_.file(u"mountinfo"_s, QByteArray(100'000, '\xFF'));
     EXPECT_EQ(info().rootVolumeName(), u"/"_s);
 }
 
-TEST_F(LinuxSystemInfoFiles, readsTheHardwareModelTrimmed)
+TEST_F(LinuxSystemInfoFilesTest, readsTheHardwareModelTrimmed)
 {
     temp_.file(u"product_name"_s, "  Notebook 14 Pro \n");
     EXPECT_EQ(info().hardwareModel(), u"Notebook 14 Pro"_s);
 }
 
-TEST_F(LinuxSystemInfoFiles, hasNoHardwareModelWhenItIsMissingOrEmpty)
+TEST_F(LinuxSystemInfoFilesTest, hasNoHardwareModelWhenItIsMissingOrEmpty)
 {
     EXPECT_EQ(info().hardwareModel(), std::nullopt);
     temp_.file(u"product_name"_s, " \n");
     EXPECT_EQ(info().hardwareModel(), std::nullopt);
 }
 
-TEST_F(LinuxSystemInfoFiles, boundsAndRepairsTheHardwareModel)
+TEST_F(LinuxSystemInfoFilesTest, boundsAndRepairsTheHardwareModel)
 {
     temp_.file(u"product_name"_s, "A\xFF" + QByteArray(1'000'000, 'x'));
     const auto model = info().hardwareModel();

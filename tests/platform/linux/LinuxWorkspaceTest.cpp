@@ -31,7 +31,7 @@ const QByteArrayList hostileNames = {
     "emoji 🗂",  "bytes \xFF\xC3\x28", " ",           "[::]:80",
 };
 
-class LinuxWorkspaceOnDesktop : public WorkspaceFixture
+class LinuxWorkspaceTest : public WorkspaceFixture
 {
 protected:
     /// True when what was asked for so far starts no program: the next one to start is the only one.
@@ -60,7 +60,7 @@ bool isTheFile(const QVariant &descriptor, const QString &path)
 
 } // namespace
 
-TEST_F(LinuxWorkspaceOnDesktop, opensByXdgOpen)
+TEST_F(LinuxWorkspaceTest, opensByXdgOpen)
 {
     addProgram(u"xdg-open"_s);
     workspace().open(home("bytes \xFF\n%"));
@@ -68,14 +68,14 @@ TEST_F(LinuxWorkspaceOnDesktop, opensByXdgOpen)
     EXPECT_EQ(start.mid(2), QByteArrayList{paths::fileUrl(home()) + "/bytes%20%FF%0A%25"});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, opensAddressesAsTheyStand)
+TEST_F(LinuxWorkspaceTest, opensAddressesAsTheyStand)
 {
     addProgram(u"xdg-open"_s);
     workspace().openAddress("mailto:a@example.org?subject=x%20y&body=%F0%9F%97%82");
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{"mailto:a@example.org?subject=x%20y&body=%F0%9F%97%82"});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, opensNothingThatIsNoAddress)
+TEST_F(LinuxWorkspaceTest, opensNothingThatIsNoAddress)
 {
     addProgram(u"xdg-open"_s);
     for (const QByteArray &text :
@@ -86,7 +86,7 @@ TEST_F(LinuxWorkspaceOnDesktop, opensNothingThatIsNoAddress)
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{"https://example.org/"});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, survivesADesktopWithoutAnyProgram)
+TEST_F(LinuxWorkspaceTest, survivesADesktopWithoutAnyProgram)
 {
     hasBus_ = false;
     workspace().open(home());
@@ -101,7 +101,7 @@ TEST_F(LinuxWorkspaceOnDesktop, survivesADesktopWithoutAnyProgram)
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{addressOf("now")});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, revealsByTheFileManager)
+TEST_F(LinuxWorkspaceTest, revealsByTheFileManager)
 {
     addProgram(u"xdg-open"_s);
     StandInService service(bus_.connect(), fileManager, fileManagerPath);
@@ -126,7 +126,7 @@ TEST_F(LinuxWorkspaceOnDesktop, revealsByTheFileManager)
     EXPECT_TRUE(opensNothing());
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, returnsAtOnceFromAFileManagerThatIsSlow)
+TEST_F(LinuxWorkspaceTest, returnsAtOnceFromAFileManagerThatIsSlow)
 {
     bool isTaken = false;
     StandInService service(bus_.connect(), fileManager, fileManagerPath, [&](const QDBusMessage &call) {
@@ -138,7 +138,7 @@ TEST_F(LinuxWorkspaceOnDesktop, returnsAtOnceFromAFileManagerThatIsSlow)
     EXPECT_TRUE(waitUntil([&] { return isTaken; }));
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, revealsByThePortalWithoutAFileManager)
+TEST_F(LinuxWorkspaceTest, revealsByThePortalWithoutAFileManager)
 {
     addProgram(u"xdg-open"_s);
     StandInService service(bus_.connect(), portal, portalPath, [](const QDBusMessage &call) {
@@ -155,7 +155,7 @@ TEST_F(LinuxWorkspaceOnDesktop, revealsByThePortalWithoutAFileManager)
     EXPECT_TRUE(opensNothing());
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, revealsByOpeningTheFolderWhenAllElseRefuses)
+TEST_F(LinuxWorkspaceTest, revealsByOpeningTheFolderWhenAllElseRefuses)
 {
     addProgram(u"xdg-open"_s);
     StandInService manager(bus_.connect(), fileManager, fileManagerPath, refuse);
@@ -166,7 +166,7 @@ TEST_F(LinuxWorkspaceOnDesktop, revealsByOpeningTheFolderWhenAllElseRefuses)
     EXPECT_EQ(service.calls.size(), 1);
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, revealsByOpeningTheFolderWithoutABus)
+TEST_F(LinuxWorkspaceTest, revealsByOpeningTheFolderWithoutABus)
 {
     hasBus_ = false;
     addProgram(u"xdg-open"_s);
@@ -174,7 +174,7 @@ TEST_F(LinuxWorkspaceOnDesktop, revealsByOpeningTheFolderWithoutABus)
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{paths::fileUrl(home())});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, showsFoldersByTheFileManager)
+TEST_F(LinuxWorkspaceTest, showsFoldersByTheFileManager)
 {
     StandInService service(bus_.connect(), fileManager, fileManagerPath);
     workspace().showFolder(home("bytes \xFF"));
@@ -184,14 +184,14 @@ TEST_F(LinuxWorkspaceOnDesktop, showsFoldersByTheFileManager)
               QStringList{QString::fromLatin1(addressOf("bytes \xFF"))});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, showsFoldersByOpeningThemWithoutAFileManager)
+TEST_F(LinuxWorkspaceTest, showsFoldersByOpeningThemWithoutAFileManager)
 {
     addProgram(u"xdg-open"_s);
     workspace().showFolder(home("a folder"));
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{addressOf("a folder")});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByThePreviewer)
+TEST_F(LinuxWorkspaceTest, showsAQuickLookByThePreviewer)
 {
     addProgram(u"xdg-open"_s);
     StandInService service(bus_.connect(), previewer, previewerPath);
@@ -210,14 +210,14 @@ TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByThePreviewer)
     EXPECT_TRUE(opensNothing());
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByOpeningWithoutAPreviewer)
+TEST_F(LinuxWorkspaceTest, showsAQuickLookByOpeningWithoutAPreviewer)
 {
     addProgram(u"xdg-open"_s);
     workspace().quickLook(home("a file"));
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{addressOf("a file")});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByOpeningWhenThePreviewerRefuses)
+TEST_F(LinuxWorkspaceTest, showsAQuickLookByOpeningWhenThePreviewerRefuses)
 {
     addProgram(u"xdg-open"_s);
     StandInService service(bus_.connect(), previewer, previewerPath, refuse);
@@ -226,7 +226,7 @@ TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByOpeningWhenThePreviewerRefuses)
     EXPECT_EQ(service.calls.size(), 1);
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByOpeningWithoutABus)
+TEST_F(LinuxWorkspaceTest, showsAQuickLookByOpeningWithoutABus)
 {
     hasBus_ = false;
     addProgram(u"xdg-open"_s);
@@ -234,7 +234,7 @@ TEST_F(LinuxWorkspaceOnDesktop, showsAQuickLookByOpeningWithoutABus)
     EXPECT_EQ(onlyStart().mid(2), QByteArrayList{addressOf("a file")});
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, opensTheUsersTerminalInTheFolder)
+TEST_F(LinuxWorkspaceTest, opensTheUsersTerminalInTheFolder)
 {
     addProgram(u"xdg-terminal-exec"_s);
     addProgram(u"x-terminal-emulator"_s);
@@ -242,7 +242,7 @@ TEST_F(LinuxWorkspaceOnDesktop, opensTheUsersTerminalInTheFolder)
     EXPECT_EQ(onlyStart(), (QByteArrayList{"xdg-terminal-exec", paths::toBytes(home())}));
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, opensTheSystemsTerminalWhereTheUsersCantBeStarted)
+TEST_F(LinuxWorkspaceTest, opensTheSystemsTerminalWhereTheUsersCantBeStarted)
 {
     temp_.file(u"bin/xdg-terminal-exec"_s, "#!/bin/sh\n"); // no program: it has no leave to run
     addProgram(u"x-terminal-emulator"_s);
@@ -252,7 +252,7 @@ TEST_F(LinuxWorkspaceOnDesktop, opensTheSystemsTerminalWhereTheUsersCantBeStarte
     EXPECT_EQ(onlyStart(), (QByteArrayList{"x-terminal-emulator", paths::toBytes(home(name))}));
 }
 
-TEST_F(LinuxWorkspaceOnDesktop, copiesTextWithoutBytesThatAreNotUtf8)
+TEST_F(LinuxWorkspaceTest, copiesTextWithoutBytesThatAreNotUtf8)
 {
     workspace().copyText(paths::fromBytes("/home/ada/\xFF\n🗂"));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"/home/ada/\uFFFD\n🗂"_s);

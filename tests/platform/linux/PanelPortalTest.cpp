@@ -12,13 +12,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class FolderPanel : public WorkspaceFixture
+class PanelPortalTest : public WorkspaceFixture
 {
 };
 
 } // namespace
 
-TEST_F(FolderPanel, asksThePortalForAFolder)
+TEST_F(PanelPortalTest, asksThePortalForAFolder)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer answer;
@@ -42,7 +42,7 @@ TEST_F(FolderPanel, asksThePortalForAFolder)
     EXPECT_TRUE(panelRequests_.empty());
 }
 
-TEST_F(FolderPanel, leavesTheStartToTheDesktopWhenThereIsNone)
+TEST_F(PanelPortalTest, leavesTheStartToTheDesktopWhenThereIsNone)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer answer;
@@ -51,7 +51,7 @@ TEST_F(FolderPanel, leavesTheStartToTheDesktopWhenThereIsNone)
     EXPECT_FALSE(service.options.contains(u"current_folder"_s));
 }
 
-TEST_F(FolderPanel, givesNoFolderWhenThePanelIsCancelled)
+TEST_F(PanelPortalTest, givesNoFolderWhenThePanelIsCancelled)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer answer;
@@ -63,7 +63,7 @@ TEST_F(FolderPanel, givesNoFolderWhenThePanelIsCancelled)
     EXPECT_TRUE(panelRequests_.empty());
 }
 
-TEST_F(FolderPanel, givesNoFolderForAnAnswerThatNamesNone)
+TEST_F(PanelPortalTest, givesNoFolderForAnAnswerThatNamesNone)
 {
     for (const QStringList &addresses :
          {QStringList(), QStringList{u"https://example.org/x"_s}, QStringList{u""_s}}) {
@@ -77,7 +77,7 @@ TEST_F(FolderPanel, givesNoFolderForAnAnswerThatNamesNone)
     }
 }
 
-TEST_F(FolderPanel, takesAnAnswerThatComesBeforeTheCallReturns)
+TEST_F(PanelPortalTest, takesAnAnswerThatComesBeforeTheCallReturns)
 {
     StandInPanelPortal service(bus_.connect());
     service.immediateCode = 0;
@@ -88,7 +88,7 @@ TEST_F(FolderPanel, takesAnAnswerThatComesBeforeTheCallReturns)
     EXPECT_EQ(answer.path, u"/at once"_s);
 }
 
-TEST_F(FolderPanel, followsAPortalThatNamesItsRequestItself)
+TEST_F(PanelPortalTest, followsAPortalThatNamesItsRequestItself)
 {
     StandInPanelPortal service(bus_.connect());
     service.namesItsOwnPath = true;
@@ -104,7 +104,7 @@ TEST_F(FolderPanel, followsAPortalThatNamesItsRequestItself)
     EXPECT_EQ(answer.count, 1);
 }
 
-TEST_F(FolderPanel, showsTheFallbackPanelWithoutAPortal)
+TEST_F(PanelPortalTest, showsTheFallbackPanelWithoutAPortal)
 {
     PanelAnswer answer;
     workspace().chooseFolder({u"Choose"_s, u"/start"_s, true}, answer.taker());
@@ -117,7 +117,7 @@ TEST_F(FolderPanel, showsTheFallbackPanelWithoutAPortal)
     EXPECT_TRUE(panelRequests_[0].showsHidden);
 }
 
-TEST_F(FolderPanel, showsTheFallbackPanelWithoutABus)
+TEST_F(PanelPortalTest, showsTheFallbackPanelWithoutABus)
 {
     hasBus_ = false;
     PanelAnswer answer;
@@ -127,7 +127,7 @@ TEST_F(FolderPanel, showsTheFallbackPanelWithoutABus)
     EXPECT_EQ(answer.path, u"/from the fallback"_s);
 }
 
-TEST_F(FolderPanel, showsTheFallbackPanelWhenThePortalCantShowItsOwn)
+TEST_F(PanelPortalTest, showsTheFallbackPanelWhenThePortalCantShowItsOwn)
 {
     StandInPanelPortal service(bus_.connect());
     service.immediateCode = 2;
@@ -138,7 +138,7 @@ TEST_F(FolderPanel, showsTheFallbackPanelWhenThePortalCantShowItsOwn)
     EXPECT_EQ(panelRequests_.size(), 1U);
 }
 
-TEST_F(FolderPanel, givesNoFolderWhenThePortalEndsWithItsPanelOpen)
+TEST_F(PanelPortalTest, givesNoFolderWhenThePortalEndsWithItsPanelOpen)
 {
     auto service = std::make_unique<StandInPanelPortal>(bus_.connect());
     PanelAnswer answer;
@@ -149,7 +149,7 @@ TEST_F(FolderPanel, givesNoFolderWhenThePortalEndsWithItsPanelOpen)
     EXPECT_EQ(answer.path, std::nullopt);
 }
 
-TEST_F(FolderPanel, closesAnEarlierPanelForANewOne)
+TEST_F(PanelPortalTest, closesAnEarlierPanelForANewOne)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer first;
@@ -167,7 +167,7 @@ TEST_F(FolderPanel, closesAnEarlierPanelForANewOne)
     EXPECT_EQ(first.count, 0);
 }
 
-TEST_F(FolderPanel, answersNobodyAfterItsEnd)
+TEST_F(PanelPortalTest, answersNobodyAfterItsEnd)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer answer;

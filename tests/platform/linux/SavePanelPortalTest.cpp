@@ -11,13 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class SavePanel : public WorkspaceFixture
+class SavePanelPortalTest : public WorkspaceFixture
 {
 };
 
 } // namespace
 
-TEST_F(SavePanel, asksThePortalWhereToSave)
+TEST_F(SavePanelPortalTest, asksThePortalWhereToSave)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer answer;
@@ -41,7 +41,7 @@ TEST_F(SavePanel, asksThePortalWhereToSave)
     EXPECT_TRUE(saveRequests_.empty());
 }
 
-TEST_F(SavePanel, asksOnlyForWhatItIsTold)
+TEST_F(SavePanelPortalTest, asksOnlyForWhatItIsTold)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer answer;
@@ -51,7 +51,7 @@ TEST_F(SavePanel, asksOnlyForWhatItIsTold)
     EXPECT_FALSE(service.options.contains(u"current_name"_s));
 }
 
-TEST_F(SavePanel, suggestsNoBytesThatAreNotUtf8)
+TEST_F(SavePanelPortalTest, suggestsNoBytesThatAreNotUtf8)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer answer;
@@ -62,7 +62,7 @@ TEST_F(SavePanel, suggestsNoBytesThatAreNotUtf8)
     EXPECT_EQ(service.options.value(u"current_name"_s), QVariant(u"a\uFFFD.csv"_s));
 }
 
-TEST_F(SavePanel, givesNoPathWhenItIsCancelled)
+TEST_F(SavePanelPortalTest, givesNoPathWhenItIsCancelled)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer answer;
@@ -74,7 +74,7 @@ TEST_F(SavePanel, givesNoPathWhenItIsCancelled)
     EXPECT_TRUE(saveRequests_.empty());
 }
 
-TEST_F(SavePanel, showsTheFallbackPanelWithoutAPortal)
+TEST_F(SavePanelPortalTest, showsTheFallbackPanelWithoutAPortal)
 {
     PanelAnswer answer;
     workspace().chooseSavePath({u"Export"_s, u"a.csv"_s, u"/start"_s}, answer.taker());
@@ -88,7 +88,7 @@ TEST_F(SavePanel, showsTheFallbackPanelWithoutAPortal)
     EXPECT_TRUE(panelRequests_.empty());
 }
 
-TEST_F(SavePanel, showsTheFallbackPanelWithoutABus)
+TEST_F(SavePanelPortalTest, showsTheFallbackPanelWithoutABus)
 {
     hasBus_ = false;
     PanelAnswer answer;
@@ -98,7 +98,7 @@ TEST_F(SavePanel, showsTheFallbackPanelWithoutABus)
     EXPECT_EQ(answer.path, u"/saved by the fallback"_s);
 }
 
-TEST_F(SavePanel, showsTheFallbackPanelWhenThePortalCantShowItsOwn)
+TEST_F(SavePanelPortalTest, showsTheFallbackPanelWhenThePortalCantShowItsOwn)
 {
     StandInPanelPortal service(bus_.connect());
     service.immediateCode = 2;
@@ -110,7 +110,7 @@ TEST_F(SavePanel, showsTheFallbackPanelWhenThePortalCantShowItsOwn)
     EXPECT_EQ(saveRequests_.size(), 1U);
 }
 
-TEST_F(SavePanel, givesNoPathWithoutAPortalAndAFallback)
+TEST_F(SavePanelPortalTest, givesNoPathWithoutAPortalAndAFallback)
 {
     LinuxWorkspace bare({.bus = bus_.connect(), .searchPath = {}}, workQueue_);
     PanelAnswer folder;
@@ -123,7 +123,7 @@ TEST_F(SavePanel, givesNoPathWithoutAPortalAndAFallback)
     EXPECT_EQ(file.path, std::nullopt);
 }
 
-TEST_F(SavePanel, takesThePlaceOfAFolderPanel)
+TEST_F(SavePanelPortalTest, takesThePlaceOfAFolderPanel)
 {
     StandInPanelPortal service(bus_.connect());
     PanelAnswer folder;

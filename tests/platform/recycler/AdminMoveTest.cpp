@@ -11,7 +11,7 @@ namespace {
 
 /// The administrator's move with a script in the place of the tool that asks for the password. Its arguments
 /// are the program to run and that one's own: mv, -n, -T, --, source, target.
-class AdminMove : public RecyclerTest
+class AdminMoveTest : public RecyclerTest
 {
 protected:
     std::optional<Recycler::AdminFailure> move(const QString &path, const QByteArray &tool)
@@ -31,7 +31,7 @@ protected:
     TempHome temp_;
 };
 
-class AdminMoveName : public AdminMove, public ::testing::WithParamInterface<NamedBytes>
+class AdminMoveName : public AdminMoveTest, public ::testing::WithParamInterface<NamedBytes>
 {
 };
 
@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
                       NamedBytes{"shellSigns", "a\"b'c$(id)\\"}, NamedBytes{"longest", QByteArray(255, 'a')},
                       NamedBytes{"longestUmlauts", QByteArray("x\xC3\xBC").repeated(85)}));
 
-TEST_F(AdminMove, runsOneCommandWithArgumentsAndNoShell)
+TEST_F(AdminMoveTest, runsOneCommandWithArgumentsAndNoShell)
 {
     const QString path = makeFile(u"it's a \"file\".txt"_s);
     EXPECT_FALSE(move(path, "printf '%s\\0' \"$@\" >> \"$HOME/arguments\"\nexec \"$@\"\n"));
@@ -67,7 +67,7 @@ TEST_F(AdminMove, runsOneCommandWithArgumentsAndNoShell)
     EXPECT_EQ(traits(at(u"arguments"_s)).content.split('\0'), expected);
 }
 
-TEST_F(AdminMove, writesTheNoteBeforeTheMove)
+TEST_F(AdminMoveTest, writesTheNoteBeforeTheMove)
 {
     const QString path = makeFile(u"file"_s);
     EXPECT_FALSE(
@@ -77,7 +77,7 @@ TEST_F(AdminMove, writesTheNoteBeforeTheMove)
         traits(at(u"seen"_s)).content.startsWith("[Trash Info]\nPath=" + paths::toBytes(path) + "\n"));
 }
 
-TEST_F(AdminMove, takesANameThatIsFree)
+TEST_F(AdminMoveTest, takesANameThatIsFree)
 {
     expectRecycled(makeFile(u"file.txt"_s, "first"));
     makeFile(u".local/share/Trash/files/file.2.txt"_s, "orphan");
@@ -91,7 +91,7 @@ TEST_F(AdminMove, takesANameThatIsFree)
     EXPECT_TRUE(desktoptrash::restorePath(path));
 }
 
-TEST_F(AdminMove, takesAFolderWithAllInIt)
+TEST_F(AdminMoveTest, takesAFolderWithAllInIt)
 {
     const QString inner = makeFile(u"tree/a/b"_s);
     EXPECT_FALSE(move(at(u"tree"_s), "exec \"$@\"\n"));
@@ -100,7 +100,7 @@ TEST_F(AdminMove, takesAFolderWithAllInIt)
     EXPECT_TRUE(isThere(inner));
 }
 
-TEST_F(AdminMove, takesALinkAndNeverWhatItLeadsTo)
+TEST_F(AdminMoveTest, takesALinkAndNeverWhatItLeadsTo)
 {
     const QString file = makeFile(u"kept/file"_s);
     const QString link = makeLink(u"link"_s, at(u"kept"_s));
@@ -110,7 +110,7 @@ TEST_F(AdminMove, takesALinkAndNeverWhatItLeadsTo)
     EXPECT_EQ(traits(TrashHome::trash() + u"/files/link"_s).content, paths::toBytes(at(u"kept"_s)));
 }
 
-TEST_F(AdminMove, tellsACancelApart)
+TEST_F(AdminMoveTest, tellsACancelApart)
 {
     const QString path = makeFile(u"file"_s);
     const auto failure =
@@ -121,7 +121,7 @@ TEST_F(AdminMove, tellsACancelApart)
     expectUntouched(path);
 }
 
-TEST_F(AdminMove, givesTheToolsCodeAndWords)
+TEST_F(AdminMoveTest, givesTheToolsCodeAndWords)
 {
     const QString path = makeFile(u"file"_s);
     for (const int code : {1, 2, 125, 127, 255}) {
@@ -136,7 +136,7 @@ TEST_F(AdminMove, givesTheToolsCodeAndWords)
     expectUntouched(path);
 }
 
-TEST_F(AdminMove, hasNoMessageWhenTheToolSaysNothing)
+TEST_F(AdminMoveTest, hasNoMessageWhenTheToolSaysNothing)
 {
     const QString path = makeFile(u"file"_s);
     const auto failure = move(path, "echo ' ' >&2\nexit 1\n");
@@ -146,7 +146,7 @@ TEST_F(AdminMove, hasNoMessageWhenTheToolSaysNothing)
     expectUntouched(path);
 }
 
-TEST_F(AdminMove, boundsTheMessageOfAToolThatComplainsAtLength)
+TEST_F(AdminMoveTest, boundsTheMessageOfAToolThatComplainsAtLength)
 {
     const QString path = makeFile(u"file"_s);
     const auto failure = move(path, "head -c 1000000 /dev/zero | tr '\\0' x >&2\nexit 3\n");
@@ -155,7 +155,7 @@ TEST_F(AdminMove, boundsTheMessageOfAToolThatComplainsAtLength)
     EXPECT_EQ(failure->message, QString(1000, u'x'));
 }
 
-TEST_F(AdminMove, hasNoNumberWhenASignalEndsTheTool)
+TEST_F(AdminMoveTest, hasNoNumberWhenASignalEndsTheTool)
 {
     const QString path = makeFile(u"file"_s);
     const auto failure = move(path, "kill -KILL $$\n");
@@ -166,7 +166,7 @@ TEST_F(AdminMove, hasNoNumberWhenASignalEndsTheTool)
     expectUntouched(path);
 }
 
-TEST_F(AdminMove, saysWhenTheToolIsNotInstalled)
+TEST_F(AdminMoveTest, saysWhenTheToolIsNotInstalled)
 {
     const QString path = makeFile(u"file"_s);
     LinuxRecycler recycler(temp_.at(u"missing"_s), u"/bin/mv"_s, log_);
@@ -178,7 +178,7 @@ TEST_F(AdminMove, saysWhenTheToolIsNotInstalled)
     expectUntouched(path);
 }
 
-TEST_F(AdminMove, saysWhenTheToolCannotBeStarted)
+TEST_F(AdminMoveTest, saysWhenTheToolCannotBeStarted)
 {
     const QString path = makeFile(u"file"_s);
     LinuxRecycler recycler(temp_.file(u"no program"_s), u"/bin/mv"_s, log_);
@@ -188,7 +188,7 @@ TEST_F(AdminMove, saysWhenTheToolCannotBeStarted)
     expectUntouched(path);
 }
 
-TEST_F(AdminMove, neverReplacesOrEntersWhatHasComeToLieInTheWay)
+TEST_F(AdminMoveTest, neverReplacesOrEntersWhatHasComeToLieInTheWay)
 {
     const QString path = makeFile(u"file"_s);
     move(path, "echo stranger > \"$6\"\nexec \"$@\"\n"); // success or failure, by the age of mv
@@ -200,7 +200,7 @@ TEST_F(AdminMove, neverReplacesOrEntersWhatHasComeToLieInTheWay)
     EXPECT_EQ(names(TrashHome::trash() + u"/files/folder"_s), QStringList());
 }
 
-TEST_F(AdminMove, givesTheNameBackWhenTheMoveWasSkipped)
+TEST_F(AdminMoveTest, givesTheNameBackWhenTheMoveWasSkipped)
 {
     const QString path = makeFile(u"file"_s);
     EXPECT_FALSE(move(path, "echo stranger > \"$6\"\nexit 0\n"))
@@ -211,14 +211,14 @@ TEST_F(AdminMove, givesTheNameBackWhenTheMoveWasSkipped)
     EXPECT_EQ(traits(path).content, "content");
 }
 
-TEST_F(AdminMove, keepsTheNoteOfACopyThatAFailedMoveLeaves)
+TEST_F(AdminMoveTest, keepsTheNoteOfACopyThatAFailedMoveLeaves)
 {
     const QString path = makeFolder(u"tree"_s);
     EXPECT_TRUE(move(path, "cp -R \"$5\" \"$6\"\nexit 1\n"));
     EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList(u"tree.trashinfo"_s));
 }
 
-TEST_F(AdminMove, runsNothingWhenTheTrashCannotBeUsed)
+TEST_F(AdminMoveTest, runsNothingWhenTheTrashCannotBeUsed)
 {
     makeFile(u".local/share"_s);
     const QString path = makeFile(u"file"_s);
@@ -230,7 +230,7 @@ TEST_F(AdminMove, runsNothingWhenTheTrashCannotBeUsed)
     EXPECT_FALSE(isThere(at(u"ran"_s)));
 }
 
-TEST_F(AdminMove, runsNothingWhenTheTrashIsALink)
+TEST_F(AdminMoveTest, runsNothingWhenTheTrashIsALink)
 {
     makeLink(u".local/share/Trash"_s, makeFolder(u"elsewhere"_s));
     const auto failure = move(makeFile(u"file"_s), "touch \"$HOME/ran\"\n");
@@ -242,7 +242,7 @@ TEST_F(AdminMove, runsNothingWhenTheTrashIsALink)
     EXPECT_FALSE(isThere(at(u"ran"_s)));
 }
 
-TEST_F(AdminMove, runsNothingForAnItemThatIsNotThere)
+TEST_F(AdminMoveTest, runsNothingForAnItemThatIsNotThere)
 {
     const auto failure = move(at(u"gone"_s), "touch \"$HOME/ran\"\n");
     ASSERT_TRUE(failure);

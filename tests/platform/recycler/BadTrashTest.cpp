@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class BadTrash : public RecyclerTest
+class BadTrashTest : public RecyclerTest
 {
 protected:
     void expectRefused(const QString &path, const char *why)
@@ -126,7 +126,7 @@ private:
 
 } // namespace
 
-TEST_F(BadTrash, isRefusedWhenItIsALinkBehindWhichTheDesktopShowsNothing)
+TEST_F(BadTrashTest, isRefusedWhenItIsALinkBehindWhichTheDesktopShowsNothing)
 {
     const QString file = makeFile(u"file"_s);
     makeFolder(u"elsewhere"_s);
@@ -146,7 +146,7 @@ TEST_F(BadTrash, isRefusedWhenItIsALinkBehindWhichTheDesktopShowsNothing)
     }
 }
 
-TEST_F(BadTrash, isRefusedWhenItIsALinkThatLeadsNowhere)
+TEST_F(BadTrashTest, isRefusedWhenItIsALinkThatLeadsNowhere)
 {
     makeLink(u".local/share/Trash"_s, at(u"nowhere"_s));
     for (const QString &name : {u"file"_s, QString(255, u'l')}) {
@@ -159,7 +159,7 @@ TEST_F(BadTrash, isRefusedWhenItIsALinkThatLeadsNowhere)
     EXPECT_FALSE(isThere(at(u"nowhere"_s)));
 }
 
-TEST_F(BadTrash, isUsedBelowADataFolderThatIsALink)
+TEST_F(BadTrashTest, isUsedBelowADataFolderThatIsALink)
 {
     makeFolder(u"elsewhere"_s);
     makeLink(u".local/share"_s, at(u"elsewhere"_s));
@@ -170,20 +170,20 @@ TEST_F(BadTrash, isUsedBelowADataFolderThatIsALink)
     EXPECT_EQ(traits(file).content, "content");
 }
 
-TEST_F(BadTrash, isRefusedWhenItIsAFile)
+TEST_F(BadTrashTest, isRefusedWhenItIsAFile)
 {
     makeFile(u".local/share/Trash"_s);
     expectRefused(makeFile(u"file"_s), "Trash");
     EXPECT_EQ(traits(TrashHome::trash()).content, "content");
 }
 
-TEST_F(BadTrash, isRefusedWhenTheDataFolderIsAFile)
+TEST_F(BadTrashTest, isRefusedWhenTheDataFolderIsAFile)
 {
     makeFile(u".local"_s);
     expectRefused(makeFile(u"file"_s), "data folder");
 }
 
-TEST_F(BadTrash, isRefusedWhenItIsNotWritable)
+TEST_F(BadTrashTest, isRefusedWhenItIsNotWritable)
 {
     for (const QString &part : {u"files"_s, u"info"_s}) {
         makeFolder(u".local/share/Trash/files"_s);
@@ -197,7 +197,7 @@ TEST_F(BadTrash, isRefusedWhenItIsNotWritable)
     }
 }
 
-TEST_F(BadTrash, saysThatItIsOnAnotherVolume)
+TEST_F(BadTrashTest, saysThatItIsOnAnotherVolume)
 {
     const MemoryFolder memory;
     if (memory.path().isEmpty())
@@ -219,7 +219,7 @@ TEST_F(BadTrash, saysThatItIsOnAnotherVolume)
         rmdir((paths::toBytes(memory.path()) + part).constData());
 }
 
-TEST_F(BadTrash, isMissingOnAVolumeInMemory)
+TEST_F(BadTrashTest, isMissingOnAVolumeInMemory)
 {
     const MemoryFolder memory;
     if (memory.path().isEmpty())
@@ -235,7 +235,7 @@ TEST_F(BadTrash, isMissingOnAVolumeInMemory)
               u"“100% file” can't be moved to the Trash because its volume has no Trash."_s);
 }
 
-TEST_F(BadTrash, losesNoNoteOnAFullDisk)
+TEST_F(BadTrashTest, losesNoNoteOnAFullDisk)
 {
     const LoopVolume volume(TrashHome::path(), 2);
     if (!volume.whyNot().isEmpty())
@@ -258,7 +258,7 @@ TEST_F(BadTrash, losesNoNoteOnAFullDisk)
     EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList());
 }
 
-TEST_F(BadTrash, losesNoNoteOfALongNameOnAFullDisk)
+TEST_F(BadTrashTest, losesNoNoteOfALongNameOnAFullDisk)
 {
     const LoopVolume volume(TrashHome::path(), 2);
     if (!volume.whyNot().isEmpty())
@@ -274,7 +274,7 @@ TEST_F(BadTrash, losesNoNoteOfALongNameOnAFullDisk)
     EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList(u"other.trashinfo"_s));
 }
 
-TEST_F(BadTrash, saysWhereAnItemLiesThatCanNeitherHaveANoteNorGoBack)
+TEST_F(BadTrashTest, saysWhereAnItemLiesThatCanNeitherHaveANoteNorGoBack)
 {
     const QString file = makeFile(u"file"_s);
     std::optional<NoMoreBytes> fullDisk;
@@ -305,7 +305,7 @@ TEST_F(BadTrash, saysWhereAnItemLiesThatCanNeitherHaveANoteNorGoBack)
     EXPECT_EQ(traits(file).content, "newcomer");
 }
 
-TEST_F(BadTrash, isRefusedOnAFullDiskThatHasNone)
+TEST_F(BadTrashTest, isRefusedOnAFullDiskThatHasNone)
 {
     const LoopVolume volume(TrashHome::path(), 2);
     if (!volume.whyNot().isEmpty())

@@ -17,7 +17,7 @@ class HostileName : public RecyclerTest, public ::testing::WithParamInterface<Na
 {
 };
 
-class Recycle : public RecyclerTest
+class RecycleTest : public RecyclerTest
 {
 };
 
@@ -36,7 +36,7 @@ TEST_P(HostileName, comesBackWithContentTimesAndPermissions)
     EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList());
 }
 
-INSTANTIATE_TEST_SUITE_P(Recycle, HostileName,
+INSTANTIATE_TEST_SUITE_P(RecycleTest, HostileName,
                          ::testing::Values(NamedBytes{"plain", "plain.txt"}, NamedBytes{"hidden", ".hidden"},
                                            NamedBytes{"percentSigns", "100% %41 %"},
                                            NamedBytes{"umlauts", "\xC3\x9C"
@@ -59,14 +59,14 @@ INSTANTIATE_TEST_SUITE_P(Long, HostileName,
                                            NamedBytes{"longestOfDots", QByteArray(250, '.') + ".txt"},
                                            NamedBytes{"longestExtension", "f." + QByteArray(253, 'g')}));
 
-TEST_F(Recycle, makesTheDataFolderThatIsMissing)
+TEST_F(RecycleTest, makesTheDataFolderThatIsMissing)
 {
     expectRecycled(makeFile(u"file"_s));
     for (const QString &folder : {u".local"_s, u".local/share"_s, u".local/share/Trash"_s})
         EXPECT_EQ(traits(at(folder)).mode, S_IFDIR | 0700U) << folder.toStdString();
 }
 
-TEST_F(Recycle, tellsWhereAnItemWent)
+TEST_F(RecycleTest, tellsWhereAnItemWent)
 {
     const QString path = makeFile(u"file"_s);
     const Recycler::Result result = recycle({path});
@@ -74,7 +74,7 @@ TEST_F(Recycle, tellsWhereAnItemWent)
     EXPECT_EQ(result.moved, (std::map<QString, QString>{{path, TrashHome::trash() + u"/files/file"_s}}));
 }
 
-TEST_F(Recycle, namesAnItemAsItWasGiven)
+TEST_F(RecycleTest, namesAnItemAsItWasGiven)
 {
     makeFile(u"folder/file"_s);
     const QStringList given{at(u"folder/../folder/./file"_s), at(u"folder//"_s)};
@@ -87,7 +87,7 @@ TEST_F(Recycle, namesAnItemAsItWasGiven)
     EXPECT_TRUE(desktoptrash::restorePath(at(u"folder/file"_s)));
 }
 
-TEST_F(Recycle, keepsItemsOfOneNameApart)
+TEST_F(RecycleTest, keepsItemsOfOneNameApart)
 {
     QStringList all;
     for (int number = 0; number < 4; ++number)
@@ -101,7 +101,7 @@ TEST_F(Recycle, keepsItemsOfOneNameApart)
         EXPECT_EQ(traits(all[number]).content, QByteArray::number(number));
 }
 
-TEST_F(Recycle, keepsLongItemsOfOneNameApart)
+TEST_F(RecycleTest, keepsLongItemsOfOneNameApart)
 {
     const QString name(255, u'l');
     const QString one = makeFile(u"1/"_s + name, "1");
@@ -113,7 +113,7 @@ TEST_F(Recycle, keepsLongItemsOfOneNameApart)
     EXPECT_EQ(traits(two).content, "2");
 }
 
-TEST_F(Recycle, bringsAFolderBackWithAllInIt)
+TEST_F(RecycleTest, bringsAFolderBackWithAllInIt)
 {
     const QString inner = makeFile(u"tree/a/b/c.txt"_s);
     const QString link = makeLink(u"tree/a/link"_s, u"../../outside"_s);
@@ -132,7 +132,7 @@ TEST_F(Recycle, bringsAFolderBackWithAllInIt)
         EXPECT_EQ(traits(all[i]), before[static_cast<size_t>(i)]) << all[i].toStdString();
 }
 
-TEST_F(Recycle, takesAFileThatIsReadOnly)
+TEST_F(RecycleTest, takesAFileThatIsReadOnly)
 {
     const QString path = makeFile(u"read-only"_s);
     age(path, 0400);
@@ -142,7 +142,7 @@ TEST_F(Recycle, takesAFileThatIsReadOnly)
     EXPECT_EQ(traits(path), before);
 }
 
-TEST_F(Recycle, takesALinkAndNeverWhatItLeadsTo)
+TEST_F(RecycleTest, takesALinkAndNeverWhatItLeadsTo)
 {
     const QString file = makeFile(u"kept/file"_s);
     const QString toFile = makeLink(u"to file"_s, file);
@@ -160,7 +160,7 @@ TEST_F(Recycle, takesALinkAndNeverWhatItLeadsTo)
     EXPECT_EQ(traits(toNothing).content, "/nothing/here");
 }
 
-TEST_F(Recycle, findsAnItemThroughALinkAboveIt)
+TEST_F(RecycleTest, findsAnItemThroughALinkAboveIt)
 {
     const QString file = makeFile(u"real/file"_s);
     makeLink(u"link"_s, at(u"real"_s));
@@ -169,7 +169,7 @@ TEST_F(Recycle, findsAnItemThroughALinkAboveIt)
     EXPECT_TRUE(isThere(file));
 }
 
-TEST_F(Recycle, saysWhenNothingIsThere)
+TEST_F(RecycleTest, saysWhenNothingIsThere)
 {
     const Recycler::Result result = recycle({at(u"gone"_s)});
     EXPECT_TRUE(result.moved.empty());
@@ -179,7 +179,7 @@ TEST_F(Recycle, saysWhenNothingIsThere)
     EXPECT_EQ(result.error->description, u"“gone” can't be moved to the Trash: No such file or directory"_s);
 }
 
-TEST_F(Recycle, goesOnAfterAnItemThatCannotBeMoved)
+TEST_F(RecycleTest, goesOnAfterAnItemThatCannotBeMoved)
 {
     const QString one = makeFile(u"one"_s);
     const QString two = makeFile(u"two"_s);
@@ -191,7 +191,7 @@ TEST_F(Recycle, goesOnAfterAnItemThatCannotBeMoved)
     EXPECT_TRUE(result.error->description.contains(u"“gone”"_s)) << "the first error counts";
 }
 
-TEST_F(Recycle, takesNoPathThatIsNotAbsolute)
+TEST_F(RecycleTest, takesNoPathThatIsNotAbsolute)
 {
     const QString file = makeFile(u"file"_s);
     ASSERT_EQ(chdir(paths::toBytes(TrashHome::path()).constData()), 0);
@@ -205,7 +205,7 @@ TEST_F(Recycle, takesNoPathThatIsNotAbsolute)
     EXPECT_TRUE(isThere(file));
 }
 
-TEST_F(Recycle, replacesNothingThatHasLostItsNote)
+TEST_F(RecycleTest, replacesNothingThatHasLostItsNote)
 {
     makeFile(u".local/share/Trash/files/file.txt"_s, "orphan");
     makeFile(u".local/share/Trash/files/file.2.txt"_s, "second orphan");
@@ -223,7 +223,7 @@ TEST_F(Recycle, replacesNothingThatHasLostItsNote)
     EXPECT_EQ(traits(file).content, "mine");
 }
 
-TEST_F(Recycle, replacesNothingWithoutANoteThatAShortenedNameMightMeet)
+TEST_F(RecycleTest, replacesNothingWithoutANoteThatAShortenedNameMightMeet)
 {
     const QString kept(238, u'a');
     expectRecycled(makeFile(kept));
@@ -241,7 +241,7 @@ TEST_F(Recycle, replacesNothingWithoutANoteThatAShortenedNameMightMeet)
         EXPECT_EQ(traits(orphan).content, "orphan") << paths::lastComponent(orphan).size();
 }
 
-TEST_F(Recycle, reportsOnceOnAThreadOfItsOwnAndOutlivesTheRecycler)
+TEST_F(RecycleTest, reportsOnceOnAThreadOfItsOwnAndOutlivesTheRecycler)
 {
     const QString file = makeFile(u"file"_s);
     auto calls = std::make_shared<std::atomic<int>>(0);
@@ -259,14 +259,14 @@ TEST_F(Recycle, reportsOnceOnAThreadOfItsOwnAndOutlivesTheRecycler)
     EXPECT_FALSE(isThere(file));
 }
 
-TEST_F(Recycle, reportsForNoItemsToo)
+TEST_F(RecycleTest, reportsForNoItemsToo)
 {
     const Recycler::Result result = recycle({});
     EXPECT_TRUE(result.moved.empty());
     EXPECT_FALSE(result.error);
 }
 
-TEST_F(Recycle, movesManyAtOnceFromSeveralCalls)
+TEST_F(RecycleTest, movesManyAtOnceFromSeveralCalls)
 {
     constexpr int count = 40;
     std::vector<std::future<Recycler::Result>> results;

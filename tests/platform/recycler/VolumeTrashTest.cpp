@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Another volume, mounted in the home folder.
-class VolumeTrash : public RecyclerTest
+class VolumeTrashTest : public RecyclerTest
 {
 protected:
     void SetUp() override
@@ -39,7 +39,7 @@ protected:
 
 } // namespace
 
-TEST_F(VolumeTrash, takesItemsOfItsVolumeAndGivesThemBack)
+TEST_F(VolumeTrashTest, takesItemsOfItsVolumeAndGivesThemBack)
 {
     const QString file = makeFile(u"volume/folder/\u00FC 100%.txt"_s);
     const QString folder = makeFolder(u"volume/tree"_s);
@@ -58,14 +58,14 @@ TEST_F(VolumeTrash, takesItemsOfItsVolumeAndGivesThemBack)
     EXPECT_TRUE(isThere(folder));
 }
 
-TEST_F(VolumeTrash, tellsWhereAnItemWent)
+TEST_F(VolumeTrashTest, tellsWhereAnItemWent)
 {
     const QString file = makeFile(u"volume/file"_s);
     const Recycler::Result result = recycle({file});
     EXPECT_EQ(result.moved, (std::map<QString, QString>{{file, own() + u"/files/file"_s}}));
 }
 
-TEST_F(VolumeTrash, takesNamesThatAreTooLongForTheLibrary)
+TEST_F(VolumeTrashTest, takesNamesThatAreTooLongForTheLibrary)
 {
     for (const int length : {239, 245, 246, 255}) {
         const QString file =
@@ -76,7 +76,7 @@ TEST_F(VolumeTrash, takesNamesThatAreTooLongForTheLibrary)
     }
 }
 
-TEST_F(VolumeTrash, replacesNothingThatHasLostItsNote)
+TEST_F(VolumeTrashTest, replacesNothingThatHasLostItsNote)
 {
     expectRecycled(makeFile(u"volume/first"_s)); // makes the Trash
     files::move(makeFile(u"volume/orphan"_s, "orphan"), own() + u"/files/file"_s);
@@ -87,7 +87,7 @@ TEST_F(VolumeTrash, replacesNothingThatHasLostItsNote)
     EXPECT_EQ(traits(file).content, "mine");
 }
 
-TEST_F(VolumeTrash, liesInTheCommonFolderThatAllUsersShare)
+TEST_F(VolumeTrashTest, liesInTheCommonFolderThatAllUsersShare)
 {
     const QString common = makeFolder(u"volume/.Trash"_s);
     ASSERT_EQ(chmod(paths::toBytes(common).constData(), 01777), 0);
@@ -99,7 +99,7 @@ TEST_F(VolumeTrash, liesInTheCommonFolderThatAllUsersShare)
     EXPECT_TRUE(desktoptrash::restorePath(file));
 }
 
-TEST_F(VolumeTrash, isNotTheCommonFolderThatIsALinkOrNotSticky)
+TEST_F(VolumeTrashTest, isNotTheCommonFolderThatIsALinkOrNotSticky)
 {
     const QString elsewhere = makeFolder(u"volume/elsewhere"_s);
     ASSERT_EQ(chmod(paths::toBytes(elsewhere).constData(), 01777), 0);
@@ -113,7 +113,7 @@ TEST_F(VolumeTrash, isNotTheCommonFolderThatIsALinkOrNotSticky)
     EXPECT_EQ(names(own() + u"/files"_s), (QStringList{u"one"_s, u"two"_s}));
 }
 
-TEST_F(VolumeTrash, isMissingWhereTheUsersFolderIsALinkOrAFile)
+TEST_F(VolumeTrashTest, isMissingWhereTheUsersFolderIsALinkOrAFile)
 {
     const QString elsewhere = makeFolder(u"volume/elsewhere"_s);
     makeLink(own().sliced(TrashHome::path().size() + 1), elsewhere);
@@ -125,7 +125,7 @@ TEST_F(VolumeTrash, isMissingWhereTheUsersFolderIsALinkOrAFile)
     expectNoTrash(at(u"volume/file"_s));
 }
 
-TEST_F(VolumeTrash, doesNotTakeTheVolumeItself)
+TEST_F(VolumeTrashTest, doesNotTakeTheVolumeItself)
 {
     makeFile(u"volume/file"_s);
     const Recycler::Result result = recycle({at(u"volume"_s)});
@@ -134,7 +134,7 @@ TEST_F(VolumeTrash, doesNotTakeTheVolumeItself)
     EXPECT_TRUE(isThere(at(u"volume/file"_s)));
 }
 
-TEST_F(VolumeTrash, isNotNeededForALinkToItFromHome)
+TEST_F(VolumeTrashTest, isNotNeededForALinkToItFromHome)
 {
     const QString file = makeFile(u"volume/file"_s);
     const QString link = makeLink(u"link"_s, at(u"volume"_s));
@@ -147,7 +147,7 @@ TEST_F(VolumeTrash, isNotNeededForALinkToItFromHome)
     EXPECT_TRUE(desktoptrash::restorePath(file)) << "the note names the file's place on its volume";
 }
 
-TEST_F(VolumeTrash, losesNoNoteOnAFullDisk)
+TEST_F(VolumeTrashTest, losesNoNoteOnAFullDisk)
 {
     const QString first = makeFile(u"volume/first"_s);
     const QString file = makeFile(u"volume/file"_s);
