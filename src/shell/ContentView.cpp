@@ -1,9 +1,8 @@
 #include "shell/ContentView.h"
 
+#include "base/GuardedPost.h"
 #include "common/NotificationNames.h"
 #include "common/SettingsKeys.h"
-
-#include <QPointer>
 
 namespace {
 constexpr double tourDelay = 0.3; // seconds
@@ -25,8 +24,7 @@ void ContentView::observeNotifications()
                    [this](const QVariant &) { setSheet(Sheet::shortcuts, true); });
     center.observe(notifications::openHistory, this,
                    [this](const QVariant &) { setSheet(Sheet::history, true); });
-    center.observe(notifications::openOnboarding, this,
-                   [this](const QVariant &) { setSheet(Sheet::onboarding, true); });
+    center.observe(notifications::openOnboarding, this, [this](const QVariant &) { showTour(); });
     center.observe(notifications::reportBug, this,
                    [this](const QVariant &) { openMail(feedback::Kind::bug); });
     center.observe(notifications::requestFeature, this,
@@ -54,10 +52,15 @@ void ContentView::appear()
 {
     if (onboardingCompleted())
         return;
-    platform_.mainQueue.postAfter(tourDelay, [self = QPointer(this)] {
-        if (self)
-            self->setSheet(Sheet::onboarding, true);
-    });
+    guarded::postAfter(platform_.mainQueue, tourDelay, QPointer(this),
+                       [](ContentView &self) { self.showTour(); });
+}
+
+/// The flag would stand for nothing while there is no tour, and keep what waits for it to fall.
+void ContentView::showTour()
+{
+    if (isBuilt(Sheet::onboarding))
+        setSheet(Sheet::onboarding, true);
 }
 
 void ContentView::closeHistory()

@@ -33,7 +33,7 @@ public:
     bool onboardingCompleted() const;
 
     /// The window is there for the first time: the welcome tour follows unless it was seen to its end.
-    Q_INVOKABLE void appear();
+    void appear();
 
     Q_INVOKABLE void closeHistory();
 
@@ -46,6 +46,7 @@ signals:
 
 private:
     void observeNotifications();
+    void showTour();
     bool isUp(Sheet sheet) const { return sheets_.contains(sheet); }
     void openMail(feedback::Kind kind);
 

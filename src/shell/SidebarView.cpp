@@ -1,11 +1,10 @@
 #include "shell/SidebarView.h"
 
+#include "base/GuardedPost.h"
 #include "base/Paths.h"
 #include "common/Formatters.h"
 #include "common/KeySigns.h"
 #include "common/NotificationNames.h"
-
-#include <QPointer>
 
 #include <algorithm>
 
@@ -127,10 +126,8 @@ void SidebarView::refreshDiskUsage()
                                                      &clock = platform_.clock, &main = platform_.mainQueue] {
         const DiskUsage usage = disk.getDiskUsage();
         const double elapsed = clock.steadySeconds() - start;
-        main.postAfter(std::max(0.0, shortestSpin - elapsed), [self, usage] {
-            if (self)
-                self->finishRefresh(usage);
-        });
+        guarded::postAfter(main, std::max(0.0, shortestSpin - elapsed), self,
+                           [usage](SidebarView &view) { view.finishRefresh(usage); });
     });
 }
 

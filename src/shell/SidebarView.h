@@ -42,9 +42,9 @@ public:
     bool isRefreshingDisk() const { return isRefreshingDisk_; }
     bool isTimerActive() const { return refreshTimer_.isActive(); }
 
-    Q_INVOKABLE void appear();    ///< starts the timer; the value is fresh
-    Q_INVOKABLE void disappear(); ///< stops it
-    Q_INVOKABLE void sceneActivated();
+    void appear();    ///< starts the timer; the value is fresh
+    void disappear(); ///< stops it
+    void sceneActivated();
     Q_INVOKABLE void refreshDiskUsage();
     Q_INVOKABLE void select(int row);
     Q_INVOKABLE void openSheet(int button); ///< what a button of the footer does

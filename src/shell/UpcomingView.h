@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <map>
+
 /// Stands where a screen will be that the program does not have yet: its title, its symbol and what it will hold.
 class UpcomingView final : public QObject
 {
@@ -13,6 +15,10 @@ class UpcomingView final : public QObject
     Q_PROPERTY(QString description READ description CONSTANT)
 
 public:
+    /// What each of the screens that are to come will hold. The program has the others.
+    static const std::map<SidebarItem, QString> &descriptions();
+
+    /// `item` is one of those.
     explicit UpcomingView(SidebarItem item)
         : item_(item)
     {
@@ -20,7 +26,7 @@ public:
 
     QString title() const { return sidebar::title(item_); }
     QString symbol() const { return sidebar::symbol(item_); }
-    QString description() const;
+    QString description() const { return descriptions().at(item_); }
 
 private:
     SidebarItem item_;
