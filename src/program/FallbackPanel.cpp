@@ -28,6 +28,16 @@ void showName(const QWindow &parentWindow, const QString &name)
     }
 }
 
+/// Lets a folder panel offer hidden folders: it has no property for it, but the list inside it has. To it a package is a
+/// folder like any other.
+void showHiddenFolders(const QWindow &parentWindow)
+{
+    for (const QObject *list : parentWindow.findChildren<QObject *>(QStringLiteral("folderDialogListView"))) {
+        if (auto *folders = list->property("model").value<QObject *>())
+            folders->setProperty("showHidden", true);
+    }
+}
+
 } // namespace
 
 FallbackPanel::FallbackPanel() = default;
@@ -47,6 +57,8 @@ void FallbackPanel::chooseFolder(const Workspace::FolderRequest &request, Worksp
     show(QStringLiteral("FolderPanel.qml"),
          {{"title", paths::display(request.message)}, {"currentFolder", urlOf(startFor(request.start))}},
          {[this] { finish(pathOf("selectedFolder")); }, [this] { finish(std::nullopt); }});
+    if (dialog_ && request.showsHidden)
+        showHiddenFolders(*window_);
 }
 
 void FallbackPanel::chooseSavePath(const Workspace::SaveRequest &request, Workspace::PathChosen chosen)

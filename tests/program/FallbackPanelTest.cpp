@@ -67,7 +67,11 @@ public:
     }
 
 protected:
-    static void SetUpTestSuite() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+    static void SetUpTestSuite()
+    {
+        if (QQuickWindow::graphicsApi() != QSGRendererInterface::Software)
+            QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    }
 
     FallbackPanelTest()
     {
@@ -104,12 +108,14 @@ protected:
     /// True once a text is to be read in a label, a title or a field.
     bool shows(const QString &text) const
     {
-        return waitFor([&] {
-            const std::vector<QQuickWindow *> windows = shownWindows();
-            return std::any_of(windows.begin(), windows.end(),
-                               [&](const QQuickWindow *window) { return window->title() == text; })
-                   || findShown([&](QQuickItem *item) { return item->property("text") == text; });
-        });
+        return waitFor([&] { return isOnView(text); });
+    }
+    bool isOnView(const QString &text) const
+    {
+        const std::vector<QQuickWindow *> windows = shownWindows();
+        return std::any_of(windows.begin(), windows.end(),
+                           [&](const QQuickWindow *window) { return window->title() == text; })
+               || findShown([&](QQuickItem *item) { return item->property("text") == text; });
     }
 
     /// Types over the file's name in the panel for saving.
@@ -221,6 +227,27 @@ TEST_F(FallbackPanelTest, givesTheFolderHighlightedInTheOneToBeginWith)
     ASSERT_TRUE(click(u"Open"_s));
     ASSERT_TRUE(waitForAnswer());
     EXPECT_EQ(path_, home_.at(u"start/inner"_s)); // the toolkit highlights the first one in it
+}
+
+TEST_F(FallbackPanelTest, offersHiddenFoldersOnlyWhereTheyAreAskedFor)
+{
+    home_.folder(u"start/.hidden"_s);
+    home_.folder(u"start/seen"_s);
+    panel_->chooseFolder({u"Seen"_s, home_.at(u"start"_s)}, taker());
+    ASSERT_TRUE(shows(u"seen"_s));
+    EXPECT_FALSE(isOnView(u".hidden"_s));
+    panel_->chooseFolder({u"All"_s, home_.at(u"start"_s), true}, taker());
+    EXPECT_TRUE(shows(u".hidden"_s));
+}
+
+TEST_F(FallbackPanelTest, offersAPackageAsTheFolderThatItIs)
+{
+    home_.folder(u"start/Photos.photoslibrary/originals"_s);
+    panel_->chooseFolder({u"Choose"_s, home_.at(u"start/Photos.photoslibrary"_s), true}, taker());
+    ASSERT_TRUE(shows(u"originals"_s));
+    ASSERT_TRUE(click(u"Open"_s));
+    ASSERT_TRUE(waitForAnswer());
+    EXPECT_EQ(path_, home_.at(u"start/Photos.photoslibrary/originals"_s));
 }
 
 TEST_F(FallbackPanelTest, givesNoFolderWhenItIsCancelled)
