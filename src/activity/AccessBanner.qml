@@ -17,7 +17,6 @@ Rectangle {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: banner.title
     Accessible.description: banner.text
-    Component.onCompleted: banner.appear()
 
     Symbol {
         id: icon

@@ -33,7 +33,8 @@ public:
     bool canBeHidden() const { return !isGranted(); }
     QString hideTip() const { return QStringLiteral("Hide for this session"); }
 
-    Q_INVOKABLE void appear();
+    /// The screen around it has appeared.
+    void appear();
     Q_INVOKABLE void act(); ///< the button: to the settings, or the restart
     Q_INVOKABLE void hide();
 

@@ -7,8 +7,6 @@ FocusScope {
 
     required property DiskAnalyzerView view
 
-    Component.onCompleted: view.appear()
-
     Shortcut {
         sequence: screen.view.refreshSequence
         onActivated: screen.view.refresh()

@@ -138,6 +138,7 @@ DiskAnalyzerView::Entry DiskAnalyzerView::child(int row) const
 
 void DiskAnalyzerView::appear()
 {
+    banner_.appear();
     diskService_.scanAnalyzer(diskService_.analyzerScanPath(), false);
 }
 

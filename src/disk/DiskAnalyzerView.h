@@ -3,6 +3,7 @@
 #include "activity/FDABanner.h"
 #include "base/RecordListModel.h"
 #include "common/AgePillView.h"
+#include "common/Appearing.h"
 #include "disk/AnalyzerTexts.h"
 #include "disk/DiskService.h"
 #include "disk/TreemapView.h"
@@ -17,7 +18,9 @@ class FileSystemService;
 
 /// The Disk Analyzer's screen: where the bytes of one folder go, as a map and as a table, with drilling into the
 /// folders below. The measured tree lives in the service; the way into it lives here and is lost with the screen.
-class DiskAnalyzerView final : public QObject, public std::enable_shared_from_this<DiskAnalyzerView>
+class DiskAnalyzerView final : public QObject,
+                               public Appearing,
+                               public std::enable_shared_from_this<DiskAnalyzerView>
 {
     Q_OBJECT
     Q_PROPERTY(QString title READ title CONSTANT)
@@ -84,7 +87,8 @@ public:
     /// The last of the breadcrumb, else the service's tree; none while there is neither.
     Entry currentEntry() const;
 
-    Q_INVOKABLE void appear();
+    /// Scans, unless a fresh result is there.
+    void appear() override;
     Q_INVOKABLE void refresh(); ///< the key's command: a rescan unless a scan is running
     Q_INVOKABLE void rescan();
     Q_INVOKABLE void changeFolder();

@@ -4,6 +4,7 @@
 #include "common/SettingsKeys.h"
 #include "disk/DiskAnalyzerView.h"
 #include "duplicates/screen/DuplicateFinderView.h"
+#include "program/Popups.h"
 #include "shell/UpcomingView.h"
 
 #include <QFontDatabase>
@@ -89,10 +90,8 @@ MainContentView::Screen Composition::upcoming(SidebarItem item)
 MainContentView::Screens Composition::screens()
 {
     MainContentView::Screens screens;
-    for (const SidebarSection section : sidebar::sections) {
-        for (const SidebarItem item : sidebar::items(section))
-            screens.emplace(item, upcoming(item));
-    }
+    for (const auto &[item, description] : UpcomingView::descriptions())
+        screens.emplace(item, upcoming(item));
     screens[SidebarItem::diskAnalyzer] = {
         QStringLiteral("disk/DiskAnalyzerScreen.qml"),
         [this] { return std::make_shared<DiskAnalyzerView>(platform_, disk(), fileSystem(), access()); },
@@ -126,11 +125,18 @@ bool Composition::show()
     if (engine_.rootObjects().isEmpty())
         return false;
     window_ = qobject_cast<QQuickWindow *>(engine_.rootObjects().constFirst());
-    // What the window's appearance sets going waits for its first picture.
-    QObject::connect(
-        window_, &QQuickWindow::frameSwapped, &content_, [this] { windowAppeared(); },
-        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    // What the appearance of the window and of each screen sets going waits for its first picture.
+    frames_ = std::make_unique<FrameWatch>(*window_, [this] { pictureShown(); });
+    QObject::connect(&main_, &MainContentView::screenChanged, frames_.get(), &FrameWatch::expect);
+    QObject::connect(&quit_, &QuitPaths::requested, window_, [this] { makeWay(); });
     return true;
+}
+
+void Composition::pictureShown()
+{
+    if (!std::exchange(hasAppeared_, true))
+        windowAppeared();
+    main_.appear();
 }
 
 void Composition::windowAppeared()
@@ -144,6 +150,14 @@ void Composition::windowAppeared()
                          sidebar_.sceneActivated();
                          platform_.notifications.post(notifications::becameActive);
                      });
+}
+
+/// The program is about to end: nothing asks for anything any more, and another start gets a window of its own.
+void Composition::makeWay()
+{
+    popups::closeAll(*window_);
+    if (relaunch_.letGo)
+        relaunch_.letGo();
 }
 
 void Composition::activate(const QByteArray &token)

@@ -9,6 +9,7 @@
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
 #include "program/EditCommands.h"
+#include "program/FrameWatch.h"
 #include "program/QuitPaths.h"
 #include "shell/ContentView.h"
 #include "shell/MainContentView.h"
@@ -69,7 +70,9 @@ public:
 private:
     MainContentView::Screens screens();
     MainContentView::Screen upcoming(SidebarItem item);
+    void pictureShown();
     void windowAppeared();
+    void makeWay();
 
     const Platform &platform_;
     Appearance &appearance_;
@@ -83,4 +86,6 @@ private:
     EditCommands editCommands_;
     QQmlApplicationEngine engine_;
     QQuickWindow *window_ = nullptr;
+    std::unique_ptr<FrameWatch> frames_; // of the window
+    bool hasAppeared_ = false;           // the window
 };

@@ -27,6 +27,7 @@ QuitPaths::QuitPaths(const Platform &platform, ContentView &content, std::functi
 void QuitPaths::requestQuit()
 {
     content_.dismissSheets();
+    emit requested();
     platform_.mainQueue.postAfter(exitDelay, exitNow_);
 }
 

@@ -26,6 +26,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+signals:
+    /// A request that ends the process half a second later.
+    void requested();
+
 private:
     const Platform &platform_;
     ContentView &content_;

@@ -1,5 +1,6 @@
 #include "shell/MainContentView.h"
 
+#include "common/Appearing.h"
 #include "common/KeySigns.h"
 
 #include <utility>
@@ -65,6 +66,14 @@ bool MainContentView::claimsKey(const QString &keySigns) const
     return selected().keys.contains(keySigns);
 }
 
+void MainContentView::appear()
+{
+    if (std::exchange(hasAppeared_, true))
+        return;
+    if (auto *model = dynamic_cast<Appearing *>(screen_.get()))
+        model->appear();
+}
+
 void MainContentView::openSearch()
 {
     content_.setSelectedItem(SidebarItem::search);
@@ -73,6 +82,7 @@ void MainContentView::openSearch()
 void MainContentView::showSelected()
 {
     std::shared_ptr<QObject> old = std::exchange(screen_, selected().make());
+    hasAppeared_ = false;
     emit screenChanged();
     // After the signal: what goes later goes in the order of the requests, and the QML is the first to go. A command of
     // the old model that is still under way keeps the model even longer.

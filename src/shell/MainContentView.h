@@ -46,6 +46,9 @@ public:
     /// True when a key equivalent ("⌘R") belongs to the screen on view, so that the menu leaves it alone.
     bool claimsKey(const QString &keySigns) const;
 
+    /// The screen on view has been seen, so what it loads may begin. Told once for each; later calls do nothing.
+    void appear();
+
     Q_INVOKABLE void openSearch();
 
 signals:
@@ -59,4 +62,5 @@ private:
     ContentView &content_;
     const Screens screens_;
     std::shared_ptr<QObject> screen_;
+    bool hasAppeared_ = false; // the screen on view
 };

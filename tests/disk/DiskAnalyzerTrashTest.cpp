@@ -157,7 +157,7 @@ TEST_F(DiskAnalyzerTrashTest, aScanTellsWhetherProtectedFoldersCouldBeRead)
     EXPECT_TRUE(view->banner()->isShown());
     EXPECT_EQ(view->banner()->title(), QStringLiteral("Some folders couldn't be scanned"));
     test.temp.folder(QStringLiteral("home/Library/Mail"));
-    view->banner()->appear();
+    view->appear();
     view->rescan();
     test.settle();
     EXPECT_TRUE(test.access.deniedContexts().isEmpty());

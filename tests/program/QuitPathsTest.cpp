@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -106,6 +107,18 @@ TEST_F(QuitPathsTest, endTheProcessAtOnceOnTheSystemsRequest)
     quit.handleQuitEvent();
     EXPECT_EQ(exits, 1);
     EXPECT_EQ(test.mainQueue.waiting(), 0U);
+}
+
+TEST_F(QuitPathsTest, tellOfARequestAtOnceAndOfAnEndInPlaceNever)
+{
+    const QSignalSpy requests(&quit, &QuitPaths::requested);
+    quit.handleQuitEvent();
+    press(Qt::Key_Q, Qt::ControlModifier, QStringLiteral("q"));
+    EXPECT_EQ(requests.count(), 0);
+    exits = 0;
+    quit.requestQuit();
+    EXPECT_EQ(requests.count(), 1);
+    EXPECT_EQ(exits, 0);
 }
 
 TEST_F(QuitPathsTest, takeSheetsDownAndEndTheProcessHalfASecondAfterAnyOtherRequest)

@@ -4,6 +4,7 @@
 #include "screens/Warnings.h"
 
 #include <QDragEnterEvent>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -45,11 +46,11 @@ bool isControl(const QQuickItem *item)
 
 ProgramUnderTest::ProgramUnderTest(Surroundings &surroundings)
     : surroundings_(surroundings)
-    , composition_(
-          std::make_unique<Composition>(surroundings.platform(), surroundings.appearance(),
-                                        feedback::Program{QStringLiteral("support@quillmere.example"),
-                                                          QStringLiteral("1.0.0"), QStringLiteral("7")},
-                                        [this] { ++exits_; }))
+    , composition_(std::make_unique<Composition>(
+          surroundings.platform(), surroundings.appearance(),
+          feedback::Program{QStringLiteral("support@quillmere.example"), QStringLiteral("1.0.0"),
+                            QStringLiteral("7")},
+          [this] { ++exits_; }, Relaunch{QStringLiteral("/opt/quillmere"), [this] { ++lettings_; }}))
 {
 }
 
@@ -63,12 +64,16 @@ void ProgramUnderTest::show()
     if (!composition_->show())
         throw std::runtime_error("the window can't be loaded");
     firstScreen_ = selectedScreen();
+    beganEarly_ = watchesDisk();
+    panel_.attach(composition_->engine(), *window(), surroundings_.platform().home);
 }
 
 void ProgramUnderTest::forget()
 {
     surroundings_.forget();
     exits_ = 0;
+    lettings_ = 0;
+    folderAnswers_.clear();
 }
 
 QQuickItem *ProgramUnderTest::rootOf(QQuickItem *under) const
@@ -193,4 +198,16 @@ bool ProgramUnderTest::drag(const QString &step, const QStringList &addresses, Q
         event = step == QStringLiteral("leave") ? static_cast<QEvent *>(&leave) : &drop;
     QCoreApplication::sendEvent(window(), event);
     return event->isAccepted();
+}
+
+void ProgramUnderTest::setActive(bool isActive)
+{
+    emit qGuiApp->applicationStateChanged(isActive ? Qt::ApplicationActive : Qt::ApplicationInactive);
+}
+
+void ProgramUnderTest::askForFolder(const QString &message)
+{
+    panel_.chooseFolder({message, {}, false}, [this](const std::optional<QString> &path) {
+        folderAnswers_ << path.value_or(QStringLiteral("none"));
+    });
 }

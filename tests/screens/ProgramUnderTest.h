@@ -1,6 +1,7 @@
 #pragma once
 
 #include "program/Composition.h"
+#include "program/FallbackPanel.h"
 #include "screens/Surroundings.h"
 
 #include <QObject>
@@ -69,6 +70,12 @@ public:
     /// Begins anew to note down what the program asks for, and how often it ends.
     Q_INVOKABLE void forget();
     Q_INVOKABLE int exits() const { return exits_; }
+    /// How often it gave up what another start would take for a running program.
+    Q_INVOKABLE int lettings() const { return lettings_; }
+    /// Whether anything that waits for the first picture began before it.
+    Q_INVOKABLE bool beganEarly() const { return beganEarly_; }
+    /// Whether it looks at the disk's usage from time to time.
+    Q_INVOKABLE bool watchesDisk() const { return composition_->sidebar().isTimerActive(); }
 
     // What comes from outside.
 
@@ -76,6 +83,15 @@ public:
     /// whether they were welcome.
     Q_INVOKABLE bool drag(const QString &step, const QStringList &addresses, QQuickItem *over);
     Q_INVOKABLE void systemWantsToQuit() { composition_->quit().handleQuitEvent(); }
+    /// The desktop makes the program the active one, or another.
+    Q_INVOKABLE void setActive(bool isActive);
+    /// Another start asks for the window, with the token that its desktop gave it.
+    Q_INVOKABLE void startAgain(const QString &token) { composition_->activate(token.toUtf8()); }
+    Q_INVOKABLE QString activationToken() const { return qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); }
+    /// Shows the program's own folder panel, as on a desktop that has none.
+    Q_INVOKABLE void askForFolder(const QString &message);
+    /// What that panel has answered, a line each; "none" where it was cancelled.
+    Q_INVOKABLE QString folderAnswers() const { return folderAnswers_.join(u'\n'); }
     /// A text field in the window, as a screen of a later day will have one.
     Q_INVOKABLE QQuickItem *addTextField(const QString &text);
     Q_INVOKABLE void removeTextField() { textField_.reset(); }
@@ -86,6 +102,10 @@ private:
     Surroundings &surroundings_;
     QString firstScreen_;
     int exits_ = 0;
+    int lettings_ = 0;
+    bool beganEarly_ = false;
+    QStringList folderAnswers_;
+    FallbackPanel panel_;
     std::unique_ptr<Composition> composition_;
     std::unique_ptr<QQuickItem> textField_;
 };

@@ -50,6 +50,45 @@ ScreenCase {
         closeMenu();
     }
 
+    function openSheet() {
+        press(Qt.Key_Y, Qt.ControlModifier | Qt.ShiftModifier);
+        find("Activity History");
+        verify(Program.isSheetUp());
+    }
+
+    // The question of the Duplicate Finder, over a folder of equal files.
+    function askToDelete() {
+        Duplicates.scanOnly([Duplicates.makeTwins()], 1024);
+        open("Dashboard");
+        open("Duplicates");
+        clickOn(Program.named("scanButton"));
+        tryVerify(() => Program.named("trashButton")?.enabled, patience, "there is something to delete");
+        clickOn(Program.named("trashButton"));
+        find("Confirm Deletion");
+        tryVerify(() => Program.named("confirmCancel")?.activeFocus, patience, "the keyboard is on Cancel");
+    }
+
+    function test_quitKeyEndsAtOnceWithSheetUp() {
+        openSheet();
+        keyPress(Qt.Key_Q, Qt.ControlModifier);
+        verify(Program.exits() > 0);
+        keyRelease(Qt.Key_Q, Qt.ControlModifier);
+        verify(Program.isSheetUp());
+        press(Qt.Key_Escape);
+        tryVerify(() => !Program.isSheetUp(), patience, "the sheet is down");
+    }
+
+    function test_quitKeyEndsAtOnceWithQuestionUp() {
+        askToDelete();
+        keyPress(Qt.Key_Q, Qt.ControlModifier);
+        verify(Program.exits() > 0);
+        keyRelease(Qt.Key_Q, Qt.ControlModifier);
+        find("Confirm Deletion");
+        press(Qt.Key_Escape);
+        tryGone("Confirm Deletion");
+        compare(Surroundings.recycled(), "");
+    }
+
     function test_systemEndsAtOnce() {
         Program.systemWantsToQuit();
         compare(Program.exits(), 1);
@@ -61,12 +100,41 @@ ScreenCase {
         tryVerify(() => Program.exits() === 1, patience, "the program ends");
     }
 
-    function test_windowThatClosesEndsAfterHalfASecond() {
+    // Closes the window, lets `checks` look at what stands before the end comes, and brings the window back.
+    function closeWindow(checks) {
         Program.window.close();
         compare(Program.exits(), 0);
+        checks();
         tryVerify(() => Program.exits() === 1, patience, "the program ends");
         Program.window.show();
         Program.window.requestActivate();
         tryCompare(Program.window, "active", true, patience);
+    }
+
+    function test_windowThatClosesEndsAfterHalfASecond() {
+        closeWindow(() => {});
+    }
+
+    function test_windowThatClosesMakesRoomForAnotherStartAtOnce() {
+        closeWindow(() => compare(Program.lettings(), 1));
+    }
+
+    function test_windowThatClosesTakesTheSheetDown() {
+        openSheet();
+        closeWindow(() => verify(!Program.isSheetUp()));
+        tryGone("Activity History");
+    }
+
+    function test_windowThatClosesTakesTheQuestionBack() {
+        askToDelete();
+        closeWindow(() => verify(!Program.textItem("Confirm Deletion")));
+        tryGone("Confirm Deletion");
+        compare(Surroundings.recycled(), "");
+    }
+
+    function test_windowThatClosesTakesTheFolderPanelDown() {
+        Program.askForFolder("Which folder?");
+        compare(Program.folderAnswers(), "");
+        closeWindow(() => tryVerify(() => Program.folderAnswers() === "none", patience, "the panel is cancelled"));
     }
 }

@@ -9,6 +9,32 @@ ScreenCase {
         compare(Program.firstScreen(), "Dashboard");
     }
 
+    function test_nothingBeginsAheadOfTheFirstPicture() {
+        verify(!Program.beganEarly());
+        tryVerify(() => Program.watchesDisk(), patience, "the window has appeared");
+    }
+
+    function test_comingBackRefreshesTheDiskAndIsTold() {
+        Program.setActive(false);
+        compare(Surroundings.posted(), "");
+        Surroundings.setVolume(500 * 2 ** 30, 300 * 2 ** 30, "Disk");
+        Program.setActive(true);
+        compare(Surroundings.posted(), "Platform.becameActive");
+        find("200 GB used");
+        tryCompare(Program.named("refreshDiskSpinner"), "isRunning", false, patience);
+    }
+
+    function test_anotherStartBringsTheWindowBack() {
+        Program.window.showMinimized();
+        tryCompare(Program.window, "visibility", Window.Minimized, patience);
+        Program.startAgain("token-1");
+        tryCompare(Program.window, "visibility", Window.Windowed, patience);
+        tryCompare(Program.window, "active", true, patience);
+        compare(Program.activationToken(), "token-1");
+        Program.startAgain("");
+        compare(Program.activationToken(), "token-1");
+    }
+
     function test_windowHasItsSizes() {
         compare(Program.window.title, "Quillmere");
         compare(Program.window.width, 1280);

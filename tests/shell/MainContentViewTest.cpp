@@ -1,6 +1,7 @@
 #include "shell/MainContentView.h"
 
 #include "base/GuardedPost.h"
+#include "common/Appearing.h"
 #include "support/TestPlatform.h"
 
 #include <QCoreApplication>
@@ -36,6 +37,15 @@ MainContentView::Screens namedScreens()
 /// A model with a command that lets the main loop turn while it waits.
 class WaitingModel final : public QObject, public std::enable_shared_from_this<WaitingModel>
 {
+};
+
+/// A model with something to load.
+class LoadingModel final : public QObject, public Appearing
+{
+public:
+    void appear() override { ++loads; }
+
+    int loads = 0;
 };
 
 void turnTheLoop()
@@ -129,6 +139,23 @@ TEST_F(MainContentViewTest, keepsTheModelOfACommandThatIsUnderWayUntilItEnds)
     EXPECT_TRUE(wasAliveAtTheEnd);
     turnTheLoop();
     EXPECT_TRUE(model.isNull());
+}
+
+TEST_F(MainContentViewTest, tellsEachModelOnceThatItsScreenHasAppeared)
+{
+    MainContentView::Screens screens = namedScreens();
+    screens[SidebarItem::cleanup].make = [] { return std::make_shared<LoadingModel>(); };
+    MainContentView other(test.platform, content, screens);
+    other.appear(); // to a model that has nothing to load
+    const auto loads = [&other] { return static_cast<LoadingModel *>(other.screen())->loads; };
+    for (int visit = 0; visit < 2; ++visit) {
+        content.setSelectedItem(SidebarItem::cleanup);
+        EXPECT_EQ(loads(), 0);
+        other.appear();
+        other.appear();
+        EXPECT_EQ(loads(), 1);
+        content.setSelectedItem(SidebarItem::dashboard);
+    }
 }
 
 TEST_F(MainContentViewTest, tellsSearchPillTextsInTheSystemsWords)

@@ -3,6 +3,7 @@
 #include "activity/FDABanner.h"
 #include "base/RecordListModel.h"
 #include "base/Throttle.h"
+#include "common/Appearing.h"
 #include "common/Confirmation.h"
 #include "duplicates/DuplicateService.h"
 #include "duplicates/screen/DeleteNote.h"
@@ -22,7 +23,9 @@
 /// The Duplicate Finder's screen: the scope, the scan, the groups with a filter by file type, the choice of the files that
 /// go, and the confirmed delete run. The result and the choice live in the service; the filter lives here and is lost with
 /// the screen. Made by std::make_shared, since a delete run keeps it. Main thread.
-class DuplicateFinderView final : public QObject, public std::enable_shared_from_this<DuplicateFinderView>
+class DuplicateFinderView final : public QObject,
+                                  public Appearing,
+                                  public std::enable_shared_from_this<DuplicateFinderView>
 {
     Q_OBJECT
     Q_PROPERTY(QString title READ title CONSTANT)
@@ -113,6 +116,8 @@ public:
     bool showDeleteConfirm() const { return confirmation_.isUp(); }
     /// The bytes that the last delete run freed; none after a partial failure.
     std::optional<qint64> deleteResult() const { return deleteResult_; }
+
+    void appear() override { banner_.appear(); }
 
     Q_INVOKABLE void scan();
     Q_INVOKABLE void stop();

@@ -281,6 +281,16 @@ TEST_F(DuplicateFinderViewTest, showsTheBannerAfterAScanWithoutAccessToProtected
     EXPECT_TRUE(view->banner()->isShown());
 }
 
+TEST_F(DuplicateFinderViewTest, asksForAccessAnewOnceItHasAppeared)
+{
+    scan();
+    ASSERT_FALSE(test.access.hasFullDiskAccess());
+    test.temp.folder(u"home/Library/Mail"_s);
+    EXPECT_FALSE(test.access.hasFullDiskAccess()); // the answer stands until somebody asks anew
+    view->appear();
+    EXPECT_TRUE(test.access.hasFullDiskAccess());
+}
+
 TEST_F(DuplicateFinderViewTest, makesAScanPathsRemovalShowAtItsButton)
 {
     const QSignalSpy changes(view.get(), &DuplicateFinderView::stateChanged);

@@ -1,0 +1,45 @@
+#include "program/Popups.h"
+
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <vector>
+
+namespace {
+
+/// What is popped up in the window is drawn by items of one kind in its overlay, which they own. The toolkit's dialogs have
+/// windows of their own from Qt 6.8 on and belong to this one.
+std::vector<QPointer<QObject>> popupsOf(const QQuickWindow &window)
+{
+    std::vector<QPointer<QObject>> found;
+    for (QObject *object : window.findChildren<QObject *>()) {
+        if (object->inherits("QQuickDialog"))
+            found.emplace_back(object);
+    }
+    for (const QQuickItem *layer : window.contentItem()->childItems()) {
+        if (!layer->inherits("QQuickOverlay"))
+            continue;
+        for (const QQuickItem *item : layer->childItems()) {
+            if (item->inherits("QQuickPopupItem"))
+                found.emplace_back(item->parent());
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+namespace popups {
+
+void closeAll(QQuickWindow &window)
+{
+    for (const QPointer<QObject> &popup : popupsOf(window)) {
+        if (!popup || !popup->property("visible").toBool()) // closing one may take another away
+            continue;
+        const bool canBeTakenBack = popup->inherits("QQuickDialog");
+        QMetaObject::invokeMethod(popup, canBeTakenBack ? "reject" : "close");
+    }
+}
+
+} // namespace popups
