@@ -3,9 +3,11 @@
 #include "platform/linux/LinuxSingleInstance.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QuitSignals.h"
+#include "platform/linux/RenderNode.h"
 #include "program/Composition.h"
 #include "program/FallbackPanel.h"
 #include "program/ProgramInfo.h"
+#include "program/Rendering.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
@@ -51,6 +53,7 @@ QByteArray activationToken()
 
 int main(int argc, char *argv[])
 {
+    rendering::choose(rendernode::isThere());
     const QtMessageHandler usual = qInstallMessageHandler(tellMissingDisplay);
     QGuiApplication application(argc, argv);
     qInstallMessageHandler(usual);
