@@ -3,6 +3,7 @@
 #include "base/ThreadWorkQueue.h"
 #include "common/NotificationNames.h"
 #include "DemoHome.h"
+#include "DemoOptions.h"
 #include "platform/Appearance.h"
 #include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
@@ -10,9 +11,11 @@
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QuitSignals.h"
+#include "platform/linux/RenderNode.h"
 #include "program/Composition.h"
 #include "program/FallbackPanel.h"
 #include "program/ProgramInfo.h"
+#include "program/Rendering.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
@@ -27,37 +30,9 @@
 
 // The whole program over a home of the Mac's shape that it makes in a temporary folder: the Mac's places, an
 // applications folder of its own, settings in memory. It runs beside the real program and never touches its data.
-//
-// quillmere-demo [--light] [--screen KEY] [--refresh] [--picture FILE]
-// --refresh does what the menu's command of that name does, which starts the scan of a screen that waits for one. With
-// --picture it saves a picture of the window once the screen has nothing more to do, and ends.
+// "--help" tells what it takes.
 
 namespace {
-
-struct Options
-{
-    bool isLight = false;
-    bool refreshes = false;
-    QString screen;
-    QString picture;
-};
-
-Options optionsFrom(const QStringList &arguments)
-{
-    Options options;
-    for (qsizetype i = 1; i < arguments.size(); ++i) {
-        const bool hasValue = i + 1 < arguments.size();
-        if (arguments[i] == QStringLiteral("--light"))
-            options.isLight = true;
-        else if (arguments[i] == QStringLiteral("--refresh"))
-            options.refreshes = true;
-        else if (arguments[i] == QStringLiteral("--screen") && hasValue)
-            options.screen = arguments[++i];
-        else if (arguments[i] == QStringLiteral("--picture") && hasValue)
-            options.picture = arguments[++i];
-    }
-    return options;
-}
 
 /// Saves a picture of the window as soon as no scan is running, and ends the program.
 void savePictureWhenReady(Composition &composition, const QString &file, const std::function<void()> &exitNow)
@@ -77,9 +52,8 @@ void savePictureWhenReady(Composition &composition, const QString &file, const s
     timer->start(300);
 }
 
-int runDemo(DemoHome &demo)
+int runDemo(DemoHome &demo, const DemoOptions &options)
 {
-    const Options options = optionsFrom(QGuiApplication::arguments());
     SystemClock clock;
     EventLoopMainQueue mainQueue;
     ThreadWorkQueue workQueue;
@@ -129,18 +103,27 @@ int runDemo(DemoHome &demo)
     return QGuiApplication::exec();
 }
 
+/// The options are read ahead of everything that takes time or needs a display.
+DemoOptions optionsFrom(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    return DemoOptions::from(QCoreApplication::arguments());
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     try {
+        const DemoOptions options = optionsFrom(argc, argv);
         DemoHome demo;
         // What goes to the Trash stays inside the demo as well; set before the desktop's library first looks.
         qputenv("XDG_DATA_HOME", paths::toBytes(demo.home() + QStringLiteral("/.local/share")));
+        rendering::choose(rendernode::isThere());
         QGuiApplication application(argc, argv);
         demo.fill(); // not before: without a display the line above ends the program
         program::describe();
-        return runDemo(demo);
+        return runDemo(demo, options);
     } catch (const std::exception &error) {
         fprintf(stderr, "The demo's home could not be made: %s\n", error.what());
         return EXIT_FAILURE;
