@@ -49,6 +49,8 @@ public:
     /// The screen on view has been seen, so what it loads may begin. Told once for each; later calls do nothing.
     void appear();
 
+    bool hasAppeared() const { return hasAppeared_; }
+
     Q_INVOKABLE void openSearch();
 
 signals:

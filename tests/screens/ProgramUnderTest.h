@@ -62,6 +62,8 @@ public:
     Q_INVOKABLE QString firstScreen() const { return firstScreen_; }
     /// The title of the one on view.
     Q_INVOKABLE QString selectedScreen() const;
+    /// Whether it has been seen, so that what it loads has begun.
+    Q_INVOKABLE bool hasAppeared() const { return composition_->main().hasAppeared(); }
     /// Whether a sheet is up that a button or a menu opens; the tour comes by itself.
     Q_INVOKABLE bool isSheetUp() const;
     Q_INVOKABLE QString takeWarnings() const;

@@ -96,6 +96,7 @@ TestCase {
     function open(title) {
         click(title, sidebar());
         compare(Program.selectedScreen(), title);
+        tryVerify(() => Program.hasAppeared(), patience, "the screen has been seen");
         Program.settle();
     }
 

@@ -58,10 +58,12 @@ ScreenCase {
 
     // The question of the Duplicate Finder, over a folder of equal files.
     function askToDelete() {
-        Duplicates.scanOnly([Duplicates.makeTwins()], 1024);
         open("Dashboard");
         open("Duplicates");
-        clickOn(Program.named("scanButton"));
+        if (!Program.named("trashButton")) { // else the groups of the test before are there
+            Duplicates.scanOnly([Duplicates.makeTwins()], 1024);
+            clickOn(Program.named("scanButton"));
+        }
         tryVerify(() => Program.named("trashButton")?.enabled, patience, "there is something to delete");
         clickOn(Program.named("trashButton"));
         find("Confirm Deletion");
