@@ -148,6 +148,9 @@ TEST(LayerRules, letIncludesPointDown)
         {u"filesystem/A.h"_s, u"common/B.h"_s},
         {u"disk/A.h"_s, u"filesystem/B.h"_s},
         {u"disk/A.h"_s, u"controls/B.h"_s},
+        {u"dashboard/A.h"_s, u"disk/B.h"_s},
+        {u"dashboard/A.h"_s, u"duplicates/B.h"_s},
+        {u"shell/A.h"_s, u"dashboard/B.h"_s},
         {u"shell/A.h"_s, u"disk/B.h"_s},
         {u"shell/A.h"_s, u"common/B.h"_s},
         {u"program/main.cpp"_s, u"platform/linux/B.h"_s},
@@ -166,6 +169,7 @@ TEST(LayerRules, refuseIncludesThatPointUp)
         {u"filesystem/A.h"_s, u"disk/B.h"_s},     {u"disk/A.h"_s, u"shell/B.h"_s},
         {u"browser/A.h"_s, u"shell/B.h"_s},       {u"activity/A.h"_s, u"disk/B.h"_s},
         {u"common/A.h"_s, u"controls/B.h"_s},     {u"shell/A.h"_s, u"program/B.h"_s},
+        {u"disk/A.h"_s, u"dashboard/B.h"_s},      {u"dashboard/A.h"_s, u"shell/B.h"_s},
     };
     for (const auto &[from, to] : refused)
         EXPECT_EQ(objections(from, to), QStringList(u"%1:1 includes %2: above it"_s.arg(from, to)));

@@ -43,17 +43,20 @@ ScreenCase {
         compare(Program.window.minimumHeight, 700);
     }
 
-    function test_sidebarShowsNineScreensInThreeSections() {
-        compare(Program.texts(sidebar()),
-                "NAVIGATION\nDashboard\nFile Browser\nSearch\n"
-                + "TOOLS\nDisk Analyzer\nDuplicates\n1,247\nBulk Rename\nCleanup\nOrganizer\n"
-                + "APPS\nApp Manager");
+    function test_sidebarShowsTheScreensUnderThreeSections() {
+        const sections = ["NAVIGATION", "TOOLS", "APPS"];
+        const titles = Array.from(screens(), row => row.tag);
+        const lines = Program.texts(sidebar()).split("\n");
+        compare(lines.filter(line => sections.includes(line)).join(), sections.join());
+        compare(lines.filter(line => titles.includes(line)).join(), titles.join());
+        compare(lines[lines.indexOf("Duplicates") + 1], "1,247");
+        compare(lines.length, sections.length + titles.length + 1);
     }
 
     function screens() {
-        const titles = ["Dashboard", "File Browser", "Search", "Disk Analyzer", "Duplicates", "Bulk Rename",
-                        "Cleanup", "Organizer", "App Manager"];
-        return Array.from(titles, title => ({ tag: title }));
+        const rows = sidebar() as ListView;
+        verify(rows.count >= 9);
+        return Array.from({ length: rows.count }, (row, i) => ({ tag: told(rows.itemAtIndex(i), "itemTitle") }));
     }
 
     function test_clickSelects_data() {
