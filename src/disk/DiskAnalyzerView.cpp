@@ -50,6 +50,7 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
     connect(&diskService_, &DiskService::analyzerRootChanged, this, &DiskAnalyzerView::showCurrentEntry);
     connect(&diskService_, &DiskService::analyzerScanPathChanged, this, &DiskAnalyzerView::contentChanged);
     connect(&diskService_, &DiskService::lastAnalyzerScanChanged, this, &DiskAnalyzerView::showAge);
+    connect(&diskService_, &DiskService::isTrashingChanged, this, &DiskAnalyzerView::scanChanged);
     treemap_.onTap = [this](const StorageCategory &category) { openChildNamed(category.name); };
     showAge();
     showCurrentEntry();
@@ -248,21 +249,19 @@ void DiskAnalyzerView::moveToTrash(int row)
     const Entry entry = child(row);
     if (!entry || !canTrash())
         return;
-    isTrashing_ = true;
-    emit scanChanged();
     guarded::runLater(platform_.mainQueue, *this, [entry](DiskAnalyzerView &self) { self.runTrash(entry); });
 }
 
 void DiskAnalyzerView::runTrash(const Entry &entry)
 {
+    if (!canTrash()) // a scan or another move has begun since the click
+        return;
     const Entry shown = currentEntry();
     try {
-        fileSystem_.moveToTrash(entry->path);
+        diskService_.moveToTrash(entry->path);
     } catch (const Error &) {
         // Dropped without a word: the row stays, and a rescan tells what is there.
     }
-    isTrashing_ = false;
-    emit scanChanged();
     if (currentEntry() == shown) // nobody has gone elsewhere meanwhile
         openEntry(shown);
 }

@@ -81,7 +81,7 @@ public:
     FDABanner *banner() { return &banner_; }
     AgePillView *pill() { return &pill_; }
     QString trashText() const;
-    bool canTrash() const { return !isScanning() && !isTrashing_; }
+    bool canTrash() const { return !isScanning() && !diskService_.isTrashing(); }
 
     const std::vector<Entry> &breadcrumb() const { return breadcrumb_; }
     /// The last of the breadcrumb, else the service's tree; none while there is neither.
@@ -140,5 +140,4 @@ private:
     RecordListModel<Row> contentRows_;
     TreemapView treemap_;
     FDABanner banner_;
-    bool isTrashing_ = false;
 };

@@ -8,6 +8,7 @@
 #include "filesystem/SizeProbes.h"
 
 #include <QPointer>
+#include <QScopeGuard>
 
 namespace {
 
@@ -211,6 +212,21 @@ void DiskService::publishAnalyzer(std::shared_ptr<const FileEntry> tree, const Q
     emit analyzerRootChanged();
     emit lastAnalyzerScanChanged();
     emit isScanningAnalyzerChanged();
+}
+
+void DiskService::moveToTrash(const QString &path)
+{
+    if (isTrashing_)
+        return;
+    setTrashing(true);
+    const auto ending = qScopeGuard([this] { setTrashing(false); });
+    fileSystem_().moveToTrash(path);
+}
+
+void DiskService::setTrashing(bool isTrashing)
+{
+    isTrashing_ = isTrashing;
+    emit isTrashingChanged();
 }
 
 void DiskService::cancelAnalyzerScan()

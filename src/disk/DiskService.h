@@ -49,6 +49,8 @@ public:
     const QString &analyzerScanPath() const { return analyzerScanPath_; }
     bool isScanningAnalyzer() const { return isScanningAnalyzer_; }
     std::optional<Date> lastAnalyzerScan() const { return lastAnalyzerScan_; }
+    /// True while `moveToTrash` runs, which lets the event loop turn; screens come and go meanwhile.
+    bool isTrashing() const { return isTrashing_; }
 
     // Commands; main thread.
 
@@ -77,6 +79,10 @@ public:
     /// Chooses the folder that the next analyzer scan shows before it begins.
     void setAnalyzerScanPath(const QString &path);
 
+    /// Moves an entry to the Trash, and lets the event loop turn meanwhile; the measured tree stays as it is. A second call
+    /// during a move does nothing. Throws Error where the entry stays.
+    void moveToTrash(const QString &path);
+
     // What the scans measure, as told in diskmeasures. Each blocks; any thread but the main one.
 
     std::vector<LargeDirectory> drillChildren(const QString &path);
@@ -93,6 +99,7 @@ signals:
     void analyzerScanPathChanged();
     void isScanningAnalyzerChanged();
     void lastAnalyzerScanChanged();
+    void isTrashingChanged();
 
 private:
     bool isFresh(std::optional<Date> date) const;
@@ -100,6 +107,7 @@ private:
     void publishStorage(const std::vector<StorageCategory> &categories, bool stampsDate);
     void runLargestDirs();
     void publishLargestDirs(const std::vector<LargeDirectory> &directories);
+    void setTrashing(bool isTrashing);
     void publishAnalyzer(std::shared_ptr<const FileEntry> tree, const QString &path, int generation);
 
     const Platform &platform_;
@@ -116,6 +124,7 @@ private:
     QString analyzerScanPath_;
     bool isScanningAnalyzer_ = false;
     std::optional<Date> lastAnalyzerScan_;
+    bool isTrashing_ = false;
     std::optional<QString> analyzerLastScannedPath_;
     int analyzerScanGeneration_ = 0;
 };

@@ -21,10 +21,14 @@ struct DiskAnalyzerTrashTest : public testing::Test
     void SetUp() override
     {
         test.temp.file(QStringLiteral("home/folder/inside"), "x");
-        view = std::make_shared<DiskAnalyzerView>(test.platform, services.disk, services.fileSystem,
-                                                  test.access);
+        view = makeView();
         view->appear();
         test.settle();
+    }
+    std::shared_ptr<DiskAnalyzerView> makeView()
+    {
+        return std::make_shared<DiskAnalyzerView>(test.platform, services.disk, services.fileSystem,
+                                                  test.access);
     }
     int rowOf(const QString &name) const
     {
@@ -58,7 +62,6 @@ TEST_F(DiskAnalyzerTrashTest, movesTheRowsEntryAndOpensTheEntryOnViewOnceMore)
     const DiskAnalyzerView::Entry shown = view->currentEntry();
     view->moveToTrash(rowOf(QStringLiteral("big.bin")));
     EXPECT_TRUE(test.recycler.recycled.isEmpty()); // not from within the menu's call
-    EXPECT_FALSE(view->canTrash());
     test.mainQueue.run();
     EXPECT_EQ(test.recycler.recycled, QStringList{path});
     EXPECT_FALSE(files::exists(path));
@@ -107,6 +110,58 @@ TEST_F(DiskAnalyzerTrashTest, takesNoSecondMoveWhileOneIsUnderWay)
     moveToTrash(QStringLiteral("big.bin"));
     EXPECT_EQ(test.recycler.recycled, QStringList{path});
     EXPECT_TRUE(view->canTrash());
+}
+
+TEST_F(DiskAnalyzerTrashTest, takesNoSecondMoveFromAScreenMadeWhileOneIsUnderWay)
+{
+    Recycler::Completion answer;
+    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
+    const int folder = rowOf(QStringLiteral("folder"));
+    std::shared_ptr<DiskAnalyzerView> second;
+    std::vector<bool> told;
+    QObject context;
+    QTimer::singleShot(0, &context, [&] {
+        view.reset(); // another screen was chosen, and this one again
+        second = makeView();
+        QObject::connect(second.get(), &DiskAnalyzerView::scanChanged, &context,
+                         [&] { told.push_back(second->canTrash()); });
+        EXPECT_FALSE(second->canTrash());
+        second->moveToTrash(folder);
+        test.mainQueue.run();
+        answer({});
+    });
+    moveToTrash(QStringLiteral("big.bin"));
+    EXPECT_EQ(test.recycler.recycled, QStringList{path});
+    EXPECT_EQ(told, std::vector<bool>{true});
+    ASSERT_TRUE(second->canTrash());
+    trashMoves();
+    second->moveToTrash(folder);
+    test.mainQueue.run();
+    EXPECT_EQ(test.recycler.recycled.size(), 2);
+}
+
+TEST_F(DiskAnalyzerTrashTest, dropsACommandWhoseTurnComesDuringAnotherMove)
+{
+    Recycler::Completion answer;
+    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
+    view->moveToTrash(rowOf(QStringLiteral("big.bin")));
+    view->moveToTrash(rowOf(QStringLiteral("folder")));
+    QObject context;
+    QTimer::singleShot(0, &context, [&] {
+        test.mainQueue.run();
+        answer({});
+    });
+    test.mainQueue.run();
+    EXPECT_EQ(test.recycler.recycled, QStringList{path});
+    EXPECT_EQ(view->breadcrumb().size(), 1U);
+}
+
+TEST_F(DiskAnalyzerTrashTest, dropsACommandWhoseTurnComesDuringAScan)
+{
+    view->rescan();
+    view->moveToTrash(rowOf(QStringLiteral("big.bin"))); // the scan tells of itself in a later turn, too
+    test.mainQueue.run();
+    EXPECT_TRUE(test.recycler.recycled.isEmpty());
 }
 
 TEST_F(DiskAnalyzerTrashTest, livesUntilItsMoveHasEndedThoughAnotherScreenIsChosenMeanwhile)
