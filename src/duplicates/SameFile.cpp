@@ -14,10 +14,7 @@ struct Entry
     files::Identity folder;
     QString name;
 
-    friend bool operator==(const Entry &left, const Entry &right)
-    {
-        return left.folder == right.folder && left.name == right.name;
-    }
+    friend bool operator==(const Entry &, const Entry &) = default;
     friend size_t qHash(const Entry &entry, size_t seed = 0)
     {
         return qHashMulti(seed, entry.folder, entry.name);

@@ -3,9 +3,12 @@
 #include "base/Paths.h"
 #include "support/TempHome.h"
 
+#include <cerrno>
 #include <filesystem>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -40,8 +43,26 @@ TEST(FileIdentity, isNoneWhereNothingIs)
     const QString dangling = temp.link(u"dangling"_s, temp.at(u"nowhere"_s));
     EXPECT_FALSE(files::identity(temp.at(u"nowhere"_s)));
     EXPECT_FALSE(files::identity(file + u'/'));
+    errno = 0;
     EXPECT_FALSE(files::identity(file + QChar(u'\0') + u"more"_s));
+    EXPECT_EQ(errno, ENOENT);
     EXPECT_FALSE(files::identity(QString()));
     EXPECT_TRUE(files::identity(dangling));
     EXPECT_FALSE(files::followedIdentity(dangling));
+}
+
+TEST(FileIdentity, staysWithAnOpenFileThatHasLeftItsName)
+{
+    const TempHome temp;
+    const QByteArray file = paths::toBytes(temp.file(u"file"_s));
+    const QByteArray moved = paths::toBytes(temp.at(u"moved"_s));
+    const int descriptor = open(file.constData(), O_RDONLY | O_CLOEXEC);
+    ASSERT_NE(descriptor, -1);
+    EXPECT_EQ(files::openIdentity(descriptor), files::identity(paths::fromBytes(file)));
+    ASSERT_EQ(rename(file.constData(), moved.constData()), 0);
+    temp.file(u"file"_s);
+    EXPECT_NE(files::openIdentity(descriptor), files::identity(paths::fromBytes(file)));
+    EXPECT_EQ(files::openIdentity(descriptor), files::identity(paths::fromBytes(moved)));
+    close(descriptor);
+    EXPECT_FALSE(files::openIdentity(-1));
 }

@@ -19,7 +19,7 @@ constexpr qsizetype longestMessage = 1000; // characters
 struct Item
 {
     QString path;
-    TrashFolder::Identity identity;
+    files::Identity identity;
 };
 
 QString quotedName(const QString &path)
@@ -36,7 +36,7 @@ QString aboutItem(const QString &sentence, const QString &path)
 bool isOnHomeVolume(const Item &item)
 {
     // The dot is there for a home folder that is a link.
-    const auto home = TrashFolder::identity(paths::join(giotrash::homeFolder(), QStringLiteral(".")));
+    const auto home = files::identity(paths::join(giotrash::homeFolder(), QStringLiteral(".")));
     return home && home->device == item.identity.device;
 }
 
@@ -158,7 +158,7 @@ Item itemAt(const QString &path)
     if (!path.startsWith(u'/') || path.contains(QChar::Null))
         throw errors::fromErrno(ENOENT);
     const QString standardized = giotrash::standardized(path);
-    const auto identity = TrashFolder::identity(standardized);
+    const auto identity = files::identity(standardized);
     if (!identity)
         throw errors::fromErrno(errno);
     return {standardized, *identity};
@@ -227,8 +227,8 @@ AdminFailure failureOf(const ChildProcess &process)
 /// found again.
 void settle(const TrashFolder::Entry &entry, const QString &source, bool succeeded)
 {
-    const bool wasSkipped = succeeded && TrashFolder::identity(source).has_value();
-    if (wasSkipped || !TrashFolder::identity(entry.file))
+    const bool wasSkipped = succeeded && files::identity(source).has_value();
+    if (wasSkipped || !files::identity(entry.file))
         TrashFolder::release(entry);
 }
 

@@ -62,11 +62,11 @@ QString resolved(const QString &path)
 }
 
 /// The root of the volume `device`, on which a folder is whose path contains no links.
-QString volumeRoot(const QString &folder, dev_t device)
+QString volumeRoot(const QString &folder, quint64 device)
 {
     QString root = folder;
     while (root != u"/") {
-        const auto above = TrashFolder::identity(paths::parent(root));
+        const auto above = files::identity(paths::parent(root));
         if (!above || above->device != device)
             break;
         root = paths::parent(root);
@@ -125,20 +125,12 @@ TrashFolder::TrashFolder(QString path, QString top)
 {
 }
 
-std::optional<TrashFolder::Identity> TrashFolder::identity(const QString &path)
-{
-    struct stat status = {};
-    if (lstat(paths::toBytes(path).constData(), &status) == -1)
-        return std::nullopt;
-    return Identity{status.st_dev, status.st_ino};
-}
-
 TrashFolder TrashFolder::ofHome(const QString &dataFolder)
 {
     return {paths::join(dataFolder, QStringLiteral("Trash")), {}};
 }
 
-std::optional<TrashFolder> TrashFolder::ofVolume(const QString &item, dev_t device)
+std::optional<TrashFolder> TrashFolder::ofVolume(const QString &item, quint64 device)
 {
     const QString folder = resolved(paths::parent(item));
     if (folder.isEmpty())
@@ -163,11 +155,12 @@ bool TrashFolder::isLink() const
     });
 }
 
-std::optional<TrashFolder::Entry> TrashFolder::find(const QString &name, const Identity &identity) const
+std::optional<TrashFolder::Entry> TrashFolder::find(const QString &name,
+                                                    const files::Identity &identity) const
 {
     for (int number = 1;; ++number) {
         Entry place = entry(numberedName(name, number));
-        if (TrashFolder::identity(place.file) == identity)
+        if (files::identity(place.file) == identity)
             return place;
         if (!isThere(place.info)) // the library takes the first name without a note, unless it shortens it
             return findAmongAll(identity);
@@ -225,12 +218,12 @@ TrashFolder::Entry TrashFolder::entry(const QString &name) const
             paths::join(paths::join(path_, notesFolder), name + noteSuffix)};
 }
 
-std::optional<TrashFolder::Entry> TrashFolder::findAmongAll(const Identity &identity) const
+std::optional<TrashFolder::Entry> TrashFolder::findAmongAll(const files::Identity &identity) const
 {
     const auto names = files::list(paths::join(path_, itemsFolder));
     for (const QString &name : names.value_or(std::vector<QString>())) {
         Entry place = entry(name);
-        if (TrashFolder::identity(place.file) == identity)
+        if (files::identity(place.file) == identity)
             return place;
     }
     return std::nullopt;

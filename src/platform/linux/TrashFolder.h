@@ -1,13 +1,12 @@
 #pragma once
 
 #include "base/Error.h"
+#include "base/FileIdentity.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <optional>
-
-#include <sys/types.h>
 
 /// One Trash on the disk, as freedesktop.org's rules for a trash can lays it out: the items in "files", and
 /// beside them in "info" a note for each, which says where it came from. A note that exists reserves its
@@ -25,32 +24,20 @@ public:
         QString info;
     };
 
-    /// What tells one item on the disk from all others.
-    struct Identity
-    {
-        dev_t device = 0;
-        ino_t number = 0;
-
-        bool operator==(const Identity &) const = default;
-    };
-
-    /// The item's own; a link's is not that of its target. None when nothing is there.
-    static std::optional<Identity> identity(const QString &path);
-
     /// The home Trash below the data folder. It need not exist.
     static TrashFolder ofHome(const QString &dataFolder);
 
     /// The user's own Trash on the volume `device`, on which the item at an absolute path is or was. None
     /// when there is none, or none that is safe to use: neither the volume's common ".Trash" nor the user's
     /// folder may be a link.
-    static std::optional<TrashFolder> ofVolume(const QString &item, dev_t device);
+    static std::optional<TrashFolder> ofVolume(const QString &item, quint64 device);
 
     /// True when the Trash or one of its two folders is a link. The folders above may be links.
     bool isLink() const;
 
     /// The place that the library has given to an item that it has just moved, under its name, a numbered one
     /// or one that it has shortened. `name` is the item's last path component. None when it isn't found.
-    std::optional<Entry> find(const QString &name, const Identity &identity) const;
+    std::optional<Entry> find(const QString &name, const files::Identity &identity) const;
 
     /// True when the library might move an item of that name over one that has lost its note: it takes the
     /// first name without a note, and shortens a name that is too long in a way that can't be foretold.
@@ -69,7 +56,7 @@ public:
 private:
     TrashFolder(QString path, QString top);
     Entry entry(const QString &name) const;
-    std::optional<Entry> findAmongAll(const Identity &identity) const;
+    std::optional<Entry> findAmongAll(const files::Identity &identity) const;
     QByteArray note(const QString &item) const;
 
     QString path_;

@@ -10,10 +10,10 @@ class TrashFolderTest : public RecyclerTest
 {
 protected:
     /// Puts an item and its note into the home Trash under a name, as the library does.
-    static TrashFolder::Identity put(const QString &name)
+    static files::Identity put(const QString &name)
     {
         makeFile(u".local/share/Trash/info/"_s + name + u".trashinfo"_s, "[Trash Info]\n");
-        return *TrashFolder::identity(makeFile(u".local/share/Trash/files/"_s + name));
+        return *files::identity(makeFile(u".local/share/Trash/files/"_s + name));
     }
 
     const TrashFolder trash_ = TrashFolder::ofHome(at(u".local/share"_s));
@@ -23,8 +23,8 @@ protected:
 
 TEST_F(TrashFolderTest, findsAnItemUnderItsNameOrANumberedOne)
 {
-    const TrashFolder::Identity first = put(u"report.pdf"_s);
-    const TrashFolder::Identity second = put(u"report.2.pdf"_s);
+    const files::Identity first = put(u"report.pdf"_s);
+    const files::Identity second = put(u"report.2.pdf"_s);
     EXPECT_EQ(trash_.find(u"report.pdf"_s, first)->file, TrashHome::trash() + u"/files/report.pdf"_s);
     const auto found = trash_.find(u"report.pdf"_s, second);
     EXPECT_EQ(found->file, TrashHome::trash() + u"/files/report.2.pdf"_s);
@@ -34,7 +34,7 @@ TEST_F(TrashFolderTest, findsAnItemUnderItsNameOrANumberedOne)
 TEST_F(TrashFolderTest, findsAnItemWhoseNameWasShortened)
 {
     put(QString(231, u'a'));
-    const TrashFolder::Identity item = put(QString(232, u'a'));
+    const files::Identity item = put(QString(232, u'a'));
     const auto found = trash_.find(QString(239, u'a'), item);
     ASSERT_TRUE(found);
     EXPECT_EQ(found->file, TrashHome::trash() + u"/files/"_s + QString(232, u'a'));
@@ -44,7 +44,7 @@ TEST_F(TrashFolderTest, findsAnItemWhoseNameWasShortened)
 TEST_F(TrashFolderTest, findsNothingThatIsNotInIt)
 {
     put(u"file"_s);
-    EXPECT_FALSE(trash_.find(u"file"_s, *TrashFolder::identity(makeFile(u"elsewhere/file"_s))));
+    EXPECT_FALSE(trash_.find(u"file"_s, *files::identity(makeFile(u"elsewhere/file"_s))));
 }
 
 TEST_F(TrashFolderTest, leavesToTheLibraryOnlyANameThatItKeeps)
