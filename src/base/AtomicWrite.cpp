@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "base/FileCalls.h"
+#include "base/FileIdentity.h"
 #include "base/Paths.h"
 #include "base/Sha256.h"
 
@@ -22,17 +23,17 @@ constexpr int mostNames = 10; // of temporary files, before we give up
 /// A file that is being written beside the one that it will replace.
 struct TemporaryFile
 {
-    QByteArray path;
+    QString path;
     Descriptor file;
 };
 
 /// The name of `path`'s temporary file. It is the same each time, so that killed writers leave one at most; `number` is
 /// above 0 only where the first is not to be had. Not the file's own name, which may be as long as a name can be.
-QByteArray temporaryPath(const QString &path, int number)
+QString temporaryPath(const QString &path, int number)
 {
     const QString digest = Sha256().hex(paths::toBytes(paths::lastComponent(path))).left(16);
     const QString name = QStringLiteral(".quillmere-%1-%2").arg(digest).arg(number);
-    return native(paths::join(paths::parent(path), name));
+    return paths::join(paths::parent(path), name);
 }
 
 /// True when the lock is ours, and where the file system has none. The system takes it from whoever dies.
@@ -42,32 +43,31 @@ bool isLocked(const Descriptor &file)
 }
 
 /// True when the open file still lies at `path`.
-bool isAt(const Descriptor &file, const QByteArray &path)
+bool isAt(const Descriptor &file, const QString &path)
 {
-    struct stat opened = {};
-    struct stat there = {};
-    return fstat(file.number(), &opened) == 0 && lstat(path.constData(), &there) == 0
-           && opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+    const auto opened = openIdentity(file.number());
+    return opened && opened == identity(path);
 }
 
 /// Takes away what a killed writer has left at `path`. False when it stays: a living one writes it, or it is no file to
 /// be removed. A writer's own file can always be opened, so that what can't be (a link, a file without permissions) is
 /// nobody's.
-bool removeLeftOver(const QByteArray &path)
+bool removeLeftOver(const QString &path)
 {
-    const int number = open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW);
+    const QByteArray name = native(path);
+    const int number = open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW);
     if (number == -1)
-        return unlink(path.constData()) == 0;
+        return unlink(name.constData()) == 0;
     const Descriptor leftOver(number);
     // With the lock held, nobody else takes it for a left-over, and no writer renames it.
-    return isLocked(leftOver) && isAt(leftOver, path) && unlink(path.constData()) == 0;
+    return isLocked(leftOver) && isAt(leftOver, path) && unlink(name.constData()) == 0;
 }
 
 /// None where the name is taken by what stays.
-std::optional<TemporaryFile> makeTemporary(QByteArray path)
+std::optional<TemporaryFile> makeTemporary(const QString &path)
 {
-    const auto make = [&path] {
-        return open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    const auto make = [name = native(path)] {
+        return open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
     };
     int number = make();
     if (number == -1 && errno == EEXIST) {
@@ -81,7 +81,7 @@ std::optional<TemporaryFile> makeTemporary(QByteArray path)
     // Another writer may have taken it for a left-over before it was locked.
     if (!isLocked(file) || !isAt(file, path))
         return std::nullopt;
-    return TemporaryFile{std::move(path), std::move(file)};
+    return TemporaryFile{path, std::move(file)};
 }
 
 TemporaryFile makeTemporaryOf(const QString &path)
@@ -136,12 +136,21 @@ void syncFolder(const QString &folder)
 void writeAtomically(const QString &path, const QByteArray &content)
 {
     const TemporaryFile temporary = makeTemporaryOf(path);
-    auto removing = qScopeGuard([&temporary] { unlink(temporary.path.constData()); });
+    const QByteArray name = native(temporary.path);
+    auto removing = qScopeGuard([&temporary, &name] {
+        if (isAt(temporary.file, temporary.path))
+            unlink(name.constData());
+    });
     fchmod(temporary.file.number(), permissionsFor(path)); // a file system that keeps no such bits may refuse
     writeWhole(temporary.file, path, content);
     if (fails(Operation::sync, path) || fsync(temporary.file.number()) == -1)
         throw errors::fromErrno(errno);
-    if (fails(Operation::rename, path) || rename(temporary.path.constData(), native(path).constData()) == -1)
+    if (fails(Operation::rename, path))
+        throw errors::fromErrno(errno);
+    // Without its lock another writer may have taken it for a left-over and begun its own under the name.
+    if (!isAt(temporary.file, temporary.path))
+        throw errors::fromErrno(EBUSY);
+    if (rename(name.constData(), native(path).constData()) == -1)
         throw errors::fromErrno(errno);
     removing.dismiss();
     syncFolder(paths::parent(path));

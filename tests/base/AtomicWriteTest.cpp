@@ -192,6 +192,25 @@ TEST_F(AtomicWriteTest, letsAnotherWriterFinishWhatItHasBegun)
     expectAlone();
 }
 
+TEST_F(AtomicWriteTest, putsNothingInPlaceThatAnotherWriterHasBegunUnderItsName)
+{
+    temp.file(u"file"_s, "old");
+    const QString name = temporaryName();
+    for (const Operation lost : {Operation::write, Operation::sync, Operation::rename}) {
+        files::injectFaults([&](Operation asked, const QString &) {
+            if (asked == lost) { // a writer on a file system without locks took it for a left-over
+                EXPECT_EQ(unlink(paths::toBytes(temp.at(name)).constData()), 0);
+                temp.file(name, "half");
+            }
+            return 0;
+        });
+        EXPECT_EQ(failureOfWrite(), EBUSY);
+        EXPECT_EQ(content(), "old");
+        EXPECT_EQ(files::readAll(temp.at(name), 100), "half"); // it is the other's
+        files::injectFaults({});
+    }
+}
+
 TEST_F(AtomicWriteTest, leavesWhoReadsTheOldFileItsOldContent)
 {
     temp.file(u"file"_s, "old");
