@@ -34,10 +34,12 @@ void postAfter(MainQueue &main, double seconds, QPointer<Owner> owner, Block blo
 /// Runs a command of a screen model in a later turn of the main loop, outside the click that asked for it, and keeps the
 /// model until the command has ended. For every command that lets the loop turn while it waits, such as a move to the
 /// Trash: another screen may be chosen from within, and neither the model nor what the command works on may go then.
-/// `Model` is owned through std::shared_ptr and is std::enable_shared_from_this. Main thread.
+/// `Model` is owned through std::shared_ptr, else the command would never run, and is
+/// std::enable_shared_from_this. Main thread.
 template<typename Model, typename Command>
 void runLater(MainQueue &main, Model &model, Command command)
 {
+    Q_ASSERT(!model.weak_from_this().expired());
     main.post([weak = model.weak_from_this(), command = std::move(command)] {
         if (const auto held = weak.lock())
             command(*held);

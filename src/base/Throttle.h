@@ -12,6 +12,8 @@ public:
     /// Runs `block` `period` seconds after a request at the earliest. `main` outlives the throttle; nothing runs once the
     /// throttle has gone.
     Throttle(MainQueue &main, double period, MainQueue::Block block);
+    Throttle(const Throttle &) = delete; // a copy would share the delay
+    Throttle &operator=(const Throttle &) = delete;
 
     void request();
 

@@ -87,3 +87,13 @@ TEST(LaterCommand, doesNotBeginForAModelThatHasGone)
     queue.run();
     EXPECT_EQ(calls, 0);
 }
+
+TEST(LaterCommand, endsADebugBuildForAModelThatNothingCanKeep)
+{
+#ifdef QT_NO_DEBUG
+    GTEST_SKIP() << "assertions are built without";
+#endif
+    SteppedMainQueue queue;
+    CountingModel model;
+    EXPECT_DEATH(guarded::runLater(queue, model, [](CountingModel &) {}), "weak_from_this");
+}

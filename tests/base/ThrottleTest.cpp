@@ -3,6 +3,7 @@
 #include "support/SteppedQueues.h"
 
 #include <optional>
+#include <type_traits>
 
 #include <gtest/gtest.h>
 
@@ -45,6 +46,12 @@ TEST(Throttle, letsItsBlockRequestAgain)
     throttle->request();
     queue.advance(2);
     EXPECT_EQ(told, 2);
+}
+
+TEST(Throttle, hasNoCopies)
+{
+    EXPECT_FALSE(std::is_copy_constructible_v<Throttle>);
+    EXPECT_FALSE(std::is_copy_assignable_v<Throttle>);
 }
 
 TEST(Throttle, tellsNothingOnceItHasGone)
