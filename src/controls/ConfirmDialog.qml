@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Quillmere
 
-// Asks before something that can't be taken back. The keyboard begins on Cancel, so that Return alone does no harm;
+// Asks before something that changes much at once or can't be undone here. The keyboard begins on Cancel, so that Return alone does no harm;
 // Escape cancels.
 T.Popup {
     id: dialog

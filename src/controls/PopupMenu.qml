@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Quillmere
 
-// A menu in the look of the program. Its items are MenuLine and MenuDivider.
+// A menu in the look of the program. Its items are MenuLine, which is a divider where it says so.
 Menu {
     id: menu
 

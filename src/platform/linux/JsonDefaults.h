@@ -7,7 +7,8 @@
 /// The user's settings in a JSON object in a file, which keeps the types of its values. Nothing touches the disk
 /// before the first read or write. A file that can't be read as settings is moved aside to "{file}.damaged",
 /// so that nothing in it is lost; where the file can't be written, values live until the program ends. Each write reads
-/// the file anew, so that what another process has stored meanwhile stays, and is seen from then on.
+/// the file anew, so that what another process has stored before stays, and is seen from then on. There is no lock between
+/// the reading and the writing: of two processes that write at the same instant, one loses what it stored.
 class JsonDefaults final : public Defaults
 {
 public:
