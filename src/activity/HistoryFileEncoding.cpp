@@ -1,7 +1,4 @@
-// The writing half of the file's form. Each record rewrites the whole log on the main thread, with up to 100,000 paths
-// in it, so that the text is made straight from the entries instead of from a tree of JSON values.
-
-#include "activity/HistoryFile.h"
+#include "activity/HistoryFileEncoding.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,7 @@
 #include "activity/HistoryService.h"
 
 #include "activity/HistoryFile.h"
+#include "activity/HistoryFileEncoding.h"
 #include "activity/Loggers.h"
 #include "base/AtomicWrite.h"
 #include "base/Error.h"

@@ -1,5 +1,6 @@
 #include "activity/HistoryFile.h"
 
+#include "activity/HistoryFileEncoding.h"
 #include "activity/HistorySamples.h"
 #include "base/Error.h"
 #include "base/Paths.h"

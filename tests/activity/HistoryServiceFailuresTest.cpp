@@ -1,4 +1,5 @@
 #include "activity/HistoryFile.h"
+#include "activity/HistoryFileEncoding.h"
 #include "activity/HistoryServiceFixture.h"
 #include "base/Paths.h"
 #include "support/OrdinaryUser.h"

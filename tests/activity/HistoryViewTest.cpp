@@ -1,6 +1,6 @@
 #include "activity/HistoryView.h"
 
-#include "activity/HistoryFile.h"
+#include "activity/HistoryFileEncoding.h"
 #include "activity/HistorySamples.h"
 #include "activity/HistoryService.h"
 #include "base/Files.h"
