@@ -104,7 +104,10 @@ HistoryView::HistoryView(const Platform &platform, HistoryService &history)
     std::vector<std::optional<Kind>> chips = {std::nullopt};
     chips.insert(chips.end(), HistoryEntry::allKinds.begin(), HistoryEntry::allKinds.end());
     filterRows_.reset(std::move(chips));
-    connect(&history_, &HistoryService::entriesChanged, this, &HistoryView::takeEntries);
+    connect(&history_, &HistoryService::entriesChanged, this, [this] {
+        clearing_.cancel(); // it has asked about a log that is another one now
+        takeEntries();
+    });
     connect(&clearing_, &Confirmation::changed, this, &HistoryView::showClearConfirmChanged);
     takeEntries();
 }

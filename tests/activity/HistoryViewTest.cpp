@@ -369,6 +369,29 @@ TEST_F(HistoryViewTest, clearsTheLogOnlyAfterItsQuestion)
     EXPECT_TRUE(view->canReveal());
 }
 
+TEST_F(HistoryViewTest, takesTheQuestionBackWhenTheLogChangesUnderIt)
+{
+    record(samples::entry(u"a"_s));
+    open();
+    view->askToClear();
+    record(samples::entry(u"b"_s));
+    EXPECT_FALSE(view->showClearConfirm());
+    view->confirmClear(); // the click that was on its way
+    test.mainQueue.run();
+    EXPECT_EQ(titles(), u"b a"_s);
+}
+
+TEST_F(HistoryViewTest, keepsTheQuestionUpWhileOnlyTheViewOfTheLogChanges)
+{
+    record(samples::entry(Kind::organize, u"a"_s, 1));
+    open();
+    view->askToClear();
+    view->toggleRow(0);
+    view->chooseFilter(undoChip);
+    test.mainQueue.run();
+    EXPECT_TRUE(view->showClearConfirm());
+}
+
 TEST_F(HistoryViewTest, asksWithItsOwnWords)
 {
     open();
