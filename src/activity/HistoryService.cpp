@@ -108,10 +108,11 @@ void HistoryService::save()
         return;
     }
     const size_t missing = entries_.size() - file.entryCount;
-    if (missing > 0)
+    if (missing > 0 && !isFileShort_)
         logError(QStringLiteral("history.json has no room for the oldest %1 of %2 entries")
                      .arg(missing)
                      .arg(entries_.size()));
+    isFileShort_ = missing > 0;
     if (!whyUnread_.isEmpty())
         logError(QStringLiteral("Replaced a history.json that could not be read: %1").arg(whyUnread_));
     whyUnread_.clear();

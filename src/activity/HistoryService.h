@@ -34,7 +34,8 @@ public:
 
     // Commands; any thread. They return at once and take effect, the saving included, in a later turn of the main
     // loop, in the order of the calls. A failed save goes to the diagnostic log; the next one writes everything again. Of a
-    // log that has no room in `historyfile::mostBytes` the file goes without the oldest entries, with such a line as well.
+    // log that has no room in `historyfile::mostBytes` the file goes without the oldest entries. Every save of such a log
+    // is short of some, so that only the first tells of it, and another one once the whole log has had room in between.
 
     /// Puts an entry at the front. The oldest beyond `maxEntries` are dropped.
     void record(const HistoryEntry &entry);
@@ -54,5 +55,6 @@ private:
     const Platform &platform_;
     QString fileURL_;
     std::vector<HistoryEntry> entries_;
+    bool isFileShort_ = false; ///< the last save had no room for the oldest entries
     QString whyUnread_; ///< why the file that is there could not be read; empty once it has been replaced
 };

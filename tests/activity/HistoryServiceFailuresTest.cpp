@@ -95,7 +95,10 @@ TEST_F(HistoryServiceTest, refusesAFileOf200MegabytesWithoutReadingIt)
     EXPECT_EQ(titles(), u"a"_s);
 }
 
-TEST_F(HistoryServiceTest, aLogThatWouldBeTooLargeToReadIsShortenedInItsFileAlone)
+namespace {
+
+/// Two entries that together fill a file to its last byte.
+std::vector<HistoryEntry> entriesWithoutRoomForMore()
 {
     std::vector<HistoryEntry> largest = {samples::entry(u"b"_s), samples::entry(u"a"_s)};
     for (HistoryEntry &entry : largest)
@@ -103,7 +106,14 @@ TEST_F(HistoryServiceTest, aLogThatWouldBeTooLargeToReadIsShortenedInItsFileAlon
     const qint64 room = historyfile::mostBytes - historyfile::encode(largest).size();
     largest[0].detail = QString(room / 2, u'x');
     largest[1].detail = QString(room - room / 2, u'x');
-    put(historyfile::encode(largest));
+    return largest;
+}
+
+} // namespace
+
+TEST_F(HistoryServiceTest, aLogThatWouldBeTooLargeToReadIsShortenedInItsFileAlone)
+{
+    put(historyfile::encode(entriesWithoutRoomForMore()));
     ASSERT_EQ(files::attributes(file())->size, historyfile::mostBytes);
     start();
     EXPECT_EQ(titles(), u"b a"_s);
@@ -117,6 +127,26 @@ TEST_F(HistoryServiceTest, aLogThatWouldBeTooLargeToReadIsShortenedInItsFileAlon
     start();
     EXPECT_EQ(titles(), u"c b"_s);
     EXPECT_TRUE(test.systemLog.lines.isEmpty());
+}
+
+TEST_F(HistoryServiceTest, saysOnceThatItsFileHasNoRoomUntilThereWasRoomAgain)
+{
+    const auto lineFor = [](int entries) {
+        return u"error General: history.json has no room for the oldest 1 of %1 entries"_s.arg(entries);
+    };
+    const std::vector<HistoryEntry> largest = entriesWithoutRoomForMore();
+    put(historyfile::encode(largest));
+    start();
+    record(u"c"_s);
+    record(u"d"_s);
+    EXPECT_EQ(test.systemLog.lines, QStringList{lineFor(3)});
+
+    service->clear();
+    record(largest[1]);
+    record(largest[0]);
+    EXPECT_EQ(test.systemLog.lines.size(), 1);
+    record(u"c"_s);
+    EXPECT_EQ(test.systemLog.lines, QStringList({lineFor(3), lineFor(3)}));
 }
 
 TEST_F(HistoryServiceTest, replacesAFileThatCouldNotBeReadWithALineAboutIt)
