@@ -56,6 +56,11 @@ DuplicateFinderView::DuplicateFinderView(const Platform &platform, DuplicateServ
     });
     platform_.notifications.observe(notifications::rescan, this, [this](const QVariant &) { scan(); });
     showGroups();
+}
+
+void DuplicateFinderView::appear()
+{
+    banner_.appear();
     sameFiles_.lookUp(service_.groups());
 }
 

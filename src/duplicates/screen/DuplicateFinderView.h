@@ -117,7 +117,7 @@ public:
     /// The bytes that the last delete run freed; none after a partial failure.
     std::optional<qint64> deleteResult() const { return deleteResult_; }
 
-    void appear() override { banner_.appear(); }
+    void appear() override;
 
     Q_INVOKABLE void scan();
     Q_INVOKABLE void stop();

@@ -146,7 +146,9 @@ TEST_F(DeleteNoteTest, tellsOfSameFilesOnTheHeadsOfTheGroups)
     scanAlsoThroughALink({u"a"_s, u"way"_s, u"b"_s});
     EXPECT_EQ(text(0, "sameMark"), u"SAME FILE"_s);
     EXPECT_EQ(text(0, "lossMark"), QString());
-    open(); // another screen model over the same result
+    open();                                  // another screen model over the same result
+    EXPECT_EQ(test.workQueue.waiting(), 0U); // the disk is not asked before the screen has been seen
+    view->appear();
     EXPECT_EQ(text(0, "sameMark"), QString());
     test.settle();
     EXPECT_EQ(text(0, "sameMark"), u"SAME FILE"_s);
