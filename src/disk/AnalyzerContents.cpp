@@ -2,11 +2,11 @@
 
 #include "base/Paths.h"
 #include "base/Sums.h"
-
-#include <QStringList>
+#include "common/ExtensionTable.h"
 
 #include <array>
 #include <charconv>
+#include <optional>
 
 namespace {
 
@@ -15,24 +15,18 @@ constexpr size_t mostCategories = 12;
 constexpr std::array palette = {"58a6ff", "a371f7", "3fb950", "da3633",
                                 "d29922", "39d2c0", "f778ba", "8b949e"};
 
-struct SymbolRow
+const ExtensionTable &fileSymbols()
 {
-    const char *extensions; // separated by blanks
-    const char *symbol;
-};
-
-constexpr std::array fileSymbols = {
-    SymbolRow{"mp4 mov avi mkv", "film.fill"},
-    SymbolRow{"mp3 aac wav flac m4a", "music.note"},
-    SymbolRow{"pdf", "doc.richtext.fill"},
-    SymbolRow{"zip gz tar rar 7z", "doc.zipper"},
-    SymbolRow{"swift py js ts java c cpp h", "chevron.left.forwardslash.chevron.right"},
-    SymbolRow{"iso dmg", "externaldrive.fill"},
-};
-
-bool isOneOf(const QString &ext, const char *extensions)
-{
-    return QString::fromLatin1(extensions).split(u' ').contains(ext);
+    static const ExtensionTable table = {
+        {"jpg jpeg png gif heic webp", "photo.fill"},
+        {"mp4 mov avi mkv", "film.fill"},
+        {"mp3 aac wav flac m4a", "music.note"},
+        {"pdf", "doc.richtext.fill"},
+        {"zip gz tar rar 7z", "doc.zipper"},
+        {"swift py js ts java c cpp h", "chevron.left.forwardslash.chevron.right"},
+        {"iso dmg", "externaldrive.fill"},
+    };
+    return table;
 }
 
 qint64 sumOf(const std::vector<FileEntry> &entries)
@@ -90,20 +84,17 @@ std::vector<StorageCategory> mapCategories(const FileEntry &entry)
 QString rowSymbol(const FileEntry &entry)
 {
     const QString name = entry.name.toLower();
-    const QString ext = paths::extension(name);
+    const std::optional<QString> symbol = fileSymbols().value(paths::extension(name));
     if (name.endsWith(u".app"))
         return QStringLiteral("app.fill");
-    if (isOneOf(ext, "jpg jpeg png gif heic webp") || name.endsWith(u".photoslibrary"))
+    // A folder of such a name too, unlike the table's other rows.
+    if (symbol == QStringLiteral("photo.fill") || name.endsWith(u".photoslibrary"))
         return QStringLiteral("photo.fill");
     if (name.endsWith(u".xcodeproj") || name.endsWith(u".xcworkspace"))
         return QStringLiteral("hammer.fill");
     if (entry.isDirectory)
         return QStringLiteral("folder.fill");
-    for (const SymbolRow &row : fileSymbols) {
-        if (isOneOf(ext, row.extensions))
-            return QString::fromLatin1(row.symbol);
-    }
-    return QStringLiteral("doc.fill");
+    return symbol.value_or(QStringLiteral("doc.fill"));
 }
 
 double share(qint64 part, qint64 whole)
