@@ -59,7 +59,7 @@ void writeAt(const QString &path, qint64 offset, const QByteArray &bytes)
 
 /// Four equal files, the third of which meets with something between the walk and the comparison. Scanned folder by
 /// folder, so that their order is known.
-class DuplicateBadInput : public testing::TestWithParam<int>
+class DuplicateBadInputTest : public testing::TestWithParam<int>
 {
 protected:
     TempHome temp;
@@ -101,25 +101,25 @@ protected:
 
 } // namespace
 
-TEST_P(DuplicateBadInput, leavesAFileOutThatHasShrunk)
+TEST_P(DuplicateBadInputTest, leavesAFileOutThatHasShrunk)
 {
     const auto result =
         scan([this] { ASSERT_EQ(truncate(native(victim()).constData(), content.size() - 1), 0); });
     EXPECT_EQ(result.hashFailureCount, 0) << "it could be read";
 }
 
-TEST_P(DuplicateBadInput, leavesAFileOutThatHasBecomeEmpty)
+TEST_P(DuplicateBadInputTest, leavesAFileOutThatHasBecomeEmpty)
 {
     EXPECT_EQ(scan([this] { temp.file(u"2/file"_s); }).hashFailureCount, 0);
 }
 
-TEST_P(DuplicateBadInput, leavesAFileOutThatHasBeenRewritten)
+TEST_P(DuplicateBadInputTest, leavesAFileOutThatHasBeenRewritten)
 {
     const auto result = scan([this] { temp.file(u"2/file"_s, changedAt(content, content.size() - 1)); });
     EXPECT_EQ(result.hashFailureCount, 0);
 }
 
-TEST_P(DuplicateBadInput, comparesAFileThatHasGrownByItsFormerSize)
+TEST_P(DuplicateBadInputTest, comparesAFileThatHasGrownByItsFormerSize)
 {
     ScanRun run(scanPaths);
     run.whenComparing = [this] { temp.file(u"2/file"_s, content + filled(20000)); };
@@ -128,18 +128,18 @@ TEST_P(DuplicateBadInput, comparesAFileThatHasGrownByItsFormerSize)
     EXPECT_EQ(result.hashFailureCount, 0);
 }
 
-TEST_P(DuplicateBadInput, countsAFileThatHasVanished)
+TEST_P(DuplicateBadInputTest, countsAFileThatHasVanished)
 {
     EXPECT_EQ(scan([this] { removeVictim(); }).hashFailureCount, 1);
 }
 
-TEST_P(DuplicateBadInput, countsAFileThatMayNoLongerBeRead)
+TEST_P(DuplicateBadInputTest, countsAFileThatMayNoLongerBeRead)
 {
     const InjectedFaults fault(files::Operation::open, victim());
     EXPECT_EQ(scan([] {}).hashFailureCount, 1);
 }
 
-TEST_P(DuplicateBadInput, countsAFileThatHasBecomeAFolder)
+TEST_P(DuplicateBadInputTest, countsAFileThatHasBecomeAFolder)
 {
     const auto result = scan([this] {
         removeVictim();
@@ -148,7 +148,7 @@ TEST_P(DuplicateBadInput, countsAFileThatHasBecomeAFolder)
     EXPECT_EQ(result.hashFailureCount, 1);
 }
 
-TEST_P(DuplicateBadInput, countsAFileThatHasBecomeAPipeWithoutWaitingForItsWriter)
+TEST_P(DuplicateBadInputTest, countsAFileThatHasBecomeAPipeWithoutWaitingForItsWriter)
 {
     const auto result = scan([this] {
         removeVictim();
@@ -157,7 +157,7 @@ TEST_P(DuplicateBadInput, countsAFileThatHasBecomeAPipeWithoutWaitingForItsWrite
     EXPECT_EQ(result.hashFailureCount, 1);
 }
 
-TEST_P(DuplicateBadInput, countsAFileThatHasBecomeASocket)
+TEST_P(DuplicateBadInputTest, countsAFileThatHasBecomeASocket)
 {
     const auto result = scan([this] {
         removeVictim();
@@ -166,7 +166,7 @@ TEST_P(DuplicateBadInput, countsAFileThatHasBecomeASocket)
     EXPECT_EQ(result.hashFailureCount, 1);
 }
 
-TEST_P(DuplicateBadInput, countsAFileThatHasBecomeALinkToAnEndlessDevice)
+TEST_P(DuplicateBadInputTest, countsAFileThatHasBecomeALinkToAnEndlessDevice)
 {
     const auto result = scan([this] {
         removeVictim();
@@ -175,7 +175,7 @@ TEST_P(DuplicateBadInput, countsAFileThatHasBecomeALinkToAnEndlessDevice)
     EXPECT_EQ(result.hashFailureCount, 1);
 }
 
-TEST_P(DuplicateBadInput, countsAFileWhoseFolderHasVanished)
+TEST_P(DuplicateBadInputTest, countsAFileWhoseFolderHasVanished)
 {
     const auto result = scan([this] {
         removeVictim();
@@ -184,7 +184,7 @@ TEST_P(DuplicateBadInput, countsAFileWhoseFolderHasVanished)
     EXPECT_EQ(result.hashFailureCount, 1);
 }
 
-TEST_P(DuplicateBadInput, countsAllFilesThatHaveVanished)
+TEST_P(DuplicateBadInputTest, countsAllFilesThatHaveVanished)
 {
     ScanRun run(scanPaths);
     run.whenComparing = [this] {
@@ -197,7 +197,7 @@ TEST_P(DuplicateBadInput, countsAllFilesThatHaveVanished)
 }
 
 /// Of those that are read in one go, in two, and at both ends.
-INSTANTIATE_TEST_SUITE_P(Sizes, DuplicateBadInput,
+INSTANTIATE_TEST_SUITE_P(Sizes, DuplicateBadInputTest,
                          testing::Values(100, 4096, 10000, 1048576, 1048577, 2000000));
 
 TEST(DuplicateBadFiles, groupsWhatIsLeftOfFilesThatHaveShrunkAlike)

@@ -197,11 +197,11 @@ TEST(JsonDefaults, mergesWithWhatAnotherProcessStores)
     EXPECT_EQ(defaults.integer(u"theirs"_s), 2);
 }
 
-class JsonDefaultsDamaged : public testing::TestWithParam<QByteArray>
+class JsonDefaultsDamagedTest : public testing::TestWithParam<QByteArray>
 {
 };
 
-TEST_P(JsonDefaultsDamaged, movesTheFileAsideAndStartsEmpty)
+TEST_P(JsonDefaultsDamagedTest, movesTheFileAsideAndStartsEmpty)
 {
     const TempHome temp;
     const QString path = temp.file(name, GetParam());
@@ -215,7 +215,7 @@ TEST_P(JsonDefaultsDamaged, movesTheFileAsideAndStartsEmpty)
     EXPECT_EQ(contentOf(path + u".damaged"_s), GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Contents, JsonDefaultsDamaged,
+INSTANTIATE_TEST_SUITE_P(Contents, JsonDefaultsDamagedTest,
                          testing::Values(QByteArray(), QByteArray("garbage"), QByteArray("{\"count\": 7"),
                                          QByteArray("[1, 2]"), QByteArray("null"), QByteArray("{}{}"),
                                          QByteArray("\0\0\0\0", 4), QByteArray("{\"a\": \"\xFF\"}"),

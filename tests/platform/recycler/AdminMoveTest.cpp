@@ -31,13 +31,13 @@ protected:
     TempHome temp_;
 };
 
-class AdminMoveName : public AdminMoveTest, public ::testing::WithParamInterface<NamedBytes>
+class AdminMoveNameTest : public AdminMoveTest, public ::testing::WithParamInterface<NamedBytes>
 {
 };
 
 } // namespace
 
-TEST_P(AdminMoveName, comesBackWithContentTimesAndPermissions)
+TEST_P(AdminMoveNameTest, comesBackWithContentTimesAndPermissions)
 {
     const QString path = makeFile(u"folder/"_s + paths::fromBytes(GetParam().bytes));
     age(path, 0640);
@@ -50,7 +50,7 @@ TEST_P(AdminMoveName, comesBackWithContentTimesAndPermissions)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Names, AdminMoveName,
+    Names, AdminMoveNameTest,
     ::testing::Values(NamedBytes{"plain", "plain.txt"}, NamedBytes{"anOption", "-n"},
                       NamedBytes{"umlautsAndPercentSigns", "100% \xC3\xBC"},
                       NamedBytes{"newline", "two\nlines"}, NamedBytes{"notUtf8", "\xFF\xFE"},

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class HostileName : public RecyclerTest, public ::testing::WithParamInterface<NamedBytes>
+class RecycleNameTest : public RecyclerTest, public ::testing::WithParamInterface<NamedBytes>
 {
 };
 
@@ -23,7 +23,7 @@ class RecycleTest : public RecyclerTest
 
 } // namespace
 
-TEST_P(HostileName, comesBackWithContentTimesAndPermissions)
+TEST_P(RecycleNameTest, comesBackWithContentTimesAndPermissions)
 {
     const QString path =
         makeFile(u"folder/"_s + paths::fromBytes(GetParam().bytes), GetParam().bytes + " content");
@@ -36,7 +36,7 @@ TEST_P(HostileName, comesBackWithContentTimesAndPermissions)
     EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList());
 }
 
-INSTANTIATE_TEST_SUITE_P(RecycleTest, HostileName,
+INSTANTIATE_TEST_SUITE_P(RecycleTest, RecycleNameTest,
                          ::testing::Values(NamedBytes{"plain", "plain.txt"}, NamedBytes{"hidden", ".hidden"},
                                            NamedBytes{"percentSigns", "100% %41 %"},
                                            NamedBytes{"umlauts", "\xC3\x9C"
@@ -48,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(RecycleTest, HostileName,
                                            NamedBytes{"aNote", "name.trashinfo"},
                                            NamedBytes{"controlSigns", "tab\tand\rreturn\x01"}));
 
-INSTANTIATE_TEST_SUITE_P(Long, HostileName,
+INSTANTIATE_TEST_SUITE_P(Long, RecycleNameTest,
                          ::testing::Values(NamedBytes{"longestOfTheLibrary", QByteArray(238, 'a')},
                                            NamedBytes{"shortestWithoutANote", QByteArray(239, 'b')},
                                            NamedBytes{"longestWithoutANote", QByteArray(245, 'c')},
