@@ -1,12 +1,13 @@
 #include "platform/linux/TrashInfo.h"
 
 #include <cstdlib>
+#include <optional>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-/// Sets the local time zone for as long as it lives.
+/// The C library's time zone, by which a note is dated, for as long as it lives. LocaleGuard sets that of the texts alone.
 class ZoneGuard
 {
 public:
@@ -17,11 +18,18 @@ public:
     }
     ~ZoneGuard()
     {
-        qunsetenv("TZ");
+        if (before_)
+            qputenv("TZ", *before_);
+        else
+            qunsetenv("TZ");
         tzset();
     }
     ZoneGuard(const ZoneGuard &) = delete;
     ZoneGuard &operator=(const ZoneGuard &) = delete;
+
+private:
+    const std::optional<QByteArray> before_ =
+        qEnvironmentVariableIsSet("TZ") ? std::optional(qgetenv("TZ")) : std::nullopt;
 };
 
 } // namespace
