@@ -8,6 +8,8 @@ Rectangle {
     required property int index
     required property string tileName
     required property string sizeText
+    required property string tipText
+    required property string spokenText
     required property color tileColor
     required property color labelColor
     required property double tileX
@@ -29,7 +31,7 @@ Rectangle {
     color: tileColor
     opacity: isHovered ? 0.8 : 1
     Accessible.role: Accessible.Button
-    Accessible.name: tileName + ", " + sizeText
+    Accessible.name: spokenText
 
     Column {
         anchors.left: parent.left
@@ -71,6 +73,6 @@ Rectangle {
     Tip {
         control: tile
         isDue: pointer.hovered
-        text: tile.tileName + " · " + tile.sizeText
+        text: tile.tipText
     }
 }

@@ -30,6 +30,12 @@ QString tileSizeText(double bytes)
     return sizeText(static_cast<qint64>(std::min(bytes, tooMany)));
 }
 
+/// Both texts of a tile, whichever of them it has room to show.
+QString nameAndSize(const TreemapItem &item, const QString &separator)
+{
+    return paths::inOneLine(item.name) + separator + tileSizeText(item.size);
+}
+
 bool hasLabel(const TreemapItem &item)
 {
     return item.rect.width() > leastLabelWidth && item.rect.height() > leastLabelHeight;
@@ -42,6 +48,8 @@ TreemapView::TreemapView(QObject *parent)
     , tiles_({
           {"tileName", [](const TreemapItem &item) { return paths::inOneLine(item.name); }},
           {"sizeText", [](const TreemapItem &item) { return tileSizeText(item.size); }},
+          {"tipText", [](const TreemapItem &item) { return nameAndSize(item, QStringLiteral(" · ")); }},
+          {"spokenText", [](const TreemapItem &item) { return nameAndSize(item, QStringLiteral(", ")); }},
           {"tileColor", [](const TreemapItem &item) { return colorText(item.color); }},
           {"labelColor", [](const TreemapItem &item) { return labelColor(item.color); }},
           {"tileX", [](const TreemapItem &item) { return item.rect.x() + gap / 2; }},

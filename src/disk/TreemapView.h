@@ -17,7 +17,8 @@ class TreemapView : public QObject
 public:
     explicit TreemapView(QObject *parent = nullptr);
 
-    /// Rows: tileName, sizeText, tileColor, labelColor, tileX, tileY, tileWidth, tileHeight (points), hasLabel.
+    /// Rows: tileName, sizeText, tipText, spokenText, tileColor, labelColor, tileX, tileY, tileWidth, tileHeight (points),
+    /// hasLabel.
     QAbstractItemModel *tiles() { return &tiles_; }
 
     void setCategories(std::vector<StorageCategory> categories);

@@ -61,6 +61,14 @@ TEST_F(TreemapViewTest, drawsTheTilesInOrderOfTheirSize)
     EXPECT_EQ(columnTexts(map.tiles(), "sizeText").join(u','), QStringLiteral("60 B,30 B,10 B"));
 }
 
+TEST_F(TreemapViewTest, tellsNameAndSizeOfATileInItsTipAndToWhoDoesNotSeeIt)
+{
+    map.setCategories({category(QStringLiteral("two\nlines"), 60)});
+    map.resize(10, 10); // too small for a label
+    EXPECT_EQ(text(0, "tipText"), QStringLiteral("two␊lines · 60 B"));
+    EXPECT_EQ(text(0, "spokenText"), QStringLiteral("two␊lines, 60 B"));
+}
+
 TEST_F(TreemapViewTest, drawsATileTwoPointsSmallerThanItsRectangleAndCentredOnIt)
 {
     map.setCategories(unsorted);
