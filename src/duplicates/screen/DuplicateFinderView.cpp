@@ -52,7 +52,7 @@ DuplicateFinderView::DuplicateFinderView(const Platform &platform, DuplicateServ
     connect(&sameFiles_, &SameFileMarks::changed, &rows_, &DuplicateRows::refreshAll);
     connect(&confirmation_, &Confirmation::changed, this, [this] {
         if (!confirmation_.isUp())
-            question_.reset(); // what is still being looked up for it stops
+            keptOtherwise_.drop();
     });
     platform_.notifications.observe(notifications::rescan, this, [this](const QVariant &) { scan(); });
     showGroups();
@@ -284,16 +284,13 @@ void DuplicateFinderView::askToDelete()
 /// Completes the question's note by what only the disk can tell. The question does not wait for it.
 void DuplicateFinderView::addKeptOtherwise(DeleteNote note)
 {
-    question_ = std::make_shared<int>();
     platform_.workQueue.post(WorkPriority::userInitiated, [self = QPointer(this),
-                                                           question = std::weak_ptr(question_), note,
+                                                           question = keptOtherwise_.ask(), note,
                                                            choices = deletenotes::choices(service_.groups()),
                                                            &main = platform_.mainQueue]() mutable {
-        note.keptOtherwise = deletenotes::countOfKept(choices, [&] { return question.expired(); });
-        guarded::post(main, self, [question, note](DuplicateFinderView &view) {
-            if (!question.expired())
-                view.confirmation_.setNote(note.text());
-        });
+        note.keptOtherwise = deletenotes::countOfKept(choices, [&] { return question.isUnwanted(); });
+        question.answer(main, self,
+                        [note](DuplicateFinderView &view) { view.confirmation_.setNote(note.text()); });
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "activity/FDABanner.h"
+#include "base/LatestQuestion.h"
 #include "base/RecordListModel.h"
 #include "base/Throttle.h"
 #include "common/Appearing.h"
@@ -168,7 +169,7 @@ private:
     DuplicateFigures figures_;
     Throttle progressChanges_;
     Confirmation confirmation_;
-    std::shared_ptr<int> question_; // the last one that was put; whoever answers looks whether it is still up
+    LatestQuestion keptOtherwise_; // what the disk is asked for the confirmation's note
     FDABanner banner_;
     DuplicateScopeView scope_;
     RecordListModel<QString> filterRows_;

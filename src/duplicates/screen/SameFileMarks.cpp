@@ -1,7 +1,5 @@
 #include "duplicates/screen/SameFileMarks.h"
 
-#include "base/GuardedPost.h"
-
 #include <utility>
 
 namespace {
@@ -35,27 +33,22 @@ SameFileMarks::SameFileMarks(const Platform &platform)
 
 void SameFileMarks::lookUp(const std::vector<DuplicateFileGroup> &groups)
 {
-    question_.reset();
+    question_.drop();
     if (groups.empty())
         return take({});
-    question_ = std::make_shared<int>();
-    platform_.workQueue.post(WorkPriority::utility,
-                             [self = QPointer(this), question = std::weak_ptr(question_),
-                              groups = pathsOf(groups), &main = platform_.mainQueue] {
-                                 Kinds kinds;
-                                 samefile::Folders folders;
-                                 for (const PathsOfGroup &group : groups) {
-                                     if (question.expired())
-                                         return;
-                                     const samefile::Kind kind = samefile::among(group.paths, folders);
-                                     if (kind != samefile::Kind::none)
-                                         kinds.insert(group.id, kind);
-                                 }
-                                 guarded::post(main, self, [question, kinds](SameFileMarks &marks) {
-                                     if (!question.expired())
-                                         marks.take(kinds);
-                                 });
-                             });
+    platform_.workQueue.post(WorkPriority::utility, [self = QPointer(this), question = question_.ask(),
+                                                     groups = pathsOf(groups), &main = platform_.mainQueue] {
+        Kinds kinds;
+        samefile::Folders folders;
+        for (const PathsOfGroup &group : groups) {
+            if (question.isUnwanted())
+                return;
+            const samefile::Kind kind = samefile::among(group.paths, folders);
+            if (kind != samefile::Kind::none)
+                kinds.insert(group.id, kind);
+        }
+        question.answer(main, self, [kinds](SameFileMarks &marks) { marks.take(kinds); });
+    });
 }
 
 void SameFileMarks::take(const Kinds &kinds)

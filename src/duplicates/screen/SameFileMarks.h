@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/LatestQuestion.h"
 #include "duplicates/DuplicateFileGroup.h"
 #include "duplicates/SameFile.h"
 #include "platform/Platform.h"
@@ -7,7 +8,6 @@
 #include <QHash>
 #include <QObject>
 
-#include <memory>
 #include <vector>
 
 /// Which groups have one file by two ways. The disk is asked off the main thread, once the groups are on view; what a
@@ -37,5 +37,5 @@ private:
 
     const Platform &platform_;
     Kinds kinds_;
-    std::shared_ptr<int> question_; // the last one; a job whose question has gone stops
+    LatestQuestion question_;
 };
