@@ -17,13 +17,15 @@ struct DuplicateFileGroup
     /// At least two after a scan, in the order in which they were found.
     std::vector<DuplicateFileEntry> files;
 
-    /// It has files, and none of them stays at the next delete run.
-    bool keepsNothing() const
+    /// How many of the files go at the next delete run; the others stay.
+    qint64 filesToGo() const
     {
-        return !files.empty() && std::none_of(files.begin(), files.end(), [](const DuplicateFileEntry &file) {
-            return file.keep;
-        });
+        return std::count_if(files.begin(), files.end(),
+                             [](const DuplicateFileEntry &file) { return !file.keep; });
     }
+
+    /// It has files, and none of them stays at the next delete run.
+    bool keepsNothing() const { return !files.empty() && filesToGo() == static_cast<qint64>(files.size()); }
 
     /// The bytes beyond one file. A product that does not fit into 64 bits is a programming fault and ends the
     /// process.

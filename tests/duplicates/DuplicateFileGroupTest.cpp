@@ -24,3 +24,21 @@ TEST(DuplicateFileGroup, endsTheProcessWhereItsWasteOverflows)
     group.files.resize(3);
     EXPECT_DEATH(static_cast<void>(group.wastedBytes()), "overflow");
 }
+
+TEST(DuplicateFileGroup, countsTheFilesThatGo)
+{
+    DuplicateFileGroup group;
+    EXPECT_EQ(group.filesToGo(), 0);
+    EXPECT_FALSE(group.keepsNothing()); // it has nothing to lose
+    group.files.resize(3);
+    for (DuplicateFileEntry &file : group.files)
+        file.keep = true;
+    EXPECT_EQ(group.filesToGo(), 0);
+    group.files[0].keep = false;
+    group.files[2].keep = false;
+    EXPECT_EQ(group.filesToGo(), 2);
+    EXPECT_FALSE(group.keepsNothing());
+    group.files[1].keep = false;
+    EXPECT_EQ(group.filesToGo(), 3);
+    EXPECT_TRUE(group.keepsNothing());
+}

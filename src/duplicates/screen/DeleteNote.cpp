@@ -2,18 +2,6 @@
 
 #include "duplicates/SameFile.h"
 
-#include <algorithm>
-
-namespace {
-
-qint64 countGoing(const DuplicateFileGroup &group)
-{
-    return std::count_if(group.files.begin(), group.files.end(),
-                         [](const DuplicateFileEntry &file) { return !file.keep; });
-}
-
-} // namespace
-
 QString DeleteNote::text() const
 {
     QStringList sentences;
@@ -37,7 +25,7 @@ DeleteNote deletenotes::fromGroups(const std::vector<DuplicateFileGroup> &groups
         if (isShown)
             ++next;
         else
-            note.hiddenFiles += countGoing(groups[index]);
+            note.hiddenFiles += groups[index].filesToGo();
         if (groups[index].keepsNothing())
             ++note.lostGroups;
     }
@@ -48,7 +36,7 @@ std::vector<deletenotes::Choice> deletenotes::choices(const std::vector<Duplicat
 {
     std::vector<Choice> choices;
     for (const DuplicateFileGroup &group : groups) {
-        const qint64 going = countGoing(group);
+        const qint64 going = group.filesToGo();
         if (going == 0 || group.keepsNothing())
             continue;
         Choice &choice = choices.emplace_back();

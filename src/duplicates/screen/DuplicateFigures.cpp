@@ -2,15 +2,12 @@
 
 #include "base/Sums.h"
 
-#include <algorithm>
-
 DuplicateFigures figuresOf(const std::vector<DuplicateFileGroup> &groups, const std::vector<size_t> &shown)
 {
     DuplicateFigures figures;
     for (const size_t index : shown) {
         const DuplicateFileGroup &group = groups[index];
-        const auto going = std::count_if(group.files.begin(), group.files.end(),
-                                         [](const DuplicateFileEntry &file) { return !file.keep; });
+        const qint64 going = group.filesToGo();
         figures.groups += 1;
         figures.files += static_cast<qint64>(group.files.size());
         figures.filesToDelete += going;

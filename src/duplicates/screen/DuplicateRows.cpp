@@ -6,7 +6,6 @@
 
 #include <QStringList>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -25,12 +24,6 @@ QString summary(const DuplicateFileGroup &group)
 QString headTitle(const DuplicateFileGroup &group)
 {
     return group.files.empty() ? QStringLiteral("Unknown") : paths::inOneLine(group.files.front().name);
-}
-
-qint64 keptFiles(const DuplicateFileGroup &group)
-{
-    return std::count_if(group.files.begin(), group.files.end(),
-                         [](const DuplicateFileEntry &file) { return file.keep; });
 }
 
 QString badge(const DuplicateFileEntry &file)
@@ -85,7 +78,9 @@ DuplicateRows::DuplicateRows(const std::vector<DuplicateFileGroup> &groups, QStr
 void DuplicateRows::refreshFile(size_t group, size_t file)
 {
     refreshMember(group, file);
-    if (keptFiles(groups_[group]) <= 1) // the flag of this one may have decided whether any is kept
+    const DuplicateFileGroup &changed = groups_[group];
+    const qint64 staying = static_cast<qint64>(changed.files.size()) - changed.filesToGo();
+    if (staying <= 1) // the flag of this one may have decided whether any is kept
         refreshHead(group);
 }
 
