@@ -116,6 +116,18 @@ ScreenCase {
         return fileRows().filter(row => !row.isKept).map(nameOf);
     }
 
+    // The files that are no longer in their place.
+    function gone() {
+        return usuallyGoing.concat(["a/photo.JPG", "a/film.mov", "a/report.pdf", "a/plain"]).filter(
+                    name => !Surroundings.exists(path(name)));
+    }
+
+    // Sets one file of a group of three to go, and no other.
+    function onlyPhoto() {
+        click("Select None", screen());
+        clickFile("b/photo.jpg");
+    }
+
     function clickFile(name) {
         clickOn(file(name));
     }
