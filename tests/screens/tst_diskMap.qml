@@ -114,6 +114,8 @@ AnalyzerCase {
         compare(breadcrumbs(), []);
         find("CONTENTS (6 items)");
         compare(location(), home);
+        // It has no tooltip: where the way in stands is told by the file viewer's button.
+        compare(told(Program.named("homeButton"), "tip"), "");
     }
 
     function test_breadcrumbCutsTheWayBack() {
