@@ -34,6 +34,45 @@
 
 namespace {
 
+/// The services of this machine that the program runs on, over the demo's home.
+struct DemoDesktop
+{
+    explicit DemoDesktop(const DemoHome &demo)
+        : locations([&demo] { return macLocations(demo.home(), demo.applicationsFolder()); })
+        , platform{.home = demo.home(),
+                   .locations = locations,
+                   .defaults = defaults,
+                   .clock = clock,
+                   .programs = ChildPrograms(),
+                   .keyStyle = KeyStyle::words,
+                   .mainQueue = mainQueue,
+                   .workQueue = workQueue,
+                   .notifications = notifications,
+                   .workspace = workspace,
+                   .recycler = recycler,
+                   .systemLog = systemLog,
+                   .systemInfo = systemInfo}
+    {
+    }
+
+    SystemClock clock;
+    EventLoopMainQueue mainQueue;
+    ThreadWorkQueue workQueue;
+    NotificationCenter notifications;
+    Defaults defaults;
+    const Lazy<Locations> locations;
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    FallbackPanel panel;
+    LinuxWorkspace workspace{{bus, QString::fromLocal8Bit(qgetenv("PATH")).split(u':', Qt::SkipEmptyParts),
+                              std::bind_front(&FallbackPanel::chooseFolder, &panel),
+                              std::bind_front(&FallbackPanel::chooseSavePath, &panel)},
+                             workQueue};
+    LinuxSystemLog systemLog{clock};
+    LinuxRecycler recycler{ChildPrograms().pkexec, ChildPrograms().mv, systemLog};
+    const LinuxSystemInfo systemInfo;
+    const Platform platform;
+};
+
 /// Saves a picture of the window as soon as no scan is running, and ends the program.
 void savePictureWhenReady(Composition &composition, const QString &file, const std::function<void()> &exitNow)
 {
@@ -54,34 +93,7 @@ void savePictureWhenReady(Composition &composition, const QString &file, const s
 
 int runDemo(DemoHome &demo, const DemoOptions &options)
 {
-    SystemClock clock;
-    EventLoopMainQueue mainQueue;
-    ThreadWorkQueue workQueue;
-    NotificationCenter notifications;
-    Defaults defaults;
-    const Lazy<Locations> locations([&demo] { return macLocations(demo.home(), demo.applicationsFolder()); });
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    FallbackPanel panel;
-    LinuxWorkspace workspace({bus, QString::fromLocal8Bit(qgetenv("PATH")).split(u':', Qt::SkipEmptyParts),
-                              std::bind_front(&FallbackPanel::chooseFolder, &panel),
-                              std::bind_front(&FallbackPanel::chooseSavePath, &panel)},
-                             workQueue);
-    LinuxSystemLog systemLog(clock);
-    LinuxRecycler recycler(ChildPrograms().pkexec, ChildPrograms().mv, systemLog);
-    const LinuxSystemInfo systemInfo;
-    const Platform platform{.home = demo.home(),
-                            .locations = locations,
-                            .defaults = defaults,
-                            .clock = clock,
-                            .programs = ChildPrograms(),
-                            .keyStyle = KeyStyle::words,
-                            .mainQueue = mainQueue,
-                            .workQueue = workQueue,
-                            .notifications = notifications,
-                            .workspace = workspace,
-                            .recycler = recycler,
-                            .systemLog = systemLog,
-                            .systemInfo = systemInfo};
+    DemoDesktop desktop(demo);
     Appearance appearance;
     appearance.setDark(!options.isLight);
     const auto exitNow = [&demo] {
@@ -89,15 +101,15 @@ int runDemo(DemoHome &demo, const DemoOptions &options)
         fflush(nullptr);
         _exit(EXIT_SUCCESS);
     };
-    Composition composition(platform, appearance, program::feedbackProgram(), exitNow);
+    Composition composition(desktop.platform, appearance, program::feedbackProgram(), exitNow);
     const QuitSignals quitSignals(exitNow);
     if (!options.screen.isEmpty())
         composition.content().setSelectedItem(sidebar::itemForKey(options.screen));
     if (!composition.show())
         return EXIT_FAILURE;
-    panel.attach(composition.engine(), *composition.window(), demo.home());
+    desktop.panel.attach(composition.engine(), *composition.window(), demo.home());
     if (options.refreshes)
-        notifications.post(notifications::rescan);
+        desktop.notifications.post(notifications::rescan);
     if (!options.picture.isEmpty())
         savePictureWhenReady(composition, options.picture, exitNow);
     return QGuiApplication::exec();
