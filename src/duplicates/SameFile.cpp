@@ -3,6 +3,7 @@
 #include "base/Paths.h"
 
 #include <QSet>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -62,7 +63,7 @@ std::optional<files::Identity> samefile::Folders::identity(const QString &folder
 
 // Few files are one with another, so both ask about the folders of these alone.
 
-samefile::Kind samefile::among(const QStringList &paths, Folders &folders)
+samefile::Kind samefile::among(std::span<const QString> paths, Folders &folders)
 {
     QHash<files::Identity, QString> firstPaths;
     Entries entries(folders);
@@ -85,7 +86,7 @@ samefile::Kind samefile::among(const QStringList &paths, Folders &folders)
     return kind;
 }
 
-qint64 samefile::countOfKept(const QStringList &going, const QStringList &kept, Folders &folders)
+qint64 samefile::countOfKept(std::span<const QString> going, std::span<const QString> kept, Folders &folders)
 {
     QHash<files::Identity, QStringList> goingByFile;
     for (const QString &path : going) {

@@ -4,9 +4,9 @@
 
 #include <QHash>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
+#include <span>
 
 /// Whether paths lead to one file after all. A path through a link to a folder leads to the very entry that the folder's
 /// own path leads to, and what moves the one takes the other; hard links are entries of their own, and the file stays as
@@ -32,9 +32,9 @@ private:
 };
 
 /// What the closest two of these paths have in common. A path at which nothing is (any more) counts for nothing.
-Kind among(const QStringList &paths, Folders &folders);
+Kind among(std::span<const QString> paths, Folders &folders);
 
 /// How many of `going` are the very entry of one of `kept`, reached another way.
-qint64 countOfKept(const QStringList &going, const QStringList &kept, Folders &folders);
+qint64 countOfKept(std::span<const QString> going, std::span<const QString> kept, Folders &folders);
 
 } // namespace samefile

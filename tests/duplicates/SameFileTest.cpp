@@ -18,11 +18,11 @@ struct SameFileTest : public testing::Test
     const TempHome temp;
     samefile::Folders folders;
 
-    QStringList at(const QStringList &relative) const
+    std::vector<QString> at(const QStringList &relative) const
     {
-        QStringList paths;
+        std::vector<QString> paths;
         for (const QString &path : relative)
-            paths << temp.at(path);
+            paths.push_back(temp.at(path));
         return paths;
     }
     Kind among(const QStringList &relative) { return samefile::among(at(relative), folders); }

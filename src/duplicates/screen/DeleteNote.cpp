@@ -2,6 +2,8 @@
 
 #include "duplicates/SameFile.h"
 
+#include <QStringList>
+
 QString DeleteNote::text() const
 {
     QStringList sentences;
@@ -32,28 +34,33 @@ DeleteNote deletenotes::fromGroups(const std::vector<DuplicateFileGroup> &groups
     return note;
 }
 
-std::vector<deletenotes::Choice> deletenotes::choices(const std::vector<DuplicateFileGroup> &groups)
+PathLists deletenotes::choices(const std::vector<DuplicateFileGroup> &groups)
 {
-    std::vector<Choice> choices;
+    size_t files = 0;
+    for (const DuplicateFileGroup &group : groups)
+        files += group.files.size();
+    PathLists choices;
+    choices.reserve(2 * groups.size(), files);
     for (const DuplicateFileGroup &group : groups) {
         const qint64 going = group.filesToGo();
-        if (going == 0 || group.keepsNothing())
+        if (going == 0 || going == static_cast<qint64>(group.files.size()))
             continue;
-        Choice &choice = choices.emplace_back();
-        for (const DuplicateFileEntry &file : group.files)
-            (file.keep ? choice.kept : choice.going).append(file.path);
+        for (const bool isKept : {false, true}) {
+            for (const DuplicateFileEntry &file : group.files) {
+                if (file.keep == isKept)
+                    choices.append(file.path);
+            }
+            choices.endList();
+        }
     }
     return choices;
 }
 
-qint64 deletenotes::countOfKept(const std::vector<Choice> &choices, const std::function<bool()> &isUnwanted)
+qint64 deletenotes::countOfKept(const PathLists &choices, const std::function<bool()> &isUnwanted)
 {
     qint64 count = 0;
     samefile::Folders folders;
-    for (const Choice &choice : choices) {
-        if (isUnwanted())
-            break;
-        count += samefile::countOfKept(choice.going, choice.kept, folders);
-    }
+    for (size_t going = 0; going < choices.size() && !isUnwanted(); going += 2)
+        count += samefile::countOfKept(choices[going], choices[going + 1], folders);
     return count;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "duplicates/DuplicateFileGroup.h"
+#include "duplicates/PathLists.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 #include <vector>
@@ -22,22 +22,15 @@ struct DeleteNote
 /// What a delete note is made from.
 namespace deletenotes {
 
-/// The files of a group of which some stay and others go.
-struct Choice
-{
-    QStringList going;
-    QStringList kept;
-};
-
 /// What the groups tell by themselves. `shown` are those that pass the filter, by index, in rising order; a run takes the
 /// others too.
 DeleteNote fromGroups(const std::vector<DuplicateFileGroup> &groups, const std::vector<size_t> &shown);
 
-/// All groups of which some files stay and others go.
-std::vector<Choice> choices(const std::vector<DuplicateFileGroup> &groups);
+/// Of each group of which some files stay and others go two lists: those that go, then those that stay.
+PathLists choices(const std::vector<DuplicateFileGroup> &groups);
 
 /// How many of the files that go are the very file that is kept. Blocks for as long as the disk does; what it counted so
 /// far where `isUnwanted` comes true. Any thread.
-qint64 countOfKept(const std::vector<Choice> &choices, const std::function<bool()> &isUnwanted);
+qint64 countOfKept(const PathLists &choices, const std::function<bool()> &isUnwanted);
 
 } // namespace deletenotes

@@ -75,7 +75,7 @@ void DuplicateFinderView::observeService()
         filteredGroups_ = duplicatefilter::passing(service_.groups(), filter_);
         rows_.shrink(filteredGroups_);
         takeFigures();
-        sameFiles_.lookUp(service_.groups());
+        sameFiles_.lookUpShrunk(service_.groups());
     });
     connect(&service_, &DuplicateService::fileChanged, this, [this](size_t group, size_t file) {
         rows_.refreshFile(group, file);

@@ -1,30 +1,23 @@
 #include "duplicates/screen/SameFileMarks.h"
 
+#include "duplicates/PathLists.h"
+
 #include <utility>
 
-namespace {
-
-struct PathsOfGroup
+/// The groups that are asked about.
+struct SameFileMarks::Snapshot
 {
-    QUuid id;
-    QStringList paths;
-};
+    std::vector<QUuid> ids;
+    PathLists paths; ///< a list for each of them
 
-std::vector<PathsOfGroup> pathsOf(const std::vector<DuplicateFileGroup> &groups)
-{
-    std::vector<PathsOfGroup> all;
-    all.reserve(groups.size());
-    for (const DuplicateFileGroup &group : groups) {
-        QStringList paths;
-        paths.reserve(static_cast<qsizetype>(group.files.size()));
+    void add(const DuplicateFileGroup &group)
+    {
+        ids.push_back(group.id);
         for (const DuplicateFileEntry &file : group.files)
             paths.append(file.path);
-        all.push_back({group.id, std::move(paths)});
+        paths.endList();
     }
-    return all;
-}
-
-} // namespace
+};
 
 SameFileMarks::SameFileMarks(const Platform &platform)
     : platform_(platform)
@@ -33,28 +26,71 @@ SameFileMarks::SameFileMarks(const Platform &platform)
 
 void SameFileMarks::lookUp(const std::vector<DuplicateFileGroup> &groups)
 {
+    knowsAll_ = false;
+    size_t files = 0;
+    for (const DuplicateFileGroup &group : groups)
+        files += group.files.size();
+    Snapshot snapshot;
+    snapshot.ids.reserve(groups.size());
+    snapshot.paths.reserve(groups.size(), files);
+    for (const DuplicateFileGroup &group : groups)
+        snapshot.add(group);
+    ask(std::move(snapshot), {});
+}
+
+void SameFileMarks::lookUpShrunk(const std::vector<DuplicateFileGroup> &groups)
+{
+    if (!knowsAll_) // and what is being found out may be true no longer
+        return lookUp(groups);
+    Snapshot snapshot;
+    Marks kept;
+    Marks unknown;
+    for (const DuplicateFileGroup &group : groups) {
+        const auto mark = marks_.constFind(group.id);
+        if (mark == marks_.cend())
+            continue; // where no two files were one, no two of those left are
+        if (mark->files == group.files.size()) {
+            kept.insert(group.id, *mark);
+        } else {
+            snapshot.add(group);
+            unknown.insert(group.id, Mark());
+        }
+    }
+    unknown.insert(kept);
+    take(unknown);
+    ask(std::move(snapshot), kept);
+}
+
+/// The answer, together with what is kept, is all that is known from then on.
+void SameFileMarks::ask(Snapshot snapshot, const Marks &kept)
+{
     question_.drop();
-    if (groups.empty())
-        return take({});
+    if (snapshot.ids.empty()) {
+        knowsAll_ = true;
+        return take(kept);
+    }
     platform_.workQueue.post(WorkPriority::utility, [self = QPointer(this), question = question_.ask(),
-                                                     groups = pathsOf(groups), &main = platform_.mainQueue] {
-        Kinds kinds;
+                                                     snapshot = std::move(snapshot), marks = kept,
+                                                     &main = platform_.mainQueue]() mutable {
         samefile::Folders folders;
-        for (const PathsOfGroup &group : groups) {
+        for (size_t i = 0; i < snapshot.ids.size(); ++i) {
             if (question.isUnwanted())
                 return;
-            const samefile::Kind kind = samefile::among(group.paths, folders);
+            const samefile::Kind kind = samefile::among(snapshot.paths[i], folders);
             if (kind != samefile::Kind::none)
-                kinds.insert(group.id, kind);
+                marks.insert(snapshot.ids[i], {kind, snapshot.paths[i].size()});
         }
-        question.answer(main, self, [kinds](SameFileMarks &marks) { marks.take(kinds); });
+        question.answer(main, self, [marks](SameFileMarks &asker) {
+            asker.knowsAll_ = true;
+            asker.take(marks);
+        });
     });
 }
 
-void SameFileMarks::take(const Kinds &kinds)
+void SameFileMarks::take(const Marks &marks)
 {
-    if (kinds.isEmpty() && kinds_.isEmpty())
+    if (marks == marks_)
         return;
-    kinds_ = kinds;
+    marks_ = marks;
     emit changed();
 }

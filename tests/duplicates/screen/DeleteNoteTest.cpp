@@ -155,3 +155,16 @@ TEST_F(DeleteNoteTest, tellsOfSameFilesOnTheHeadsOfTheGroups)
     view->toggleKeep(1);
     EXPECT_EQ(text(0, "lossMark"), u"NOTHING KEPT"_s);
 }
+
+TEST_F(DeleteNoteTest, marksAGroupAsOneFileNoLongerThanItsOtherWayIsListed)
+{
+    scanAlsoThroughALink({u"a"_s, u"way"_s, u"b"_s});
+    ASSERT_EQ(text(0, "sameMark"), u"SAME FILE"_s);
+    view->selectNone();
+    view->toggleKeep(2);
+    ASSERT_EQ(text(2, "detail"), u"~/way/photo.JPG"_s);
+    deleteMarked();
+    EXPECT_EQ(text(0, "sameMark"), QString()); // before the disk was asked again
+    test.settle();
+    EXPECT_EQ(text(0, "sameMark"), QString());
+}
