@@ -4,6 +4,7 @@
 #include "common/SettingsKeys.h"
 #include "disk/DiskAnalyzerView.h"
 #include "duplicates/screen/DuplicateFinderView.h"
+#include "program/FallbackPanel.h"
 #include "program/Popups.h"
 #include "shell/UpcomingView.h"
 
@@ -132,6 +133,12 @@ bool Composition::show()
     return true;
 }
 
+void Composition::attach(FallbackPanel &panel)
+{
+    panel_ = &panel;
+    panel.attach(engine_, *window_, platform_.home);
+}
+
 void Composition::pictureShown()
 {
     if (!std::exchange(hasAppeared_, true))
@@ -155,6 +162,8 @@ void Composition::windowAppeared()
 /// The program is about to end: nothing asks for anything any more, and another start gets a window of its own.
 void Composition::makeWay()
 {
+    if (panel_) // ahead of the rest: its dialogs are popups of the window, or windows of their own, as the toolkit likes
+        panel_->giveUp();
     popups::closeAll(*window_);
     if (relaunch_.letGo)
         relaunch_.letGo();

@@ -21,6 +21,7 @@
 
 #include <memory>
 
+class FallbackPanel;
 class QQuickWindow;
 
 /// What a start of the program anew needs.
@@ -59,6 +60,9 @@ public:
     /// Shows the window. False when its QML can't be loaded.
     bool show();
 
+    /// Lets the program's own panels be shown in the window, which is there by then. `panel` outlives the composition.
+    void attach(FallbackPanel &panel);
+
     QQmlEngine &engine() { return engine_; }
 
     /// Null before `show`.
@@ -86,6 +90,7 @@ private:
     EditCommands editCommands_;
     QQmlApplicationEngine engine_;
     QQuickWindow *window_ = nullptr;
+    FallbackPanel *panel_ = nullptr;
     std::unique_ptr<FrameWatch> frames_; // of the window
     bool hasAppeared_ = false;           // the window
 };

@@ -67,6 +67,12 @@ void FallbackPanel::chooseSavePath(const Workspace::SaveRequest &request, Worksp
     showSavePanel(request);
 }
 
+void FallbackPanel::giveUp()
+{
+    next_ = {};
+    finish(std::nullopt);
+}
+
 void FallbackPanel::accept()
 {
     const Next next = std::exchange(next_, {}); // a copy: what follows may show the next dialog

@@ -34,6 +34,9 @@ public:
     void chooseFolder(const Workspace::FolderRequest &request, Workspace::PathChosen chosen);
     void chooseSavePath(const Workspace::SaveRequest &request, Workspace::PathChosen chosen);
 
+    /// Takes the panel that is on view away and answers it as cancelled, whatever it asks: the program is about to end.
+    void giveUp();
+
 private slots:
     void accept();
     void reject();

@@ -8,15 +8,10 @@
 
 namespace {
 
-/// What is popped up in the window is drawn by items of one kind in its overlay, which they own. The toolkit's dialogs have
-/// windows of their own from Qt 6.8 on and belong to this one.
+/// What is popped up in the window is drawn by items of one kind in its overlay, which they own.
 std::vector<QPointer<QObject>> popupsOf(const QQuickWindow &window)
 {
     std::vector<QPointer<QObject>> found;
-    for (QObject *object : window.findChildren<QObject *>()) {
-        if (object->inherits("QQuickDialog"))
-            found.emplace_back(object);
-    }
     for (const QQuickItem *layer : window.contentItem()->childItems()) {
         if (!layer->inherits("QQuickOverlay"))
             continue;
@@ -35,10 +30,8 @@ namespace popups {
 void closeAll(QQuickWindow &window)
 {
     for (const QPointer<QObject> &popup : popupsOf(window)) {
-        if (!popup || !popup->property("visible").toBool()) // closing one may take another away
-            continue;
-        const bool canBeTakenBack = popup->inherits("QQuickDialog");
-        QMetaObject::invokeMethod(popup, canBeTakenBack ? "reject" : "close");
+        if (popup && popup->property("visible").toBool()) // closing one may take another away
+            QMetaObject::invokeMethod(popup, "close");
     }
 }
 

@@ -4,7 +4,8 @@ class QQuickWindow;
 
 namespace popups {
 
-/// Closes whatever stands over the window's content: questions, panels, menus. What can be taken back is. Main thread.
+/// Closes what stands over the window's content: questions, which take that for a no, and menus. The program's own panels
+/// give up by themselves (FallbackPanel::giveUp), ahead of this. Main thread.
 void closeAll(QQuickWindow &window);
 
 } // namespace popups

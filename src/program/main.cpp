@@ -86,6 +86,6 @@ int main(int argc, char *argv[])
     instance.onActivate = [&composition](const QByteArray &token) { composition.activate(token); };
     if (!composition.show())
         return exitWithoutLook;
-    panel.attach(composition.engine(), *composition.window(), linuxPlatform.platform().home);
+    composition.attach(panel);
     return QGuiApplication::exec();
 }

@@ -1,5 +1,6 @@
 #include "program/FallbackPanel.h"
 
+#include "program/Popups.h"
 #include "support/TempHome.h"
 
 #include <QLibraryInfo>
@@ -268,6 +269,27 @@ TEST_F(FallbackPanelTest, putsASecondPanelInThePlaceOfTheFirst)
     ASSERT_TRUE(waitForAnswer());
     EXPECT_EQ(path_, home_.at(u"a.csv"_s));
     EXPECT_EQ(answers_, 1);
+}
+
+TEST_F(FallbackPanelTest, asksNothingMoreOnceItGivesUp)
+{
+    home_.file(u"a.csv"_s, "old");
+    panel_->chooseSavePath({u"Export"_s, u"a.csv"_s, {}}, taker());
+    ASSERT_TRUE(click(u"Save"_s));
+    ASSERT_TRUE(shows(u"“a.csv” already exists."_s));
+    panel_->giveUp();
+    EXPECT_EQ(answers_, 1);
+    EXPECT_EQ(path_, std::nullopt);
+    popups::closeAll(*window_);
+    EXPECT_TRUE(waitFor([this] { return !isOnView(u"“a.csv” already exists."_s); }));
+    EXPECT_FALSE(isOnView(u"a.csv"_s)); // the panel for another name
+    EXPECT_EQ(answers_, 1);
+}
+
+TEST_F(FallbackPanelTest, givesUpNothingWhereNothingIsAsked)
+{
+    panel_->giveUp();
+    EXPECT_EQ(answers_, 0);
 }
 
 TEST_F(FallbackPanelTest, givesNoPathBeforeThereIsAWindow)

@@ -65,7 +65,7 @@ void ProgramUnderTest::show()
         throw std::runtime_error("the window can't be loaded");
     firstScreen_ = selectedScreen();
     beganEarly_ = watchesDisk();
-    panel_.attach(composition_->engine(), *window(), surroundings_.platform().home);
+    composition_->attach(panel_);
 }
 
 void ProgramUnderTest::forget()

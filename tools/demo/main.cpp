@@ -107,7 +107,7 @@ int runDemo(DemoHome &demo, const DemoOptions &options)
         composition.content().setSelectedItem(sidebar::itemForKey(options.screen));
     if (!composition.show())
         return EXIT_FAILURE;
-    desktop.panel.attach(composition.engine(), *composition.window(), demo.home());
+    composition.attach(desktop.panel);
     if (options.refreshes)
         desktop.notifications.post(notifications::rescan);
     if (!options.picture.isEmpty())
