@@ -115,7 +115,12 @@ TEST_F(DiskAnalyzerTrashTest, takesNoSecondMoveWhileOneIsUnderWay)
 TEST_F(DiskAnalyzerTrashTest, takesNoSecondMoveFromAScreenMadeWhileOneIsUnderWay)
 {
     Recycler::Completion answer;
-    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
+    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) {
+        if (answer)
+            done({}); // a second move, which must not be, ends at once
+        else
+            answer = std::move(done);
+    };
     const int folder = rowOf(QStringLiteral("folder"));
     std::shared_ptr<DiskAnalyzerView> second;
     std::vector<bool> told;
@@ -143,7 +148,12 @@ TEST_F(DiskAnalyzerTrashTest, takesNoSecondMoveFromAScreenMadeWhileOneIsUnderWay
 TEST_F(DiskAnalyzerTrashTest, dropsACommandWhoseTurnComesDuringAnotherMove)
 {
     Recycler::Completion answer;
-    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) { answer = std::move(done); };
+    test.recycler.answers = [&](const QStringList &, Recycler::Completion done) {
+        if (answer)
+            done({});
+        else
+            answer = std::move(done);
+    };
     view->moveToTrash(rowOf(QStringLiteral("big.bin")));
     view->moveToTrash(rowOf(QStringLiteral("folder")));
     QObject context;
