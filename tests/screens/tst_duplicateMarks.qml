@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // What the Duplicate Finder tells of one file by two ways, and of the last file: on the heads of the groups, and before a

@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Quillmere.Screens
 
 // The reader's place in the Duplicate Finder's list after a delete run that took files out of more than a hundred places.
