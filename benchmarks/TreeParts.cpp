@@ -35,7 +35,8 @@ size_t below(Random &random, size_t end)
 std::vector<std::string> makeFolders(const std::string &root, const TreeShape &shape, Random &random)
 {
     const auto wanted = static_cast<size_t>(std::max(1, shape.files / std::max(1, shape.filesPerFolder)));
-    const auto branchDepths = static_cast<size_t>(shape.deepestBranch - shape.shallowestBranch + 1);
+    const auto branchDepths =
+        static_cast<size_t>(shape.deepestBranch) - static_cast<size_t>(shape.shallowestBranch) + 1;
     std::vector<Folder> folders = {{root, 0, shape.deepestBranch}};
     std::vector<size_t> open; // those that may get a folder, by index; the root as long as it lacks some
     while (folders.size() < wanted) {

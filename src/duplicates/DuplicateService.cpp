@@ -299,7 +299,7 @@ qint64 DuplicateService::deleteMarked()
     Loggers(platform_.systemLog).duplicates.info(run.logLine());
     history_().record(run.record(platform_.clock.now()));
     if (const auto error = run.error())
-        throw *error;
+        throw Error(*error);
     return run.tally().bytes;
 }
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int patience = 10'000; // milliseconds; each wait ends as soon as it may
+constexpr int framePatience = 10'000; // milliseconds; each wait ends as soon as it may
 
 /// A window that nobody sees, and how often it has drawn a frame.
 struct FrameWatchTest : ::testing::Test
@@ -41,23 +41,23 @@ TEST_F(FrameWatchTest, tellsOnceWhenTheFirstFrameIsOnView)
     EXPECT_EQ(told, 0);
     window.show();
     EXPECT_EQ(told, 0);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return told > 0; }, patience));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return told > 0; }, framePatience));
     EXPECT_GE(framesAtLast, 1);
     window.update();
     const int before = frames;
-    ASSERT_TRUE(QTest::qWaitFor([&] { return frames > before; }, patience));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return frames > before; }, framePatience));
     EXPECT_EQ(told, 1);
 }
 
 TEST_F(FrameWatchTest, tellsOfAChangeOnlyOnceAFrameHasTakenItOver)
 {
     window.show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return told == 1; }, patience));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return told == 1; }, framePatience));
     const int before = frames;
     watch.expect();
     QCoreApplication::sendPostedEvents(); // what an earlier frame may still have to say
     EXPECT_EQ(told, 1);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return told == 2; }, patience));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return told == 2; }, framePatience));
     EXPECT_GT(framesAtLast, before);
 }
 
@@ -68,7 +68,7 @@ TEST_F(FrameWatchTest, passesAFrameOverThatBeganBeforeTheChange)
         &window, &QQuickWindow::afterSynchronizing, &window, [this] { watch.expect(); },
         static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::SingleShotConnection));
     window.show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return told > 0; }, patience));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return told > 0; }, framePatience));
     EXPECT_GE(framesAtLast, 2);
     EXPECT_EQ(told, 1);
 }

@@ -12,12 +12,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int patience =
-    60'000; // milliseconds; sanitizers make the start slow, each wait ends as soon as it may
+/// Milliseconds; sanitizers make the start slow, each wait ends as soon as it may.
+constexpr int startPatience = 60'000;
 
 /// The program itself, over a home of its own, without a bus.
 class QuitSignalsTest : public ::testing::TestWithParam<int>
 {
+public:
+    ~QuitSignalsTest() override
+    {
+        program_.kill();
+        program_.waitForFinished();
+    }
+
 protected:
     QuitSignalsTest()
     {
@@ -33,12 +40,6 @@ protected:
         program_.setProcessEnvironment(environment);
         program_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     }
-    ~QuitSignalsTest() override
-    {
-        program_.kill();
-        program_.waitForFinished();
-    }
-
     /// True once the program answers for the signal itself, as the kernel tells.
     bool catches(int signal) const
     {
@@ -61,10 +62,10 @@ protected:
 TEST_P(QuitSignalsTest, endTheProgramAsAnyWayOutDoes)
 {
     program_.start(QStringLiteral(QUILLMERE_PROGRAM), {});
-    ASSERT_TRUE(program_.waitForStarted(patience));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return catches(GetParam()); }, patience));
+    ASSERT_TRUE(program_.waitForStarted(startPatience));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return catches(GetParam()); }, startPatience));
     ASSERT_EQ(kill(static_cast<pid_t>(program_.processId()), GetParam()), 0);
-    ASSERT_TRUE(program_.waitForFinished(patience));
+    ASSERT_TRUE(program_.waitForFinished(startPatience));
     EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(program_.exitCode(), EXIT_SUCCESS);
 }
