@@ -2,6 +2,7 @@
 
 #include "screens/Scene.h"
 #include "screens/Warnings.h"
+#include "shell/UpcomingView.h"
 
 #include <QDragEnterEvent>
 #include <QGuiApplication>
@@ -146,6 +147,14 @@ void ProgramUnderTest::picture(const QString &name) const
     const QString folder = qEnvironmentVariable("QUILLMERE_PICTURES");
     if (!folder.isEmpty() && !window()->grabWindow().save(folder + u'/' + name + QStringLiteral(".png")))
         qWarning("The picture could not be saved.");
+}
+
+QStringList ProgramUnderTest::upcomingScreens() const
+{
+    QStringList titles;
+    for (const auto &[item, description] : UpcomingView::descriptions())
+        titles << sidebar::title(item);
+    return titles;
 }
 
 QString ProgramUnderTest::selectedScreen() const

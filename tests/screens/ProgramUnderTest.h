@@ -60,6 +60,8 @@ public:
 
     /// The title of the screen on view at the start.
     Q_INVOKABLE QString firstScreen() const { return firstScreen_; }
+    /// The titles of the screens that the program does not have yet.
+    Q_INVOKABLE QStringList upcomingScreens() const;
     /// The title of the one on view.
     Q_INVOKABLE QString selectedScreen() const;
     /// Whether it has been seen, so that what it loads has begun.

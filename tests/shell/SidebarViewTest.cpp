@@ -83,7 +83,7 @@ TEST_F(SidebarViewTest, selectsTheScreenOfAClickedRow)
     view->select(3);
     EXPECT_EQ(content.selectedItem(), SidebarItem::diskAnalyzer);
     view->select(-1);
-    view->select(9);
+    view->select(static_cast<int>(sidebar::rows.size()));
     EXPECT_EQ(content.selectedItem(), SidebarItem::diskAnalyzer);
 }
 
