@@ -15,12 +15,6 @@ QByteArray native(const QString &path)
     return path.contains(QChar::Null) ? QByteArray() : paths::toBytes(path);
 }
 
-std::function<int(Operation, const QString &)> &faults()
-{
-    static std::function<int(Operation, const QString &)> injected;
-    return injected;
-}
-
 bool fails(Operation operation, const QString &path)
 {
     const int code = faults() ? faults()(operation, path) : 0;

@@ -9,8 +9,12 @@ namespace files {
 /// becomes the empty one, which names nothing.
 QByteArray native(const QString &path);
 
-/// Holds what a test wants to fail; empty but for tests.
-std::function<int(Operation, const QString &)> &faults();
+/// Holds what a test wants to fail; empty but for tests. Asked at every entry of a listing, so it costs no call.
+inline std::function<int(Operation, const QString &)> &faults()
+{
+    static std::function<int(Operation, const QString &)> injected;
+    return injected;
+}
 
 /// True when a test wants this call to fail; errno is set then.
 bool fails(Operation operation, const QString &path);
