@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 PrivateBus::PrivateBus()
 {
     const QByteArray config =
-        "<busconfig><type>session</type><listen>unix:path=" + paths::toBytes(folder_.at(u"bus"_s))
+        "<busconfig><type>session</type><listen>" + paths::toBytes(address())
         + "</listen><policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
           "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>";
     const QString file = folder_.file(u"bus.conf"_s, config);
@@ -34,7 +34,18 @@ QDBusConnection PrivateBus::connect()
 {
     const QString name = QUuid::createUuid().toString();
     connections_.append(name);
-    return QDBusConnection::connectToBus(u"unix:path="_s + folder_.at(u"bus"_s), name);
+    return QDBusConnection::connectToBus(address(), name);
+}
+
+QString PrivateBus::address() const
+{
+    return u"unix:path="_s + folder_.at(u"bus"_s);
+}
+
+void PrivateBus::end()
+{
+    daemon_->terminate();
+    daemon_->waitUntilExit();
 }
 
 QDBusConnection PrivateBus::none()

@@ -19,6 +19,12 @@ public:
     /// A new connection each time, which lives as long as the bus. Not connected when the bus didn't start.
     QDBusConnection connect();
 
+    /// Where it listens, as a program is told in its environment.
+    QString address() const;
+
+    /// Ends the bus under those that are connected to it.
+    void end();
+
     /// A connection that leads nowhere, as on a system without a session's bus.
     static QDBusConnection none();
 

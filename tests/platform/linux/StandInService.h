@@ -13,7 +13,8 @@ class StandInService final : public QDBusVirtualObject
 public:
     using Answer = std::function<QDBusMessage(const QDBusMessage &call)>;
 
-    /// Takes `name` on the bus, with `path` and all paths below it. Without an answer each call gets an empty reply.
+    /// Takes `name` on the bus, with `path` and all paths below it. Without a function each call gets an empty reply; a
+    /// message of no type is none.
     StandInService(QDBusConnection bus, const QString &name, const QString &path, Answer answer = {})
         : bus_(std::move(bus))
         , name_(name)
@@ -33,7 +34,9 @@ public:
     bool handleMessage(const QDBusMessage &call, const QDBusConnection &connection) override
     {
         calls.append(call);
-        connection.send(answer_ ? answer_(call) : call.createReply());
+        const QDBusMessage answer = answer_ ? answer_(call) : call.createReply();
+        if (answer.type() != QDBusMessage::InvalidMessage)
+            connection.send(answer);
         return true;
     }
 
