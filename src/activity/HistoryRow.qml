@@ -73,23 +73,14 @@ T.ItemDelegate {
                 text: row.entryTitle
                 maximumLineCount: 1
             }
-            Rectangle {
+            Badge {
                 id: failed
                 anchors.right: toggle.left
                 anchors.verticalCenter: parent.verticalCenter
                 visible: row.isFailed
-                width: visible ? failedText.implicitWidth + Theme.unit * 3 : 0
-                height: 18
-                radius: 9
-                color: "transparent"
-                border.color: Theme.red
-                CaptionText {
-                    id: failedText
-                    anchors.centerIn: parent
-                    text: row.view.texts.failed
-                    color: Theme.red
-                    font.pixelSize: 10
-                }
+                width: visible ? implicitWidth : 0
+                text: row.view.texts.failed
+                tint: Theme.red
             }
             IconButton {
                 id: toggle

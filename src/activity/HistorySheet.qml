@@ -48,20 +48,14 @@ SheetFrame {
         }
     ]
 
-    Flow {
+    ChipRow {
         id: chips
         x: Theme.unit * 5
         y: Theme.unit * 3
         width: parent.width - Theme.unit * 10
-        spacing: Theme.unit * 1.5
-
-        Repeater {
-            model: sheet.view.filters
-            FilterChip {
-                required property int index
-                onClicked: sheet.view.chooseFilter(index)
-            }
-        }
+        label: sheet.view.texts.filters
+        model: sheet.view.filters
+        onChosen: index => sheet.view.chooseFilter(index)
     }
     ListView {
         id: list

@@ -11,6 +11,7 @@ class HistoryTexts
     Q_PROPERTY(QString clear MEMBER clear CONSTANT)
     Q_PROPERTY(QString clearTip MEMBER clearTip CONSTANT)
     Q_PROPERTY(QString close MEMBER close CONSTANT)
+    Q_PROPERTY(QString filters MEMBER filters CONSTANT)
     Q_PROPERTY(QString failed MEMBER failed CONSTANT)
     Q_PROPERTY(QString showDetails MEMBER showDetails CONSTANT)
     Q_PROPERTY(QString hideDetails MEMBER hideDetails CONSTANT)
@@ -23,6 +24,7 @@ public:
     QString clear = QStringLiteral("Clear");
     QString clearTip = QStringLiteral("Wipe all entries (files already trashed stay trashed)");
     QString close = QStringLiteral("Close");
+    QString filters = QStringLiteral("Kinds of entries");
     QString failed = QStringLiteral("FAILED");
     QString showDetails = QStringLiteral("Show details");
     QString hideDetails = QStringLiteral("Hide details");

@@ -8,7 +8,7 @@ Rectangle {
     required property AgePillView pill
 
     visible: pill.isShown
-    implicitWidth: row.implicitWidth + Theme.unit * 5
+    implicitWidth: Math.ceil(row.implicitWidth) + Theme.unit * 5
     implicitHeight: 22
     radius: height / 2
     color: Theme.raised

@@ -2,23 +2,23 @@ import QtQuick
 import QtQuick.Templates as T
 import Quillmere
 
-// One choice out of a row of them, with a count where one is told.
+// One choice out of a row of them, with a count where one is told. The Tab key stops at the chosen one alone (see ChipRow).
 T.AbstractButton {
     id: chip
 
     required property string label
     required property string countText
     required property bool isSelected
-    property int capitalization: Font.MixedCase
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: 24
     leftPadding: Theme.unit * 2.5
     rightPadding: Theme.unit * 2.5
     hoverEnabled: true
-    focusPolicy: Qt.StrongFocus
+    focusPolicy: isSelected ? Qt.StrongFocus : Qt.ClickFocus
     text: label
     checked: isSelected
+    autoExclusive: true
     Accessible.role: Accessible.RadioButton
     Accessible.description: countText
     Keys.onReturnPressed: clicked()
@@ -31,7 +31,6 @@ T.AbstractButton {
             text: chip.label
             color: chip.isSelected ? Theme.accent : Theme.text
             font.pixelSize: Theme.smallSize
-            font.capitalization: chip.capitalization
         }
         BodyText {
             anchors.verticalCenter: parent.verticalCenter
@@ -43,11 +42,12 @@ T.AbstractButton {
     }
     background: Rectangle {
         radius: height / 2
-        color: chip.isSelected ? Theme.selected : Theme.raised
+        color: chip.isSelected ? Qt.tint(Theme.card, Qt.alpha(Theme.accent, 0.08)) : Theme.raised
         border.color: chip.isSelected ? Theme.accent : Theme.line
         Rectangle {
             anchors.fill: parent
             radius: parent.radius
+            visible: !chip.isSelected // a click on it does nothing
             color: chip.down ? Theme.pressed : chip.hovered ? Theme.hover : "transparent"
         }
         FocusRing {

@@ -1,7 +1,8 @@
 import QtQuick
 import Quillmere
 
-// A bar that is filled to a share from 0 to 1.
+// A bar that is filled to a share from 0 to 1. What is above 0 shows, if only as a sliver; a sliver is lower than the bar, so
+// that it stays inside of its round end.
 Rectangle {
     id: bar
 
@@ -14,9 +15,11 @@ Rectangle {
     Accessible.ignored: true
 
     Rectangle {
-        width: Math.min(parent.width, Math.max(bar.share > 0 ? parent.height : 0, parent.width * bar.share))
-        height: parent.height
-        radius: parent.radius
+        objectName: "shareFill"
+        anchors.verticalCenter: parent.verticalCenter
+        width: bar.share > 0 ? Math.min(parent.width, Math.max(2, Math.round(parent.width * bar.share))) : 0
+        height: width < parent.height ? parent.height - 2 : parent.height
+        radius: Math.min(width, height) / 2
         color: bar.fill
     }
 }

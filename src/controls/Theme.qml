@@ -26,6 +26,7 @@ QtObject {
     readonly property color pressed: isDark ? "#1fffffff" : "#18000000"
     readonly property color selected: isDark ? "#2658a6ff" : "#1f0969da"
 
+    readonly property color tileOutline: "#66ffffff" // 0.4 of white, around the tile under the pointer
     readonly property color backdrop: isDark ? "#a6010409" : "#661f2328" // over the window, behind a sheet
 
     readonly property int cardRadius: 8

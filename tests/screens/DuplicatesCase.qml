@@ -132,8 +132,9 @@ ScreenCase {
         clickOn(file(name));
     }
 
-    function chip(label) {
-        return Program.itemWith("label", screen(), label);
+    // The chip of that filter.
+    function chip(filter) {
+        return Program.itemWith("label", screen(), filter[0].toUpperCase() + filter.slice(1));
     }
 
     // The text of the figure with that label; null while there is none.

@@ -125,6 +125,48 @@ DuplicatesCase {
         compare(scanButton().text, "Start Scan");
     }
 
+    // Where the commands of the head stand, and how wide they are.
+    function places() {
+        Program.settle();
+        const commands = ["settingsButton", "scanButton"].map(name => Program.named(name));
+        return commands.map(item => [item.mapToItem(null, 0, 0), item.width].join()).join(" ");
+    }
+
+    function test_nothingMovesWhenAScanBeginsOrEnds() {
+        const before = places();
+        const top = list().mapToItem(null, 0, 0).y;
+        holdScan("b");
+        compare(places(), before);
+        const stop = stopButton().mapToItem(null, 0, 0).x;
+        compare(progress().mapToItem(null, 0, 0).y, top);
+        clickOn(stopButton());
+        compare(stopButton().mapToItem(null, 0, 0).x, stop);
+        compare(places(), before);
+        Surroundings.releaseDisk();
+        waitForScan();
+        compare(places(), before);
+    }
+
+    function test_stopStandsWhereItStandsOnOtherScreens() {
+        const place = () => [stopButton(), scanButton()].map(item => {
+            const end = item.mapToItem(null, item.width, 0);
+            return `${end.x} ${end.y}`;
+        }).join();
+        holdScan("b");
+        const here = place();
+        const title = Program.named("screenTitle").mapToItem(null, 0, 0);
+        Surroundings.holdProbes();
+        open("Disk Analyzer");
+        tryVerify(() => stopButton(), patience, "a scan runs there too");
+        compare(place(), here);
+        compare(Program.named("screenTitle").mapToItem(null, 0, 0).y, title.y);
+        Surroundings.releaseProbes();
+        Surroundings.releaseDisk();
+        tryGone("Scanning...");
+        open("Duplicates");
+        waitForScan();
+    }
+
     function test_scopeMayChangeMeanwhile() {
         holdScan("b");
         clickOn(Program.named("removeScanPath"));

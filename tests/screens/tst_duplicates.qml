@@ -63,7 +63,7 @@ DuplicatesCase {
 
     function test_resultOutlivesTheScreen() {
         clickFile("a/photo.JPG");
-        click("documents", screen());
+        clickOn(chip("documents"));
         open("Cleanup");
         open("Duplicates");
         compare(groups().length, 4);
@@ -95,10 +95,49 @@ DuplicatesCase {
     }
 
     function test_filterIsChosenByKeyboard() {
-        tabTo("the chip", item => item === chip("documents"));
+        tabTo("the chips", item => item === chip("all"));
         verify(focusItem().visualFocus);
-        press(Qt.Key_Return);
+        press(Qt.Key_Right);
+        press(Qt.Key_Right);
+        compare(focusItem(), chip("documents"));
+        verify(focusItem().visualFocus);
         compare(groups(), ["report.pdf"]);
+        press(Qt.Key_Left);
+        compare(groups(), ["photo.JPG"]);
+        press(Qt.Key_Left);
+        press(Qt.Key_Left);
+        compare(focusItem(), chip("media")); // they go round
+        press(Qt.Key_Tab);
+        verify(focusItem() !== chip("all"));
+        press(Qt.Key_Backtab);
+        compare(focusItem(), chip("media")); // the chosen one is their one stop
+    }
+
+    function test_figuresKeepTheirPlacesWhileFilesAreChosen() {
+        const place = () => Program.named("duplicateList").mapToItem(null, 0, 0).y;
+        Program.window.width = 1440;
+        Program.settle();
+        const before = place();
+        click("Select None", screen());
+        compare(figure("To delete"), null);
+        compare(place(), before);
+    }
+
+    function test_everythingEndsAtOneRightEdge() {
+        const end = item => item.mapToItem(null, item.width, 0).x;
+        const edge = end(scanButton());
+        compare(end(Program.itemWith("text", screen(), "Keep Oldest")), edge);
+        compare(end(rows()[0]), edge);
+        compare(end(rows()[1]), edge);
+        compare(end(foot()), edge);
+    }
+
+    function test_wasteOfNothingIsNoAlarm() {
+        const color = () => String(Program.textItem(figure("Wasted"), Program.itemWith("label", screen(), "Wasted")).color);
+        compare(color(), "#d29922");
+        clickOn(chip("archives"));
+        compare(figure("Wasted"), "0 B");
+        compare(color(), "#e6edf3");
     }
 
     function test_bulkButtonsChooseForAllGroups_data() {

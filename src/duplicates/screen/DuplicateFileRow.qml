@@ -27,9 +27,10 @@ T.ItemDelegate {
     Accessible.description: spoken
 
     contentItem: Item {
-        DuplicateFileBadge {
+        Badge {
             id: pill
             anchors.verticalCenter: parent.verticalCenter
+            width: 82
             text: row.badge
             symbol: row.badgeSymbol
             tint: row.isKept ? Theme.green : Theme.red

@@ -33,6 +33,7 @@ FocusScope {
         anchors.topMargin: visible ? Theme.unit * 3 : 0
         visible: screen.view.showSettings
         height: visible ? implicitHeight : 0
+        isLow: screen.height < 680
         view: screen.view
     }
     DuplicateToolbar {
@@ -54,15 +55,19 @@ FocusScope {
 
         DuplicateList {
             anchors.fill: parent
+            anchors.rightMargin: -Theme.unit * 3 // its scroll bar stands in the margin, and the cards end where all else does
             visible: !screen.view.isScanning && screen.view.hasFigures
             enabled: visible // a list that is not on view gets no keys
             focus: true
             view: screen.view
         }
-        DuplicateProgress {
+        ScanProgress {
+            objectName: "duplicateProgress"
             anchors.fill: parent
             visible: screen.view.isScanning
-            view: screen.view
+            percentText: screen.view.percentText
+            share: screen.view.progress
+            pathText: screen.view.currentPathText
         }
         EmptyState {
             anchors.centerIn: parent

@@ -16,6 +16,13 @@ namespace {
 // a few, and each would be laid out.
 constexpr double progressPeriod = 0.05;
 
+const QString startScan = QStringLiteral("Start Scan");
+const QString rescan = QStringLiteral("Rescan");
+const QString stopScan = QStringLiteral("Stop");
+const QString stopping = QStringLiteral("Stopping…");
+const QString showSettingsText = QStringLiteral("Settings");
+const QString hideSettingsText = QStringLiteral("Hide Settings");
+
 /// The group of a head; none for any other row.
 const DuplicateFileGroup *groupOf(const DuplicateService &service, const GroupRows::Row *row)
 {
@@ -40,7 +47,7 @@ DuplicateFinderView::DuplicateFinderView(const Platform &platform, DuplicateServ
     , banner_(access, DuplicateService::accessContext)
     , scope_(platform, service)
     , filterRows_({
-          {"label", [](const QString &filter) { return filter; }},
+          {"label", [](const QString &filter) { return QString(filter.left(1).toUpper() + filter.mid(1)); }},
           {"countText", [](const QString &) { return QString(); }},
           {"isSelected", [this](const QString &filter) { return filter == filter_; }},
       })
@@ -129,7 +136,22 @@ void DuplicateFinderView::takeFigures()
 
 QString DuplicateFinderView::settingsText() const
 {
-    return showSettings_ ? QStringLiteral("Hide Settings") : QStringLiteral("Settings");
+    return showSettings_ ? hideSettingsText : showSettingsText;
+}
+
+QStringList DuplicateFinderView::settingsLabels() const
+{
+    return {showSettingsText, hideSettingsText};
+}
+
+QStringList DuplicateFinderView::stopLabels() const
+{
+    return {stopScan, stopping};
+}
+
+QStringList DuplicateFinderView::scanLabels() const
+{
+    return {startScan, rescan};
 }
 
 bool DuplicateFinderView::canScan() const
@@ -149,13 +171,13 @@ bool DuplicateFinderView::canDelete() const
 
 QString DuplicateFinderView::scanText() const
 {
-    return service_.groups().empty() ? QStringLiteral("Start Scan") : QStringLiteral("Rescan");
+    return service_.groups().empty() ? startScan : rescan;
 }
 
 QString DuplicateFinderView::stopText() const
 {
     // The scan may be waiting for a disk that does not answer; the click shows all the same.
-    return canStop() ? QStringLiteral("Stop") : QStringLiteral("Stopping…");
+    return canStop() ? stopScan : stopping;
 }
 
 QString DuplicateFinderView::emptyText() const

@@ -37,6 +37,9 @@ class DuplicateFinderView final : public QObject,
     Q_PROPERTY(QAbstractItemModel *filterRows READ filterRows CONSTANT)
     Q_PROPERTY(GroupRows *rows READ rows CONSTANT)
     Q_PROPERTY(bool showSettings READ showSettings NOTIFY showSettingsChanged)
+    Q_PROPERTY(QList<QString> settingsLabels READ settingsLabels CONSTANT)
+    Q_PROPERTY(QList<QString> stopLabels READ stopLabels CONSTANT)
+    Q_PROPERTY(QList<QString> scanLabels READ scanLabels CONSTANT)
     Q_PROPERTY(QString settingsText READ settingsText NOTIFY showSettingsChanged)
     Q_PROPERTY(bool isScanning READ isScanning NOTIFY stateChanged)
     Q_PROPERTY(bool isDeleting READ isDeleting NOTIFY stateChanged)
@@ -51,6 +54,7 @@ class DuplicateFinderView final : public QObject,
     Q_PROPERTY(QString percentText READ percentText NOTIFY progressChanged)
     Q_PROPERTY(QString currentPathText READ currentPathText NOTIFY progressChanged)
     Q_PROPERTY(QString endText READ endText NOTIFY stateChanged)
+    Q_PROPERTY(bool hasWaste READ hasWaste NOTIFY figuresChanged)
     Q_PROPERTY(bool hasFigures READ hasFigures NOTIFY figuresChanged)
     Q_PROPERTY(QString groupsFigure READ groupsFigure NOTIFY figuresChanged)
     Q_PROPERTY(QString filesFigure READ filesFigure NOTIFY figuresChanged)
@@ -74,7 +78,7 @@ public:
     FDABanner *banner() { return &banner_; }
     DuplicateScopeView *scope() { return &scope_; }
 
-    /// The chips. Rows: label, countText (always empty), isSelected.
+    /// The chips. Rows: label (a filter's name as a word of its own), countText (always empty), isSelected.
     QAbstractItemModel *filterRows() { return &filterRows_; }
     /// Rows: see DuplicateRows.
     GroupRows *rows() { return &rows_; }
@@ -85,6 +89,10 @@ public:
 
     bool showSettings() const { return showSettings_; }
     QString settingsText() const;
+    // All that the texts of these commands may read, so that their buttons keep one width.
+    QStringList settingsLabels() const;
+    QStringList stopLabels() const;
+    QStringList scanLabels() const;
     bool isScanning() const { return service_.isScanning(); }
     bool isDeleting() const { return service_.isDeleting(); }
     bool canScan() const;
@@ -103,6 +111,7 @@ public:
 
     qint64 filesToDelete() const { return figures_.filesToDelete; }
     qint64 bytesToDelete() const { return figures_.bytesToDelete; }
+    bool hasWaste() const { return figures_.wasted > 0; }
     bool hasFigures() const { return figures_.groups > 0; }
     QString groupsFigure() const;
     QString filesFigure() const;

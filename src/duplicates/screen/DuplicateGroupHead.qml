@@ -57,12 +57,12 @@ Item {
                 anchors.leftMargin: width > 0 ? Theme.unit * 2 : 0
                 anchors.verticalCenter: caption.verticalCenter
                 spacing: Theme.unit
-                DuplicateMark {
+                Badge {
                     text: head.sameMark
                     tip: head.sameTip
                     tint: Theme.amber
                 }
-                DuplicateMark {
+                Badge {
                     text: head.lossMark
                     tip: head.lossTip
                     tint: Theme.red

@@ -10,10 +10,10 @@ Card {
     required property DuplicateFinderView view
 
     readonly property DuplicateScopeView scope: view.scope
-    readonly property int listHeight: Theme.unit * 28
+    property bool isLow: false // in a low window its lists leave more room to what it is for
+    readonly property int listHeight: isLow ? Theme.controlHeight * 3 : Theme.controlHeight * 4
 
     implicitHeight: columns.height + foot.height + Theme.unit * 11
-    border.color: drop.containsDrag ? Theme.accent : Theme.line
 
     Row {
         id: columns
@@ -33,9 +33,17 @@ Card {
             rows: panel.scope.scanPaths
             listName: "scanPathList"
             onAdded: panel.scope.addFolder()
-            delegate: DuplicateScanPathRow {
-                view: panel.view
-                onChanged: panel.scope.changeScanPath(index)
+            delegate: FolderRow {
+                required property int index
+                required property string pathText
+                width: ListView.view ? ListView.view.width : 0
+                text: pathText
+                tip: panel.view.texts.changeFolderTip
+                canBeRemoved: true
+                removeLabel: panel.view.texts.removeScanPath
+                removeTip: panel.view.texts.removeScanPathTip
+                removeButton.objectName: "removeScanPath"
+                onClicked: panel.scope.changeScanPath(index)
                 onRemoved: panel.scope.removeScanPath(index)
             }
         }
@@ -49,8 +57,15 @@ Card {
             rows: panel.scope.rules
             listName: "ruleList"
             onAdded: panel.scope.addExclusion()
-            delegate: DuplicateRuleRow {
-                view: panel.view
+            delegate: RuleRow {
+                required property int index
+                required property string ruleText
+                required property bool isOverridden
+                width: ListView.view ? ListView.view.width : 0
+                text: ruleText
+                suffix: isOverridden ? panel.view.texts.overridden : ""
+                removeTip: panel.view.texts.removeExclusionTip
+                removeButton.objectName: "removeExclusion"
                 onRemoved: panel.scope.removeExclusion(index)
             }
         }
@@ -109,27 +124,10 @@ Card {
             }
         }
     }
-    DropArea {
-        id: drop
+    FolderDrop {
         objectName: "scopeDrop"
         anchors.fill: parent
-        keys: ["text/uri-list"]
-        onDropped: event => {
-            event.accept(Qt.CopyAction);
-            panel.scope.dropFolders(event.urls);
-        }
-
-        Rectangle {
-            anchors.fill: parent
-            visible: drop.containsDrag
-            radius: Theme.cardRadius
-            color: Theme.selected
-            BodyText {
-                anchors.centerIn: parent
-                text: panel.view.texts.dropHere
-                color: Theme.accent
-                font.weight: Font.DemiBold
-            }
-        }
+        text: panel.view.texts.dropHere
+        onFoldersDropped: urls => panel.scope.dropFolders(urls)
     }
 }

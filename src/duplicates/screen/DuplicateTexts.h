@@ -12,6 +12,7 @@ class DuplicateTexts
     Q_PROPERTY(QString files MEMBER files CONSTANT)
     Q_PROPERTY(QString wasted MEMBER wasted CONSTANT)
     Q_PROPERTY(QString toDelete MEMBER toDelete CONSTANT)
+    Q_PROPERTY(QString filters MEMBER filters CONSTANT)
     Q_PROPERTY(QString selectAllDuplicates MEMBER selectAllDuplicates CONSTANT)
     Q_PROPERTY(QString selectNone MEMBER selectNone CONSTANT)
     Q_PROPERTY(QString keepNewest MEMBER keepNewest CONSTANT)
@@ -48,6 +49,7 @@ public:
     QString files = QStringLiteral("Files");
     QString wasted = QStringLiteral("Wasted");
     QString toDelete = QStringLiteral("To delete");
+    QString filters = QStringLiteral("Types of files");
     QString selectAllDuplicates = QStringLiteral("Select All Duplicates");
     QString selectNone = QStringLiteral("Select None");
     QString keepNewest = QStringLiteral("Keep Newest");

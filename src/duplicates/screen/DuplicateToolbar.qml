@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Quillmere
 
@@ -10,22 +8,16 @@ Item {
     required property DuplicateFinderView view
 
     // In a narrow window the choices stand below the filters.
-    readonly property bool isNarrow: chips.width + choices.width + Theme.unit * 4 > width
+    readonly property bool isNarrow: chips.implicitWidth + choices.width + Theme.unit * 4 > width
 
     implicitHeight: isNarrow ? Theme.controlHeight * 2 + Theme.unit * 2 : Theme.controlHeight
 
-    Row {
+    ChipRow {
         id: chips
         y: (Theme.controlHeight - height) / 2
-        spacing: Theme.unit * 1.5
-        Repeater {
-            model: bar.view.filterRows
-            FilterChip {
-                required property int index
-                capitalization: Font.Capitalize
-                onClicked: bar.view.chooseFilter(index)
-            }
-        }
+        label: bar.view.texts.filters
+        model: bar.view.filterRows
+        onChosen: index => bar.view.chooseFilter(index)
     }
     Row {
         id: choices

@@ -1,25 +1,26 @@
 import QtQuick
 import Quillmere
 
-// A rule that keeps a scan out of a folder.
+// A rule of a list, with a word behind it where it does not do what it says, and a button to take it out.
 Item {
     id: row
 
-    required property int index
-    required property string ruleText
+    required property string text
     required property string symbol
+    property string suffix // drawn in the colour of a warning, and the rule with it
     required property string tip
-    required property bool isOverridden
     required property bool canBeRemoved
-    required property DuplicateFinderView view
+    property string removeTip
+    property alias removeButton: remove
 
     signal removed
 
-    width: ListView.view ? ListView.view.width : 0
+    readonly property color inkColor: suffix.length > 0 ? Theme.amber : Theme.text
+
     implicitHeight: Theme.controlHeight
     Accessible.role: Accessible.ListItem
-    Accessible.name: row.isOverridden ? row.ruleText + " " + row.view.texts.overridden : row.ruleText
-    Accessible.description: row.tip
+    Accessible.name: suffix.length > 0 ? text + " " + suffix : text
+    Accessible.description: tip
 
     Rectangle {
         anchors.fill: parent
@@ -32,38 +33,36 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         name: row.symbol
         size: 13
-        color: row.isOverridden ? Theme.amber : Theme.secondText
+        color: row.suffix.length > 0 ? Theme.amber : Theme.secondText
     }
     BodyText {
         id: rule
         anchors.left: icon.right
         anchors.leftMargin: Theme.unit * 2
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, row.width - x - remove.width - suffix.implicitWidth - Theme.unit * 2)
-        text: row.ruleText
-        color: row.isOverridden ? Theme.amber : Theme.text
+        width: Math.min(implicitWidth, row.width - x - remove.width - suffixText.implicitWidth - Theme.unit * 2)
+        text: row.text
+        color: row.inkColor
         elide: Text.ElideMiddle
     }
     BodyText {
-        id: suffix
+        id: suffixText
         anchors.left: rule.right
         anchors.leftMargin: Theme.unit
         anchors.verticalCenter: parent.verticalCenter
-        visible: row.isOverridden
-        text: row.view.texts.overridden
-        color: Theme.amber
+        text: row.suffix
+        color: row.inkColor
         font.pixelSize: Theme.smallSize
     }
     IconButton {
         id: remove
-        objectName: "removeExclusion"
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         visible: row.canBeRemoved
         symbol: "xmark"
         symbolSize: 12
-        label: row.view.texts.removeExclusionTip
-        tip: row.view.texts.removeExclusionTip
+        label: row.removeTip
+        tip: row.removeTip
         onClicked: row.removed()
     }
     HoverHandler {
@@ -71,7 +70,7 @@ Item {
     }
     Tip {
         control: row
-        isDue: pointer.hovered
-        text: row.tip
+        isDue: pointer.hovered && !remove.hovered
+        text: !rule.truncated ? row.tip : row.tip.length > 0 ? row.text + "\n" + row.tip : row.text
     }
 }

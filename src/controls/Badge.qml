@@ -1,0 +1,56 @@
+import QtQuick
+import Quillmere
+
+// A pill with a word that tells of what it stands on, and a symbol where one is told. Nothing where there is no word. Its
+// ground is opaque, so that the word reads as well on a row that is lit.
+Rectangle {
+    id: badge
+
+    required property string text
+    required property color tint
+    property string symbol
+    property string tip
+    property list<string> labels // all that it may read in its place, where that changes: it keeps the room of the widest
+
+    readonly property int heldWidth: labels.length > 0 ? TextRuler.widest(labels, label.font) : 0
+
+    visible: text.length > 0
+    implicitWidth: Math.ceil(Math.max(label.implicitWidth, heldWidth)) + (icon.visible ? icon.width + content.spacing : 0) + Theme.unit * 3
+    implicitHeight: icon.visible ? 22 : 18
+    radius: height / 2
+    color: Qt.tint(Theme.card, Qt.alpha(tint, 0.06))
+    border.color: Qt.tint(Theme.card, Qt.alpha(tint, 0.5))
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+    Accessible.description: tip
+
+    Row {
+        id: content
+        anchors.centerIn: parent
+        spacing: Theme.unit
+        Symbol {
+            id: icon
+            anchors.verticalCenter: parent.verticalCenter
+            visible: badge.symbol.length > 0
+            name: badge.symbol
+            size: 11
+            color: badge.tint
+        }
+        CaptionText {
+            id: label
+            anchors.verticalCenter: parent.verticalCenter
+            text: badge.text
+            color: badge.tint
+            font.pixelSize: 10
+        }
+    }
+    HoverHandler {
+        id: pointer
+        enabled: badge.tip.length > 0
+    }
+    Tip {
+        control: badge
+        isDue: pointer.hovered
+        text: badge.tip
+    }
+}
