@@ -2,68 +2,35 @@ import QtQuick
 import Quillmere
 
 // Title, age of the result, and the commands of the whole screen.
-Item {
+ToolHead {
     id: header
 
     required property DiskAnalyzerView view
 
-    implicitHeight: Theme.controlHeight
+    title: view.title
+    symbol: view.symbol
 
-    Row {
-        anchors.verticalCenter: parent.verticalCenter
-        spacing: Theme.unit * 2.5
-        Symbol {
-            anchors.verticalCenter: parent.verticalCenter
-            name: header.view.symbol
-            size: 20
-            color: Theme.accent
-        }
-        BodyText {
-            anchors.verticalCenter: parent.verticalCenter
-            text: header.view.title
-            font.pixelSize: Theme.titleSize
-            font.weight: Font.DemiBold
-        }
+    ActionButton {
+        objectName: "changeFolderButton"
+        text: header.view.texts.changeFolder
+        symbol: "folder.badge.gearshape"
+        onClicked: header.view.changeFolder()
     }
-    Row {
-        anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
-        spacing: Theme.unit * 2
+    ScanCommands {
+        isScanning: header.view.isScanning
+        showsSpinner: header.view.hasEntry
+        leastRoom: Theme.unit * 48
+        busyText: header.view.texts.scanning
+        canScan: header.view.canScan
+        scanText: header.view.texts.rescan
+        scanSymbol: "arrow.clockwise"
+        stopText: header.view.texts.cancel
+        stopTip: header.view.texts.cancelTip
+        onStarted: header.view.rescan()
+        onStopped: header.view.cancelScan()
 
         AgePill {
-            anchors.verticalCenter: parent.verticalCenter
             pill: header.view.pill
-        }
-        Spinner {
-            anchors.verticalCenter: parent.verticalCenter
-            visible: header.view.isScanning
-            size: 13
-        }
-        BodyText {
-            anchors.verticalCenter: parent.verticalCenter
-            visible: header.view.isScanning
-            text: header.view.texts.scanning
-            color: Theme.secondText
-        }
-        ActionButton {
-            objectName: "cancelButton"
-            visible: header.view.isScanning
-            text: header.view.texts.cancel
-            symbol: "xmark"
-            tip: header.view.texts.cancelTip
-            onClicked: header.view.cancelScan()
-        }
-        ActionButton {
-            objectName: "changeFolderButton"
-            text: header.view.texts.changeFolder
-            symbol: "folder.badge.gearshape"
-            onClicked: header.view.changeFolder()
-        }
-        ActionButton {
-            objectName: "rescanButton"
-            text: header.view.texts.rescan
-            symbol: "arrow.clockwise"
-            onClicked: header.view.rescan()
         }
     }
 }

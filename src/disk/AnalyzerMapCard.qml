@@ -26,12 +26,14 @@ Card {
         anchors.margins: Theme.unit * 4
         anchors.topMargin: head.height
         map: card.view.treemap
+        label: card.view.texts.map
+        summary: card.view.mapSummary
     }
     EmptyState {
         anchors.centerIn: parent
         width: parent.width
         visible: card.view.isMapEmpty
         symbol: "folder"
-        text: card.view.emptyMapText
+        text: card.view.texts.emptyMap
     }
 }

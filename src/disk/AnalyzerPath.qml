@@ -28,6 +28,7 @@ Item {
         anchors.leftMargin: Theme.unit
         symbol: "house.fill"
         text: path.view.texts.home
+        enabled: path.view.canGoBack
         onClicked: path.view.goHome()
     }
     ListView {

@@ -13,10 +13,14 @@ class AnalyzerTexts
     Q_PROPERTY(QString cancel MEMBER cancel CONSTANT)
     Q_PROPERTY(QString cancelTip MEMBER cancelTip CONSTANT)
     Q_PROPERTY(QString analyzing MEMBER analyzing CONSTANT)
+    Q_PROPERTY(QString scanStopped MEMBER scanStopped CONSTANT)
+    Q_PROPERTY(QString stopping MEMBER stopping CONSTANT)
     Q_PROPERTY(QString goBack MEMBER goBack CONSTANT)
     Q_PROPERTY(QString home MEMBER home CONSTANT)
     Q_PROPERTY(QString openInFinder MEMBER openInFinder CONSTANT)
     Q_PROPERTY(QString visualMap MEMBER visualMap CONSTANT)
+    Q_PROPERTY(QString map MEMBER map CONSTANT)
+    Q_PROPERTY(QString emptyMap MEMBER emptyMap CONSTANT)
     Q_PROPERTY(QString nameColumn MEMBER nameColumn CONSTANT)
     Q_PROPERTY(QString sizeColumn MEMBER sizeColumn CONSTANT)
     Q_PROPERTY(QString shareColumn MEMBER shareColumn CONSTANT)
@@ -33,10 +37,14 @@ public:
     QString cancel = QStringLiteral("Cancel");
     QString cancelTip = QStringLiteral("Stop scanning");
     QString analyzing = QStringLiteral("Analyzing disk usage...");
+    QString stopping = QStringLiteral("Stopping…");
+    QString scanStopped = QStringLiteral("Scan stopped");
     QString goBack = QStringLiteral("Go back");
     QString home = QStringLiteral("Home");
     QString openInFinder = QStringLiteral("Open in Finder");
     QString visualMap = QStringLiteral("VISUAL MAP");
+    QString map = QStringLiteral("Map of what takes the most space");
+    QString emptyMap = QStringLiteral("Nothing here takes any space");
     QString nameColumn = QStringLiteral("Name");
     QString sizeColumn = QStringLiteral("Size");
     QString shareColumn = QStringLiteral("% of Parent");

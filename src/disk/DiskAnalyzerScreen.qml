@@ -61,33 +61,29 @@ FocusScope {
             view: screen.view
         }
     }
-    Card {
+    ScanProgress {
         objectName: "analyzerProgress"
         anchors.fill: body
         visible: screen.view.isAnalyzing
-
-        Column {
+        text: screen.view.texts.analyzing
+        pathText: screen.view.progressText
+    }
+    Card {
+        objectName: "analyzerStopped"
+        anchors.fill: body
+        visible: screen.view.stoppedText.length > 0
+        EmptyState {
             anchors.centerIn: parent
-            width: parent.width - Theme.unit * 12
-            spacing: Theme.unit * 3
-
-            Spinner {
+            width: parent.width
+            symbol: "folder"
+            text: screen.view.stoppedText
+            ActionButton {
+                objectName: "scanAgain"
                 anchors.horizontalCenter: parent.horizontalCenter
-                size: 28
-                color: Theme.accent
-            }
-            BodyText {
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                text: screen.view.texts.analyzing
-                font.weight: Font.DemiBold
-            }
-            BodyText {
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                text: screen.view.progressText
-                color: Theme.secondText
-                elide: Text.ElideMiddle
+                visible: screen.view.hasStopped
+                text: screen.view.texts.rescan
+                symbol: "arrow.clockwise"
+                onClicked: screen.view.rescan()
             }
         }
     }

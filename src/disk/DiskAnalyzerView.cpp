@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr double stopPatience = 3; // seconds for which a cancelled scan may go on unwinding
+
 /// A child that keeps its parent's tree alive.
 DiskAnalyzerView::Entry childOf(const DiskAnalyzerView::Entry &parent, size_t index)
 {
@@ -42,11 +44,7 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
       })
     , banner_(access, DiskService::accessContext)
 {
-    connect(&diskService_, &DiskService::isScanningAnalyzerChanged, this, [this] {
-        showAge();
-        emit scanChanged();
-        emit contentChanged();
-    });
+    connect(&diskService_, &DiskService::isScanningAnalyzerChanged, this, &DiskAnalyzerView::takeScanState);
     connect(&diskService_, &DiskService::analyzerRootChanged, this, &DiskAnalyzerView::showCurrentEntry);
     connect(&diskService_, &DiskService::analyzerScanPathChanged, this, &DiskAnalyzerView::contentChanged);
     connect(&diskService_, &DiskService::lastAnalyzerScanChanged, this, &DiskAnalyzerView::showAge);
@@ -76,6 +74,31 @@ QString DiskAnalyzerView::progressText() const
     return QStringLiteral("Scanning %1").arg(paths::inOneLine(diskService_.analyzerScanPath()));
 }
 
+void DiskAnalyzerView::takeScanState()
+{
+    stop_ = isScanning() || diskService_.analyzerRoot() ? Stop::none : Stop::stopping;
+    stopWait_.drop();
+    if (stop_ == Stop::stopping) {
+        guarded::postAfter(platform_.mainQueue, stopPatience, QPointer(this),
+                           [wait = stopWait_.ask()](DiskAnalyzerView &view) {
+                               if (wait.isUnwanted())
+                                   return;
+                               view.stop_ = Stop::stopped;
+                               emit view.contentChanged();
+                           });
+    }
+    showAge();
+    emit scanChanged();
+    emit contentChanged();
+}
+
+QString DiskAnalyzerView::stoppedText() const
+{
+    if (!isTreeMissing() || stop_ == Stop::none)
+        return {};
+    return hasStopped() ? texts().scanStopped : texts().stopping;
+}
+
 QString DiskAnalyzerView::location() const
 {
     const Entry entry = currentEntry();
@@ -98,11 +121,6 @@ bool DiskAnalyzerView::isMapEmpty() const
 {
     const Entry entry = currentEntry();
     return !entry || !entry->hasChildren() || analyzer::mapCategories(*entry).empty();
-}
-
-QString DiskAnalyzerView::emptyMapText() const
-{
-    return isEmptyDirectory() ? texts().emptyDirectory : QStringLiteral("Nothing here takes any space");
 }
 
 QString DiskAnalyzerView::contentsHeader() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "activity/FDABanner.h"
+#include "base/LatestQuestion.h"
 #include "base/RecordListModel.h"
 #include "common/AgePillView.h"
 #include "common/Appearing.h"
@@ -28,15 +29,17 @@ class DiskAnalyzerView final : public QObject,
     Q_PROPERTY(AnalyzerTexts texts READ texts CONSTANT)
     Q_PROPERTY(QString refreshSequence READ refreshSequence CONSTANT)
     Q_PROPERTY(bool isScanning READ isScanning NOTIFY scanChanged)
+    Q_PROPERTY(bool canScan READ canScan NOTIFY scanChanged)
     Q_PROPERTY(bool isAnalyzing READ isAnalyzing NOTIFY contentChanged)
     Q_PROPERTY(QString progressText READ progressText NOTIFY contentChanged)
+    Q_PROPERTY(QString stoppedText READ stoppedText NOTIFY contentChanged)
+    Q_PROPERTY(bool hasStopped READ hasStopped NOTIFY contentChanged)
     Q_PROPERTY(bool hasEntry READ hasEntry NOTIFY contentChanged)
     Q_PROPERTY(QString location READ location NOTIFY contentChanged)
     Q_PROPERTY(AgePillView *pill READ pill CONSTANT)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY contentChanged)
     Q_PROPERTY(QString mapSummary READ mapSummary NOTIFY contentChanged)
     Q_PROPERTY(bool isMapEmpty READ isMapEmpty NOTIFY contentChanged)
-    Q_PROPERTY(QString emptyMapText READ emptyMapText NOTIFY contentChanged)
     Q_PROPERTY(QString contentsHeader READ contentsHeader NOTIFY contentChanged)
     Q_PROPERTY(QString parentRowText READ parentRowText NOTIFY contentChanged)
     Q_PROPERTY(bool isScanningDeeper READ isScanningDeeper NOTIFY contentChanged)
@@ -60,14 +63,17 @@ public:
     AnalyzerTexts texts() const { return {}; }
     QString refreshSequence() const; ///< the key of `refresh`
     bool isScanning() const { return diskService_.isScanningAnalyzer(); }
+    bool canScan() const { return !isScanning(); }
     bool isAnalyzing() const { return isScanning() && !currentEntry(); } ///< no tree to show yet
     QString progressText() const;
+    /// What stands in the place of a tree that does not come, since its scan was cancelled; else empty.
+    QString stoppedText() const;
+    bool hasStopped() const { return isTreeMissing() && stop_ == Stop::stopped; } ///< nobody waits any more
     bool hasEntry() const { return currentEntry() != nullptr; }
     QString location() const; ///< the path of the entry on view, which `openInFinder` shows
     bool canGoBack() const { return !breadcrumb_.empty(); }
     QString mapSummary() const;
     bool isMapEmpty() const;
-    QString emptyMapText() const; ///< why the map is empty
     QString contentsHeader() const;
     QString parentRowText() const; ///< empty at the top, where there is no parent row
     bool isScanningDeeper() const { return isScanningDeeper_; }
@@ -114,12 +120,17 @@ signals:
     void entryWillChange(); ///< the table is about to show another entry, from its top
 
 private:
+    /// A cancelled scan unwinds at once unless the disk does not answer, and then nobody knows when it will.
+    enum class Stop { none, stopping, stopped };
+
     struct Row
     {
         Entry entry;
         double share = 0;
     };
 
+    bool isTreeMissing() const { return !isScanning() && !hasEntry(); }
+    void takeScanState();
     Entry child(int row) const;
     void openChildNamed(const QString &name);
     void scanDeeper(const QString &path);
@@ -135,6 +146,8 @@ private:
     FileSystemService &fileSystem_;
     std::vector<Entry> breadcrumb_;
     bool isScanningDeeper_ = false;
+    Stop stop_ = Stop::none;
+    LatestQuestion stopWait_; // for the tree of a cancelled scan
     AgePillView pill_;
     RecordListModel<Entry> breadcrumbRows_;
     RecordListModel<Row> contentRows_;

@@ -1,22 +1,23 @@
 import QtQuick
 import Quillmere
 
-// One rectangle of a treemap.
-Rectangle {
+// One rectangle of a treemap. Under the pointer the rectangle lets its ground through, and its label stays as it is.
+Item {
     id: tile
 
     required property int index
     required property string tileName
     required property string sizeText
     required property string tipText
-    required property string spokenText
     required property color tileColor
     required property color labelColor
+    required property color groundColor
     required property double tileX
     required property double tileY
     required property double tileWidth
     required property double tileHeight
     required property bool hasLabel
+    required property double hoveredOpacity
     property bool isHovered: false
 
     signal pointerEntered
@@ -27,12 +28,29 @@ Rectangle {
     y: tileY
     width: tileWidth
     height: tileHeight
-    radius: Theme.tileRadius
-    color: tileColor
-    opacity: isHovered ? 0.8 : 1
-    Accessible.role: Accessible.Button
-    Accessible.name: spokenText
 
+    Rectangle {
+        anchors.fill: parent
+        visible: tile.isHovered
+        radius: Theme.tileRadius
+        color: tile.groundColor
+    }
+    Rectangle {
+        objectName: "tileFace"
+        anchors.fill: parent
+        radius: Theme.tileRadius
+        color: tile.tileColor
+        opacity: tile.isHovered ? tile.hoveredOpacity : 1
+    }
+    Rectangle {
+        objectName: "hoverOutline"
+        anchors.fill: parent
+        visible: tile.isHovered
+        radius: Theme.tileRadius
+        color: "transparent"
+        border.width: 2
+        border.color: Theme.tileOutline
+    }
     Column {
         anchors.left: parent.left
         anchors.right: parent.right
@@ -53,15 +71,6 @@ Rectangle {
             color: tile.labelColor
             font.pixelSize: Theme.captionSize
         }
-    }
-    Rectangle {
-        objectName: "hoverOutline"
-        anchors.fill: parent
-        visible: tile.isHovered
-        radius: parent.radius
-        color: "transparent"
-        border.width: 2
-        border.color: "#80ffffff" // 0.4 of white, under the opacity of the tile
     }
     HoverHandler {
         id: pointer

@@ -12,6 +12,9 @@ constexpr double gap = 2; // points between neighbours, half of it on each side 
 constexpr double leastLabelWidth = 55;
 constexpr double leastLabelHeight = 28;
 
+const QString darkLabel = QStringLiteral("#0d1117");
+const QString lightLabel = QStringLiteral("#ffffff");
+
 /// Near-black on light tiles and white on dark ones, by the relative luminance of sRGB.
 QString labelColor(const QString &tileColor)
 {
@@ -21,7 +24,13 @@ QString labelColor(const QString &tileColor)
     };
     const double luminance =
         0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
-    return luminance > 0.18 ? QStringLiteral("#0d1117") : QStringLiteral("#ffffff"); // equal contrast at 0.18
+    return luminance > 0.18 ? darkLabel : lightLabel; // equal contrast at 0.18
+}
+
+/// The other of the two, so that a tile that lets it through reads better, not worse, whatever the card below is.
+QString groundColor(const QString &tileColor)
+{
+    return labelColor(tileColor) == darkLabel ? lightLabel : darkLabel;
 }
 
 QString tileSizeText(double bytes)
@@ -31,9 +40,9 @@ QString tileSizeText(double bytes)
 }
 
 /// Both texts of a tile, whichever of them it has room to show.
-QString nameAndSize(const TreemapItem &item, const QString &separator)
+QString tipText(const TreemapItem &item)
 {
-    return paths::inOneLine(item.name) + separator + tileSizeText(item.size);
+    return QStringLiteral("%1 · %2").arg(paths::inOneLine(item.name), tileSizeText(item.size));
 }
 
 bool hasLabel(const TreemapItem &item)
@@ -48,10 +57,10 @@ TreemapView::TreemapView(QObject *parent)
     , tiles_({
           {"tileName", [](const TreemapItem &item) { return paths::inOneLine(item.name); }},
           {"sizeText", [](const TreemapItem &item) { return tileSizeText(item.size); }},
-          {"tipText", [](const TreemapItem &item) { return nameAndSize(item, QStringLiteral(" · ")); }},
-          {"spokenText", [](const TreemapItem &item) { return nameAndSize(item, QStringLiteral(", ")); }},
+          {"tipText", tipText},
           {"tileColor", [](const TreemapItem &item) { return colorText(item.color); }},
           {"labelColor", [](const TreemapItem &item) { return labelColor(item.color); }},
+          {"groundColor", [](const TreemapItem &item) { return groundColor(item.color); }},
           {"tileX", [](const TreemapItem &item) { return item.rect.x() + gap / 2; }},
           {"tileY", [](const TreemapItem &item) { return item.rect.y() + gap / 2; }},
           {"tileWidth", [](const TreemapItem &item) { return std::max(item.rect.width() - gap, 0.0); }},

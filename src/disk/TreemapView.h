@@ -12,14 +12,17 @@ class TreemapView : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QAbstractItemModel *tiles READ tiles CONSTANT)
+    Q_PROPERTY(double hoveredOpacity MEMBER hoveredOpacity CONSTANT)
     Q_PROPERTY(int hoveredIndex READ hoveredIndex NOTIFY hoveredIndexChanged)
 
 public:
     explicit TreemapView(QObject *parent = nullptr);
 
-    /// Rows: tileName, sizeText, tipText, spokenText, tileColor, labelColor, tileX, tileY, tileWidth, tileHeight (points),
-    /// hasLabel.
+    /// Rows: tileName, sizeText, tipText, tileColor, labelColor, groundColor (what shows through the tile while the
+    /// pointer is on it), tileX, tileY, tileWidth, tileHeight (points), hasLabel.
     QAbstractItemModel *tiles() { return &tiles_; }
+
+    const double hoveredOpacity = 0.8; ///< of the tile under the pointer
 
     void setCategories(std::vector<StorageCategory> categories);
 

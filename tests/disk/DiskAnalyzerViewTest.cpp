@@ -88,6 +88,83 @@ TEST_F(DiskAnalyzerViewTest, showsProgressInThePlaceOfATreeDuringAScan)
     EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
 }
 
+TEST_F(DiskAnalyzerViewTest, tellsThatACancelledScanIsStoppingUntilItsTreeComes)
+{
+    makeScanned();
+    view->rescan();
+    test.mainQueue.run();
+    EXPECT_FALSE(view->canScan());
+    EXPECT_EQ(view->stoppedText(), QString());
+    view->cancelScan();
+    test.mainQueue.run();
+    EXPECT_TRUE(view->canScan());
+    EXPECT_FALSE(view->hasEntry());
+    EXPECT_EQ(view->stoppedText(), QStringLiteral("Stopping…"));
+    EXPECT_FALSE(view->hasStopped());
+    test.settle();
+    EXPECT_TRUE(view->hasEntry());
+    EXPECT_EQ(view->stoppedText(), QString());
+    test.mainQueue.advance(60);
+    EXPECT_EQ(view->stoppedText(), QString());
+    EXPECT_FALSE(view->hasStopped());
+}
+
+TEST_F(DiskAnalyzerViewTest, tellsThatAScanHasStoppedWhereNoTreeComes)
+{
+    makeScanned();
+    view->rescan();
+    test.mainQueue.run();
+    view->cancelScan();
+    test.mainQueue.run();
+    const QSignalSpy changes(view.get(), &DiskAnalyzerView::contentChanged);
+    test.mainQueue.advance(2.9);
+    EXPECT_EQ(view->stoppedText(), QStringLiteral("Stopping…"));
+    test.mainQueue.advance(0.2);
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(view->stoppedText(), QStringLiteral("Scan stopped"));
+    EXPECT_TRUE(view->hasStopped());
+    test.settle(); // the disk answers after all
+    EXPECT_EQ(view->stoppedText(), QString());
+    EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));
+}
+
+TEST_F(DiskAnalyzerViewTest, newScanEndsTheWaitForTheOneBefore)
+{
+    makeScanned();
+    view->rescan();
+    test.mainQueue.run();
+    view->cancelScan();
+    test.mainQueue.run();
+    test.mainQueue.advance(1.5);
+    view->rescan();
+    test.mainQueue.run();
+    EXPECT_EQ(view->stoppedText(), QString());
+    view->cancelScan();
+    test.mainQueue.run();
+    test.mainQueue.advance(2);
+    EXPECT_EQ(view->stoppedText(), QStringLiteral("Stopping…"));
+    test.mainQueue.advance(1.1);
+    EXPECT_EQ(view->stoppedText(), QStringLiteral("Scan stopped"));
+}
+
+TEST_F(DiskAnalyzerViewTest, keepsWhatIsOnViewWhenAnotherScreensScanIsCancelled)
+{
+    makeScanned();
+    open("Documents");
+    disk.scanAnalyzer(test.home, true);
+    test.mainQueue.run();
+    view->cancelScan();
+    test.mainQueue.run();
+    EXPECT_TRUE(view->hasEntry());
+    EXPECT_EQ(view->stoppedText(), QString());
+    test.mainQueue.advance(4);
+    EXPECT_FALSE(view->hasStopped());
+    view->goHome();
+    EXPECT_EQ(view->stoppedText(), QStringLiteral("Scan stopped"));
+    test.settle();
+    EXPECT_EQ(view->stoppedText(), QString());
+}
+
 TEST_F(DiskAnalyzerViewTest, tellsBeginningAndEndOfAScan)
 {
     make();

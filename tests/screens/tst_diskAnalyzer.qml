@@ -11,7 +11,7 @@ AnalyzerCase {
         find("VISUAL MAP");
         verify(Program.texts(screen()).includes("6 items · 14 MB"));
         compare(Program.texts(screen()).split("\n").slice(0, 4).join("|"),
-                "Disk Analyzer|Cached · just now|Change Folder|Rescan");
+                "Disk Analyzer|Change Folder|Cached · just now|Rescan");
         Program.picture("analyzer");
     }
 
@@ -62,6 +62,24 @@ AnalyzerCase {
         tryGone("Analyzing disk usage...");
     }
 
+    function test_nothingMovesWhenAScanBeginsOrEnds() {
+        const places = () => {
+            Program.settle();
+            const commands = ["changeFolderButton", "scanButton", "homeButton", "finderButton"].map(name => Program.named(name));
+            return commands.map(item => [item.mapToItem(null, 0, 0), item.width].join()).join(" ");
+        };
+        const before = places();
+        holdScan();
+        compare(places(), before);
+        verify(!Program.named("scanButton").enabled);
+        verify(Program.named("stopButton"));
+        Surroundings.releaseProbes();
+        find("CONTENTS (6 items)");
+        compare(places(), before);
+        verify(Program.named("scanButton").enabled);
+        verify(!Program.named("stopButton"));
+    }
+
     function test_rescanDoesNothingDuringScan() {
         holdScan();
         click("Rescan");
@@ -74,7 +92,7 @@ AnalyzerCase {
 
     function test_cancelShowsWhatWasMeasured() {
         holdScan();
-        mouseMove(Program.named("cancelButton"));
+        mouseMove(Program.named("stopButton"));
         find("Stop scanning");
         click("Cancel");
         tryGone("Scanning...");
@@ -96,13 +114,48 @@ AnalyzerCase {
         verify(row("Invoices").sizeText !== "0 B");
     }
 
+    function test_cancelOnAFolderThatDoesNotAnswerShowsSo() {
+        const folder = Surroundings.at("hollow");
+        Surroundings.holdDisk(folder);
+        Surroundings.userWillChoose(folder);
+        click("Change Folder");
+        tryVerify(() => Surroundings.isDiskHeld(), patience, "the scan waits at the folder");
+        find("Analyzing disk usage...");
+        click("Cancel");
+        const card = Program.named("analyzerStopped");
+        find("Stopping…", card);
+        verify(!Program.named("analyzerProgress"));
+        verify(Program.named("scanButton").enabled);
+        Program.picture("analyzer-stopping");
+        find("Scan stopped", card);
+        compare(Program.texts(card), "Scan stopped\nRescan");
+        Program.picture("analyzer-stopped");
+        Surroundings.releaseDisk();
+        find("CONTENTS (0 items)");
+        verify(!Program.named("analyzerStopped"));
+    }
+
+    function test_scanThatStoppedBeginsAgain() {
+        const folder = Surroundings.at("home");
+        Surroundings.holdDisk(folder);
+        click("Rescan");
+        tryVerify(() => Surroundings.isDiskHeld(), patience, "the scan waits at the folder");
+        click("Cancel");
+        find("Scan stopped");
+        tabTo("the command of the state", item => item === Program.named("scanAgain"));
+        press(Qt.Key_Return);
+        find("Analyzing disk usage...");
+        Surroundings.releaseDisk();
+        find("CONTENTS (6 items)");
+    }
+
     function test_cancelsByKeyboard() {
         holdScan();
-        tabTo("the Cancel button", item => item === Program.named("cancelButton"));
+        tabTo("the Cancel button", item => item === Program.named("stopButton"));
         press(Qt.Key_Return);
         find("CONTENTS (6 items)");
         compare(Disk.probeCount(), 0);
-        tabTo("the Rescan button", item => item === Program.named("rescanButton"));
+        tabTo("the Rescan button", item => item === Program.named("scanButton"));
     }
 
     function test_refreshKeyIsTheScreensOwn() {
@@ -158,7 +211,8 @@ AnalyzerCase {
         analyze(Surroundings.at("hollow"));
         find("CONTENTS (0 items)");
         find("0 items · 0 B");
-        compare(Program.texts(screen()).split("\n").filter(text => text === "Empty directory").length, 2);
+        find("Nothing here takes any space");
+        compare(Program.texts(screen()).split("\n").filter(text => text === "Empty directory").length, 1);
         Program.picture("analyzer-empty");
     }
 

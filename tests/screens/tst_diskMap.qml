@@ -35,10 +35,12 @@ AnalyzerCase {
     }
 
     function test_pointerOutlinesTile() {
-        compare(tile("Documents").opacity, 1);
+        const face = Program.named("tileFace", tile("Documents"));
+        compare(face.opacity, 1);
         mouseMove(tile("Documents"));
         tryCompare(tile("Documents"), "isHovered", true, patience);
-        tryCompare(tile("Documents"), "opacity", 0.8, patience);
+        tryCompare(face, "opacity", 0.8, patience);
+        compare(String(Program.named("hoverOutline", tile("Documents")).border.color), "#66ffffff"); // 0.4 of white
         verify(Program.named("hoverOutline", tile("Documents")));
         verify(!Program.named("hoverOutline", tile("Movies")));
         const size = tile("Documents").sizeText;
@@ -108,6 +110,7 @@ AnalyzerCase {
     }
 
     function test_homeButtonGoesToTheTop() {
+        verify(!Program.named("homeButton").enabled);
         drill("Documents", 2);
         drill("Invoices", 2);
         click("Home");
@@ -127,6 +130,21 @@ AnalyzerCase {
         click("Documents", Program.named("breadcrumbList"));
         compare(breadcrumbs(), ["Documents"]);
         compare(location(), Surroundings.at("home/Documents"));
+    }
+
+    function test_longNameIsToldWholeInTheWayIn() {
+        const name = "w".repeat(255);
+        analyze(Surroundings.at("odd"));
+        clickOn(row(name));
+        tryVerify(() => breadcrumbs().length === 1, patience, "the folder is on view");
+        const crumb = Program.itemWith("text", Program.named("breadcrumbList"), name);
+        compare(crumb.width, 240);
+        const count = () => Program.texts().split("\n").filter(text => text === name).length;
+        const before = count();
+        mouseMove(crumb);
+        tryVerify(() => count() === before + 1, patience, "a tooltip tells the name");
+        restPointer();
+        verify(!told(Program.itemWith("text", screen(), "Rescan"), "isCut"));
     }
 
     function test_wayInWorksByKeyboard() {

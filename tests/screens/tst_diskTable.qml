@@ -5,6 +5,15 @@ import Quillmere.Screens
 AnalyzerCase {
     name: "DiskTable"
 
+    function test_smallShareIsToldApartFromNone() {
+        const fill = name => Program.named("shareFill", row(name));
+        verify(row("tiny.txt").share > 0);
+        compare(fill("tiny.txt").width, 2);
+        verify(fill("tiny.txt").height < fill("Movies").height);
+        compare(row("Empty").share, 0);
+        verify(!fill("Empty"));
+    }
+
     function test_showsRowsLargestFirst() {
         drill("Movies", 2);
         compare(Program.texts(table()), "birthday.mov\n6.0 MB\n75.0%\nclip.mp4\n2.0 MB\n25.0%");
