@@ -1,14 +1,12 @@
 // A Loader of Qt 6.4 makes no bound component, and qmllint knows the ids of an unbound one only as unqualified.
 // qmllint disable unqualified
 import QtQuick
-import QtQuick.Templates as T
 import Quillmere
 
 // One entry of the log, with what it hides until it is expanded.
-T.ItemDelegate {
+ListRow {
     id: row
 
-    required property int index
     required property string symbol
     required property string tint
     required property string headline
@@ -22,16 +20,14 @@ T.ItemDelegate {
     required property string moreText
     required property string spokenText
     required property HistoryView view
-    property bool isCurrent: false
 
     signal detailsToggled
 
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: Theme.unit * 2
-    hoverEnabled: true
-    focusPolicy: Qt.NoFocus
     text: entryTitle
-    Accessible.description: spokenText
+    spoken: spokenText
+    tip: hovered && title.truncated ? entryTitle : ""
     onClicked: detailsToggled()
 
     contentItem: Column {
@@ -67,6 +63,7 @@ T.ItemDelegate {
                 font.pixelSize: Theme.smallSize
             }
             BodyText {
+                id: title
                 anchors.left: headline.left
                 anchors.right: headline.right
                 anchors.bottom: parent.bottom
@@ -109,12 +106,13 @@ T.ItemDelegate {
         }
     }
     background: Item {
-        Rectangle {
+        RowBackground {
             width: parent.width
             height: head.height + row.topPadding + row.bottomPadding
-            radius: Theme.controlRadius
-            color: row.isCurrent ? Theme.selected : row.down ? Theme.pressed
-                 : row.hovered ? Theme.hover : "transparent"
+            isCurrent: row.isCurrent
+            isDown: row.down
+            isHovered: row.hovered
+            isMenuTarget: row.isMenuTarget
         }
     }
 }

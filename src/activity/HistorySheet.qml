@@ -1,7 +1,6 @@
 // A Loader of Qt 6.4 makes no bound component, and qmllint knows the ids of an unbound one only as unqualified.
 // qmllint disable unqualified
 import QtQuick
-import QtQuick.Templates as T
 import Quillmere
 
 // The activity log: filters, entries, and what can be done with the log as a whole.
@@ -57,7 +56,7 @@ SheetFrame {
         model: sheet.view.filters
         onChosen: index => sheet.view.chooseFilter(index)
     }
-    ListView {
+    RowList {
         id: list
         objectName: "historyList"
         anchors.top: chips.bottom
@@ -67,29 +66,20 @@ SheetFrame {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.leftMargin: Theme.unit * 3
-        anchors.rightMargin: Theme.unit * 3
-        clip: true
-        focus: true
-        activeFocusOnTab: true
-        boundsBehavior: Flickable.StopAtBounds
+        anchors.rightMargin: Theme.unit * 3 - gutter
         spacing: Theme.unit
         model: sheet.view.rows
-        currentIndex: -1
-        keyNavigationEnabled: true
+        onRowOpened: row => sheet.view.toggleRow(row)
+        onRowToggled: row => sheet.view.toggleRow(row)
+        Accessible.name: sheet.view.title
 
         // A new entry comes in above the first row; a reader who has not scrolled sees it.
         property bool isAtTop: true
         onMovementEnded: isAtTop = atYBeginning
         onCountChanged: if (isAtTop) positionViewAtBeginning()
 
-        T.ScrollBar.vertical: ScrollHandle { }
-        Keys.onReturnPressed: sheet.view.toggleRow(currentIndex)
-        Keys.onEnterPressed: sheet.view.toggleRow(currentIndex)
-        Keys.onSpacePressed: sheet.view.toggleRow(currentIndex)
         delegate: HistoryRow {
-            width: ListView.view.width
             view: sheet.view
-            isCurrent: ListView.isCurrentItem && list.activeFocus
             onDetailsToggled: sheet.view.toggleRow(index)
         }
     }

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Quillmere
 
 // The table of what is in the entry on view.
@@ -20,7 +19,7 @@ FocusScope {
         text: card.view.contentsHeader
     }
     AnalyzerContentsColumns {
-        id: columns
+        id: titles
         anchors.top: head.bottom
         anchors.left: parent.left
         anchors.right: parent.right
@@ -30,62 +29,38 @@ FocusScope {
     }
     AnalyzerParentRow {
         id: parentRow
-        anchors.top: columns.bottom
+        anchors.top: titles.bottom
         anchors.topMargin: Theme.unit
-        anchors.left: list.left
-        anchors.right: list.right
+        x: list.x
+        width: list.rowWidth
         text: card.view.parentRowText
         onClicked: card.view.goBack()
     }
-    ListView {
+    RowList {
         id: list
         objectName: "contentsList"
         anchors.top: parentRow.bottom
         anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.unit * 2
         anchors.left: parent.left
+        anchors.leftMargin: Theme.unit * 2
         anchors.right: parent.right
-        anchors.margins: Theme.unit * 2
-        anchors.topMargin: 0
-        clip: true
-        focus: true
-        boundsBehavior: Flickable.StopAtBounds
+        anchors.rightMargin: Theme.unit * 2 - gutter
         visible: !card.view.isScanningDeeper
         model: card.view.contents
-        currentIndex: -1
-        // A list that is out of sight keeps the focus for its return, but takes no keys.
-        keyNavigationEnabled: visible
-        Keys.enabled: visible
-        activeFocusOnTab: true
-
-        // Whoever comes by key sees where they are.
-        onActiveFocusChanged: {
-            if (activeFocus && currentIndex < 0 && count > 0)
-                currentIndex = 0;
-        }
-
-        function goToTop() {
-            currentIndex = -1;
-            contentY = 0;
-        }
-        function take(index) {
-            currentIndex = index;
-            forceActiveFocus();
-        }
-
-        T.ScrollBar.vertical: ScrollHandle { }
-        Keys.onReturnPressed: card.view.activateRow(currentIndex)
-        Keys.onEnterPressed: card.view.activateRow(currentIndex)
+        menuRow: menu.shownRow
+        onRowOpened: row => card.view.activateRow(row)
+        onRowToggled: row => card.view.openRow(row)
+        onMenuRequested: (row, item) => menu.openFor(model, row, item)
         Keys.onRightPressed: card.view.openRow(currentIndex)
         Keys.onLeftPressed: card.view.goBack()
-        Keys.onMenuPressed: menu.openFor(model, currentIndex, currentItem)
+        Accessible.name: card.view.contentsHeader
+
         delegate: AnalyzerContentsRow {
-            width: ListView.view.width
-            isCurrent: ListView.isCurrentItem && list.activeFocus
+            columns: titles
             revealTip: card.view.texts.reveal
             onClicked: card.view.openRow(index)
             onRevealed: card.view.revealRow(index)
-            onMenuRequested: menu.openFor(list.model, index, null)
-            onPressed: list.take(index)
         }
     }
     Connections {

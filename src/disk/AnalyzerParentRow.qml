@@ -31,9 +31,9 @@ T.ItemDelegate {
             color: Theme.secondText
         }
     }
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: row.down ? Theme.pressed : row.hovered ? Theme.hover : "transparent"
+    background: RowBackground {
+        isDown: row.down
+        isHovered: row.hovered
         FocusRing {
             visible: row.visualFocus
         }

@@ -39,6 +39,10 @@ DiskAnalyzerView::DiskAnalyzerView(const Platform &platform, DiskService &diskSe
           {"entryName", [](const Row &row) { return paths::inOneLine(row.entry->name); }},
           {"sizeText", [](const Row &row) { return sizeText(row.entry->size); }},
           {"shareText", [](const Row &row) { return analyzer::shareText(row.share); }},
+          {"spokenText",
+           [](const Row &row) {
+               return sizeText(row.entry->size) + QStringLiteral(", ") + analyzer::shareText(row.share);
+           }},
           {"share", [](const Row &row) { return row.share; }},
           {"isFolder", [](const Row &row) { return row.entry->isDirectory; }},
       })

@@ -81,7 +81,7 @@ public:
 
     /// Rows: entryName.
     QAbstractItemModel *breadcrumbs() { return &breadcrumbRows_; }
-    /// Rows: symbol, entryName, sizeText, shareText, share (0 to 1), isFolder.
+    /// Rows: symbol, entryName, sizeText, shareText, spokenText (both), share (0 to 1), isFolder.
     QAbstractItemModel *contents() { return &contentRows_; }
     TreemapView *treemap() { return &treemap_; }
     FDABanner *banner() { return &banner_; }

@@ -1,95 +1,72 @@
 import QtQuick
-import QtQuick.Templates as T
 import Quillmere
 
-// One file of a group. A click lets it stay or go.
-T.ItemDelegate {
-    id: row
+// What a row shows of one file of a group.
+Item {
+    id: file
 
+    required property string title
     required property string detail
     required property string trailing
     required property bool isKept
     required property string badge
     required property string badgeSymbol
-    required property string tip
-    required property string spoken
-    required property bool isCurrent
-    required property string revealTip
+    required property string clickTip
+    required property DuplicateFinderView view
+
+    readonly property string tip: reveal.hovered ? "" : RowTexts.lines([
+        name.truncated ? title : "", path.truncated ? detail : "", view.canChoose ? clickTip : ""])
 
     signal revealed
-    signal menuRequested
 
-    leftPadding: Theme.unit * 2
-    rightPadding: Theme.unit * 2
-    hoverEnabled: true
-    focusPolicy: Qt.NoFocus
-    opacity: enabled ? 1 : 0.5
-    Accessible.description: spoken
+    opacity: view.canChoose ? 1 : 0.5
 
-    contentItem: Item {
-        Badge {
-            id: pill
-            anchors.verticalCenter: parent.verticalCenter
-            width: 82
-            text: row.badge
-            symbol: row.badgeSymbol
-            tint: row.isKept ? Theme.green : Theme.red
-        }
-        Column {
-            anchors.left: pill.right
-            anchors.leftMargin: Theme.unit * 3
-            anchors.right: date.left
-            anchors.rightMargin: Theme.unit * 3
-            anchors.verticalCenter: parent.verticalCenter
-            BodyText {
-                width: parent.width
-                text: row.text
-                elide: Text.ElideMiddle
-            }
-            BodyText {
-                width: parent.width
-                text: row.detail
-                color: Theme.secondText
-                font.pixelSize: Theme.smallSize
-                elide: Text.ElideMiddle
-            }
-        }
-        BodyText {
-            id: date
-            anchors.right: reveal.left
-            anchors.rightMargin: Theme.unit * 2
-            anchors.verticalCenter: parent.verticalCenter
-            horizontalAlignment: Text.AlignRight
-            text: row.trailing
-            color: Theme.secondText
-            font.pixelSize: Theme.smallSize
-        }
-        IconButton {
-            id: reveal
-            objectName: "revealFile"
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            symbol: "folder"
-            symbolSize: 14
-            label: row.revealTip
-            tip: row.revealTip
-            focusPolicy: Qt.NoFocus
-            onClicked: row.revealed()
-        }
+    Badge {
+        id: pill
+        width: 82
+        x: Theme.unit * 3
+        y: (parent.height - height) / 2
+        text: file.badge
+        symbol: file.badgeSymbol
+        tint: file.isKept ? Theme.green : Theme.red
     }
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: row.isCurrent ? Theme.selected : row.down ? Theme.pressed : row.hovered ? Theme.hover : "transparent"
+    BodyText {
+        id: name
+        x: pill.x + pill.width + Theme.unit * 3
+        y: Math.round(parent.height / 2) - height
+        width: date.x - Theme.unit * 3 - x
+        text: file.title
+        elide: Text.ElideMiddle
     }
-    Tip {
-        control: row
-        isDue: row.enabled && row.hovered && !row.down && !reveal.hovered
-        text: row.tip
+    BodyText {
+        id: path
+        x: name.x
+        y: name.y + name.height
+        width: name.width
+        text: file.detail
+        color: Theme.secondText
+        font.pixelSize: Theme.smallSize
+        elide: Text.ElideMiddle
     }
-    // No TapHandler: it would make the row take the right button for a click of its own.
-    MouseArea {
-        anchors.fill: parent
-        acceptedButtons: Qt.RightButton
-        onClicked: row.menuRequested()
+    BodyText {
+        id: date
+        x: reveal.x - Theme.unit * 2 - width
+        height: parent.height
+        text: file.trailing
+        color: Theme.secondText
+        font.pixelSize: Theme.smallSize
+    }
+    IconButton {
+        id: reveal
+        objectName: "revealFile"
+        x: parent.width - width - Theme.unit * 3
+        y: (parent.height - height) / 2
+        enabled: file.view.canChoose
+        symbol: "folder"
+        symbolSize: 14
+        label: file.view.texts.reveal
+        tip: file.view.texts.reveal
+        focusPolicy: Qt.NoFocus
+        onClicked: file.revealed()
     }
 }

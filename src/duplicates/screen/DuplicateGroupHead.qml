@@ -1,7 +1,7 @@
 import QtQuick
 import Quillmere
 
-// The head of a group of equal files.
+// What a row shows of the head of a group of equal files.
 Item {
     id: head
 
@@ -12,32 +12,16 @@ Item {
     required property string sameTip
     required property string lossMark
     required property string lossTip
-    required property string spoken
-    required property bool isCurrent
     required property DuplicateFinderView view
+
+    readonly property string tip: caption.truncated ? title : ""
 
     signal newest
     signal oldest
-    signal menuRequested
 
-    Accessible.role: Accessible.Heading
-    Accessible.name: title
-    Accessible.description: spoken
-
-    Rectangle {
-        anchors.fill: parent
-        anchors.margins: 1
-        radius: Theme.cardRadius
-        color: head.isCurrent ? Theme.selected : "transparent"
-    }
-    MouseArea {
-        anchors.fill: parent
-        acceptedButtons: Qt.RightButton
-        onClicked: head.menuRequested()
-    }
     Column {
         anchors.left: parent.left
-        anchors.leftMargin: Theme.unit * 4
+        anchors.leftMargin: Theme.unit * 3
         anchors.right: buttons.left
         anchors.rightMargin: Theme.unit * 3
         anchors.verticalCenter: parent.verticalCenter
@@ -100,7 +84,7 @@ Item {
     BodyText {
         id: amount
         anchors.right: parent.right
-        anchors.rightMargin: Theme.unit * 4
+        anchors.rightMargin: Theme.unit * 3
         anchors.verticalCenter: parent.verticalCenter
         width: Math.max(implicitWidth, 130)
         horizontalAlignment: Text.AlignRight

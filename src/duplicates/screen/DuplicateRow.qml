@@ -1,11 +1,11 @@
 import QtQuick
 import Quillmere
 
-// A row of the list: the head of a group or one of its files, as a slice of the group's card.
-Item {
+// A row of the list: the head of a group or one of its files, as a slice of the group's card. A row is made once and used
+// for either, so what it is not shows nothing and is given no texts to lay out.
+ListRow {
     id: row
 
-    required property int index
     required property bool isHead
     required property string title
     required property string detail
@@ -13,76 +13,77 @@ Item {
     required property bool isKept
     required property string badge
     required property string badgeSymbol
-    required property string tip
+    required property string clickTip
     required property string sameMark
     required property string sameTip
     required property string lossMark
     required property string lossTip
     required property bool isLast
-    required property string spoken
+    required spoken
     required property DuplicateFinderView view
-    property bool isCurrent: false
 
-    signal taken
-    signal menuRequested
+    readonly property int gap: isHead ? Theme.unit * 2 : 0 // between the cards
 
-    implicitHeight: 48
+    implicitHeight: 52
+    padding: 0
+    text: title
+    checkable: !isHead && view.canChoose
+    checked: !isHead && isKept
+    tip: !hovered ? "" : isHead ? head.tip : file.tip
+    onClicked: view.toggleKeep(index)
+    Accessible.role: isHead ? Accessible.Heading : Accessible.ListItem
 
-    // The card reaches beyond the slice where it goes on above or below, so that only its true ends are round.
-    Item {
-        anchors.fill: parent
-        clip: true
-        Card {
-            x: 0
-            y: row.isHead ? Theme.unit * 2 : -radius
+    contentItem: Item {
+        DuplicateGroupHead {
+            id: head
+            y: row.gap
             width: parent.width
-            height: parent.height - y + (row.isLast ? -1 : radius)
+            height: parent.height - y
+            visible: row.isHead
+            title: visible ? row.title : ""
+            detail: visible ? row.detail : ""
+            trailing: visible ? row.trailing : ""
+            sameMark: row.sameMark
+            sameTip: row.sameTip
+            lossMark: row.lossMark
+            lossTip: row.lossTip
+            view: row.view
+            onNewest: row.view.keepNewestOf(row.index)
+            onOldest: row.view.keepOldestOf(row.index)
+        }
+        DuplicateFileRow {
+            id: file
+            width: parent.width
+            height: parent.height
+            visible: !row.isHead
+            title: visible ? row.title : ""
+            detail: visible ? row.detail : ""
+            trailing: visible ? row.trailing : ""
+            isKept: row.isKept
+            badge: row.badge
+            badgeSymbol: row.badgeSymbol
+            clickTip: row.clickTip
+            view: row.view
+            onRevealed: row.view.reveal(row.index)
         }
     }
-    DuplicateGroupHead {
-        anchors.fill: parent
-        anchors.topMargin: Theme.unit * 2
-        visible: row.isHead
-        title: row.title
-        detail: row.detail
-        trailing: row.trailing
-        sameMark: row.sameMark
-        sameTip: row.sameTip
-        lossMark: row.lossMark
-        lossTip: row.lossTip
-        spoken: row.spoken
-        isCurrent: row.isCurrent
-        view: row.view
-        onNewest: row.view.keepNewestOf(row.index)
-        onOldest: row.view.keepOldestOf(row.index)
-        onMenuRequested: {
-            row.taken();
-            row.menuRequested();
+    background: Item {
+        DuplicateCardSlice {
+            y: row.gap
+            width: parent.width
+            height: parent.height - y
+            isFirst: row.isHead
+            isLast: row.isLast
         }
-    }
-    DuplicateFileRow {
-        anchors.fill: parent
-        anchors.leftMargin: Theme.unit * 2
-        anchors.rightMargin: Theme.unit * 2
-        anchors.bottomMargin: row.isLast ? Theme.unit : 0
-        visible: !row.isHead
-        enabled: row.view.canChoose
-        text: row.title
-        detail: row.detail
-        trailing: row.trailing
-        isKept: row.isKept
-        badge: row.badge
-        badgeSymbol: row.badgeSymbol
-        tip: row.tip
-        spoken: row.spoken
-        isCurrent: row.isCurrent
-        revealTip: row.view.texts.reveal
-        onPressed: row.taken()
-        onClicked: row.view.toggleKeep(row.index)
-        onRevealed: row.view.reveal(row.index)
-        onMenuRequested: {
-            row.taken();
-            row.menuRequested();
+        RowBackground {
+            x: Theme.unit
+            y: row.gap + 2
+            width: parent.width - Theme.unit * 2
+            height: parent.height - y - 2
+            isCurrent: row.isCurrent
+            isDown: row.down && row.checkable
+            isHovered: row.hovered && row.checkable
+            isMenuTarget: row.isMenuTarget
         }
     }
 }

@@ -157,7 +157,7 @@ QHash<int, QByteArray> DuplicateRows::roleNames() const
         {keepRole, "isKept"},
         {badgeRole, "badge"},
         {badgeSymbolRole, "badgeSymbol"},
-        {tipRole, "tip"},
+        {tipRole, "clickTip"},
         {sameMarkRole, "sameMark"},
         {sameTipRole, "sameTip"},
         {lossMarkRole, "lossMark"},

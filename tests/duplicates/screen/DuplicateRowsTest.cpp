@@ -23,7 +23,7 @@ TEST_F(DuplicateRowsTest, headTellsNumberSizeAndWaste)
     EXPECT_EQ(text(0, "detail"), u"3 copies · 1000 B each · 2.0 KB wasted"_s);
     EXPECT_EQ(text(0, "spoken"), u"3 copies · 1000 B each · 2.0 KB wasted"_s);
     EXPECT_EQ(text(0, "trailing"), u"2.0 KB recoverable"_s);
-    EXPECT_EQ(text(0, "badge") + text(0, "badgeSymbol") + text(0, "tip"), QString());
+    EXPECT_EQ(text(0, "badge") + text(0, "badgeSymbol") + text(0, "clickTip"), QString());
     EXPECT_TRUE(rowValue(&rows, 0, "isKept").toBool());
 }
 
@@ -68,11 +68,11 @@ TEST_F(DuplicateRowsTest, fileTellsWhetherItStaysAndWhatAClickDoes)
     EXPECT_TRUE(rowValue(&rows, 1, "isKept").toBool());
     EXPECT_EQ(text(1, "badge"), u"KEEP"_s);
     EXPECT_EQ(text(1, "badgeSymbol"), u"checkmark.shield.fill"_s);
-    EXPECT_EQ(text(1, "tip"), u"Click to mark this copy for deletion"_s);
+    EXPECT_EQ(text(1, "clickTip"), u"Click to mark this copy for deletion"_s);
     EXPECT_FALSE(rowValue(&rows, 2, "isKept").toBool());
     EXPECT_EQ(text(2, "badge"), u"DELETE"_s);
     EXPECT_EQ(text(2, "badgeSymbol"), u"trash.fill"_s);
-    EXPECT_EQ(text(2, "tip"), u"Click to keep this copy"_s);
+    EXPECT_EQ(text(2, "clickTip"), u"Click to keep this copy"_s);
     EXPECT_EQ(text(2, "spoken"), u"DELETE, /b, Mar 1, 2026"_s);
 }
 

@@ -1,0 +1,110 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+
+// A list of rows (ListRow): the keys that walk it and act on its rows, the right button, the place that it keeps. The view
+// follows its current row at once, or a held key would run ahead of what is seen.
+ListView {
+    id: list
+
+    // The scroll handle stands beside the rows, not over them: a list reaches this much further than they do.
+    readonly property int gutter: Theme.unit * 3
+    readonly property real rowWidth: width - gutter
+
+    property int menuRow: -1 // the row whose context menu is open (RowMenu's `shownRow`)
+
+    signal rowOpened(int row)  // by Return or Enter
+    signal rowToggled(int row) // by Space
+    signal menuRequested(int row, Item item) // `item` is the row where a key asks, null where the pointer does
+    signal selectionExtended(int from, int to) // the current row was moved with Shift held
+
+    // Makes that row the current one and brings the keyboard to it.
+    function take(row) {
+        currentIndex = row;
+        forceActiveFocus();
+    }
+
+    function goToTop() {
+        currentIndex = -1;
+        positionViewAtBeginning();
+    }
+
+    // Keeps the current row and the place of the view while the rows are made anew; all are as high as each other.
+    // `rowNow` tells where a row of before stands.
+    function holdPlace() {
+        heldPlace = { row: currentIndex, top: contentY - originY, height: count > 0 ? contentHeight / count : 0 };
+    }
+    function takePlace(rowNow) {
+        const held = heldPlace;
+        currentIndex = rowNow(held.row);
+        if (held.height === 0) // there were no rows
+            return;
+        const topRow = Math.floor(held.top / held.height);
+        forceLayout();
+        contentY = originY + held.top + (rowNow(topRow) - topRow) * held.height;
+        returnToBounds();
+    }
+    property var heldPlace: null
+
+    function walk(key, modifiers) {
+        const from = currentIndex;
+        const row = RowSteps.target(key, modifiers, from, count, contentHeight > 0 ? height * count / contentHeight : 1);
+        if (row < 0)
+            return false;
+        currentIndex = row;
+        if (modifiers & Qt.ShiftModifier)
+            selectionExtended(from, row);
+        return true;
+    }
+    function askForMenu(key, modifiers) {
+        if (currentIndex < 0 || !RowSteps.asksForMenu(key, modifiers))
+            return false;
+        menuRequested(currentIndex, currentItem);
+        return true;
+    }
+    function askForMenuAt(x, y) {
+        const row = indexAt(x + contentX, y + contentY);
+        if (row >= 0)
+            menuRequested(row, null);
+    }
+
+    clip: true
+    focus: true
+    activeFocusOnTab: true
+    boundsBehavior: Flickable.StopAtBounds
+    reuseItems: true
+    cacheBuffer: 0 // or rows that nobody sees would be told of to assistive technology
+    currentIndex: -1
+    keyNavigationEnabled: false // its own keys know neither pages nor the ends
+    highlightMoveDuration: 0
+    highlightResizeDuration: 0
+
+    // Whoever comes by key sees where they are.
+    onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+
+    // A list that is out of sight keeps the focus for its return, but takes no keys.
+    Keys.enabled: visible
+    Keys.onReturnPressed: event => event.accepted = list.actOn(list.rowOpened)
+    Keys.onEnterPressed: event => event.accepted = list.actOn(list.rowOpened)
+    Keys.onSpacePressed: event => event.accepted = list.actOn(list.rowToggled)
+    Keys.onPressed: event => event.accepted = list.walk(event.key, event.modifiers) || list.askForMenu(event.key, event.modifiers)
+
+    function actOn(signal) {
+        if (currentIndex >= 0)
+            signal(currentIndex);
+        return currentIndex >= 0;
+    }
+
+    Accessible.role: Accessible.List
+
+    T.ScrollBar.vertical: ScrollHandle { }
+
+    // One for all rows. No TapHandler: it would make a row take the right button for a click of its own.
+    MouseArea {
+        parent: list
+        anchors.fill: parent
+        z: 1
+        acceptedButtons: Qt.RightButton
+        onClicked: mouse => list.askForMenuAt(mouse.x, mouse.y)
+    }
+}
