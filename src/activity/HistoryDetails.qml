@@ -30,13 +30,12 @@ Column {
     }
     Repeater {
         model: details.shownPaths
-        BodyText {
+        ElidedText {
             required property string modelData
             width: details.width - details.leftPadding
             text: modelData
             color: Theme.secondText
             font.pixelSize: Theme.smallSize
-            elide: Text.ElideMiddle
             maximumLineCount: 1
         }
     }

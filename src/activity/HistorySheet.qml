@@ -13,6 +13,7 @@ SheetFrame {
     symbol: view.symbol
     summary: view.countText
     closeLabel: view.texts.close
+    isCovered: view.showClearConfirm
 
     tools: [
         Item {

@@ -10,6 +10,7 @@ Rectangle {
     required property color tint
     property string symbol
     property string tip
+    property bool isQuiet: false // a count that asks for nothing
     property list<string> labels // all that it may read in its place, where that changes: it keeps the room of the widest
 
     readonly property int heldWidth: labels.length > 0 ? TextRuler.widest(labels, label.font) : 0
@@ -18,8 +19,8 @@ Rectangle {
     implicitWidth: Math.ceil(Math.max(label.implicitWidth, heldWidth)) + (icon.visible ? icon.width + content.spacing : 0) + Theme.unit * 3
     implicitHeight: icon.visible ? 22 : 18
     radius: height / 2
-    color: Qt.tint(Theme.card, Qt.alpha(tint, 0.06))
-    border.color: Qt.tint(Theme.card, Qt.alpha(tint, 0.5))
+    color: isQuiet ? Theme.free : Qt.tint(Theme.card, Qt.alpha(tint, 0.06))
+    border.color: isQuiet ? Theme.free : Qt.tint(Theme.card, Qt.alpha(tint, 0.5))
     Accessible.role: Accessible.StaticText
     Accessible.name: text
     Accessible.description: tip
@@ -41,7 +42,9 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             text: badge.text
             color: badge.tint
-            font.pixelSize: 10
+            font.pixelSize: badge.isQuiet ? Theme.captionSize : 10
+            font.weight: badge.isQuiet ? Font.Normal : Font.DemiBold
+            font.letterSpacing: badge.isQuiet ? 0 : 0.6
         }
     }
     HoverHandler {

@@ -1,3 +1,5 @@
+// The backdrop is made apart from the sheet, and qmllint knows ids there only as unqualified.
+// qmllint disable unqualified
 import QtQuick
 import QtQuick.Templates as T
 import Quillmere
@@ -11,6 +13,7 @@ T.Popup {
     required property string symbol
     required property string closeLabel
     property string summary
+    property bool isCovered: false // a question stands on it, with a backdrop of its own
     default property alias body: content.data
     property alias tools: toolRow.data // at the right of the head
 
@@ -27,7 +30,8 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape
     onClosed: dismissed()
     T.Overlay.modal: Rectangle {
-        color: Theme.backdrop
+        objectName: "sheetBackdrop"
+        color: sheet.isCovered ? "transparent" : Theme.backdrop
     }
 
     contentItem: FocusScope {

@@ -12,6 +12,8 @@ Card {
         x: Theme.unit * 4
         height: 40
         text: card.view.texts.visualMap
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
     }
     BodyText {
         anchors.right: parent.right

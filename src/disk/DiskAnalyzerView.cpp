@@ -111,7 +111,8 @@ QString DiskAnalyzerView::location() const
 
 void DiskAnalyzerView::showAge()
 {
-    pill_.set(diskService_.lastAnalyzerScan(), isScanning());
+    const bool isTreeComing = stop_ != Stop::none; // the last one has gone, and its age says nothing any more
+    pill_.set(isTreeComing ? std::nullopt : diskService_.lastAnalyzerScan(), isScanning());
 }
 
 QString DiskAnalyzerView::mapSummary() const

@@ -36,21 +36,12 @@ T.ItemDelegate {
             text: button.itemTitle
             font.weight: button.isSelected ? Font.DemiBold : Font.Normal
         }
-        Rectangle {
+        Badge {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            visible: button.badge.length > 0
-            width: badgeText.implicitWidth + Theme.unit * 3
-            height: 18
-            radius: 9
-            color: Theme.free
-            BodyText {
-                id: badgeText
-                anchors.centerIn: parent
-                text: button.badge
-                color: Theme.secondText
-                font.pixelSize: Theme.captionSize
-            }
+            text: button.badge
+            tint: Theme.secondText
+            isQuiet: true
         }
     }
     background: Rectangle {

@@ -101,7 +101,9 @@ TEST_F(DiskAnalyzerViewTest, tellsThatACancelledScanIsStoppingUntilItsTreeComes)
     EXPECT_FALSE(view->hasEntry());
     EXPECT_EQ(view->stoppedText(), QStringLiteral("Stopping…"));
     EXPECT_FALSE(view->hasStopped());
+    EXPECT_FALSE(view->pill()->isShown()); // what it tells of is no longer there
     test.settle();
+    EXPECT_TRUE(view->pill()->isShown());
     EXPECT_TRUE(view->hasEntry());
     EXPECT_EQ(view->stoppedText(), QString());
     test.mainQueue.advance(60);

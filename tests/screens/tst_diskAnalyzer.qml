@@ -135,6 +135,19 @@ AnalyzerCase {
         verify(!Program.named("analyzerStopped"));
     }
 
+    function test_longPathOfAScanIsToldWhole() {
+        const folder = `${Surroundings.at("odd")}/${"w".repeat(255)}`;
+        Surroundings.holdDisk(folder);
+        Surroundings.userWillChoose(folder);
+        click("Change Folder");
+        tryVerify(() => Surroundings.isDiskHeld(), patience, "the scan waits at the folder");
+        const count = () => Program.texts().split("\n").filter(text => text === `Scanning ${folder}`).length;
+        mouseMove(find(`Scanning ${folder}`));
+        tryVerify(() => count() === 2, patience, "a tooltip tells the path");
+        Surroundings.releaseDisk();
+        find("CONTENTS (1 items)");
+    }
+
     function test_scanThatStoppedBeginsAgain() {
         const folder = Surroundings.at("home");
         Surroundings.holdDisk(folder);

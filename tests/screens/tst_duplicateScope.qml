@@ -35,6 +35,19 @@ ScopeCase {
         tryGone(data.tip);
     }
 
+    function test_tellsWholePathsThatAreCut() {
+        const folder = `${twins}/${"long ".repeat(30)}`;
+        Duplicates.scanOnly([folder], usualMinSize);
+        Program.settle();
+        mouseMove(scanPathRows()[0]);
+        find(`${folder}\nClick to change this folder`);
+        exclude(folder);
+        mouseMove(rule(folder));
+        const shown = () => Program.texts().split("\n").filter(text => text === folder).length;
+        tryVerify(() => shown() === 3, patience, "both rows and a tooltip tell it");
+        restPointer();
+    }
+
     function test_addsChosenFolder() {
         add(twins + "/a");
         compare(Surroundings.folderMessage(), "Select a directory to scan for duplicates");

@@ -26,6 +26,8 @@ Column {
             anchors.verticalCenter: parent.verticalCenter
             text: column.title
             font.capitalization: Font.AllUppercase
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
         }
         ActionButton {
             anchors.right: parent.right
