@@ -4,14 +4,16 @@ import QtQuick
 import QtQuick.Templates as T
 import Quillmere
 
-// One choice out of a short list that opens below it. `shownText` stands on it also when it is none of the choices.
+// One choice out of a short list that opens below it, as wide as its widest. `shownText` stands on it also when it is none of the choices.
 T.ComboBox {
     id: picker
 
     required property string label
     required property string shownText
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    readonly property int heldWidth: TextRuler.widest(model, font)
+
+    implicitWidth: Math.ceil(Math.max(implicitContentWidth, heldWidth)) + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
     leftPadding: Theme.unit * 2.5
     rightPadding: Theme.unit * 7
@@ -21,6 +23,7 @@ T.ComboBox {
     opacity: enabled ? 1 : 0.5
     Accessible.name: label
 
+    font.pixelSize: Theme.bodySize
     contentItem: BodyText {
         text: picker.displayText
     }

@@ -15,9 +15,11 @@ ScopeCase {
         find("10 MB", picker().popup.contentItem);
         compare(Program.texts(picker().popup.contentItem), "1 KB\n10 KB\n100 KB\n1 MB\n10 MB");
         Program.picture("scope-picker");
+        const width = picker().width;
         click("1 KB", picker().popup.contentItem);
         tryVerify(() => !picker().popup.visible, patience, "the choices close");
         compare(picker().displayText, "1 KB");
+        compare(picker().width, width);
         scan();
         compare(groups(), ["photo.JPG", "film.mov", "report.pdf", "plain", "note.txt"]);
         clickOn(picker());

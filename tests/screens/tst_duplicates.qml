@@ -114,7 +114,7 @@ DuplicatesCase {
     }
 
     function test_figuresKeepTheirPlacesWhileFilesAreChosen() {
-        const place = () => Program.named("duplicateList").mapToItem(null, 0, 0).y;
+        const place = () => `${list().mapToItem(null, 0, 0).y} ${list().height}`;
         Program.window.width = 1440;
         Program.settle();
         const before = place();
@@ -130,6 +130,10 @@ DuplicatesCase {
         compare(end(rows()[0]), edge);
         compare(end(rows()[1]), edge);
         compare(end(foot()), edge);
+        // What lies in a card has an edge of its own.
+        const inner = end(Program.itemWith("text", screen(), "Add Exclusion"));
+        compare(end(Program.itemWith("ruleText", screen())), inner);
+        compare(end(Program.named("resetScope")), inner);
     }
 
     function test_wasteOfNothingIsNoAlarm() {

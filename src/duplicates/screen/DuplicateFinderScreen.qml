@@ -50,8 +50,9 @@ FocusScope {
         anchors.right: header.right
         anchors.top: toolbar.bottom
         anchors.topMargin: Theme.unit * 3
-        anchors.bottom: foot.top
-        anchors.bottomMargin: foot.visible ? Theme.unit * 3 : 0
+        anchors.bottom: parent.bottom
+        // The foot comes and goes with the first and the last choice: it finds its room kept, not a row under the pointer.
+        anchors.bottomMargin: Theme.unit * 5 + (screen.view.hasFigures ? foot.implicitHeight + Theme.unit * 3 : 0)
 
         DuplicateList {
             anchors.fill: parent

@@ -23,10 +23,11 @@ ToolHead {
             label: header.view.texts.wasted
             value: header.view.wastedFigure
             valueColor: header.view.hasWaste ? Theme.amber : Theme.text
+            leastWidth: Theme.unit * 16
         },
         // Its room is kept, so that a click on a file moves nothing.
         Item {
-            width: Math.max(toDelete.width, Theme.unit * 36)
+            width: Math.max(toDelete.width, Theme.unit * 40)
             height: toDelete.height
             Figure {
                 id: toDelete

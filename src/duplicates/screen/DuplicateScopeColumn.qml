@@ -15,6 +15,8 @@ Column {
     required property var rows // QAbstractItemModel
     required property Component delegate
 
+    readonly property int gutter: Theme.unit * 3 // the scroll handle stands beside the rows, not over them
+
     signal added
 
     spacing: Theme.unit * 2
@@ -39,17 +41,19 @@ Column {
     ListView {
         id: list
         objectName: column.listName
-        width: parent.width
+        width: parent.width + column.gutter
         height: column.listHeight
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         model: column.rows
         delegate: column.delegate
+        Accessible.role: Accessible.List
+        Accessible.name: column.title
         T.ScrollBar.vertical: ScrollHandle { }
 
         BodyText {
             anchors.centerIn: parent
-            width: parent.width
+            width: column.width
             visible: text.length > 0
             horizontalAlignment: Text.AlignHCenter
             text: column.emptyText

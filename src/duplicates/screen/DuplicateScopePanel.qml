@@ -36,7 +36,7 @@ Card {
             delegate: FolderRow {
                 required property int index
                 required property string pathText
-                width: ListView.view ? ListView.view.width : 0
+                width: folders.width
                 text: pathText
                 tip: panel.view.texts.changeFolderTip
                 canBeRemoved: true
@@ -61,7 +61,7 @@ Card {
                 required property int index
                 required property string ruleText
                 required property bool isOverridden
-                width: ListView.view ? ListView.view.width : 0
+                width: folders.width
                 text: ruleText
                 suffix: isOverridden ? panel.view.texts.overridden : ""
                 removeTip: panel.view.texts.removeExclusionTip
