@@ -35,18 +35,12 @@ T.ComboBox {
         size: 11
         color: Theme.secondText
     }
-    background: Rectangle {
-        radius: Theme.controlRadius
+    background: ButtonFace {
         color: Theme.raised
-        border.color: Theme.line
-        Rectangle {
-            anchors.fill: parent
-            radius: parent.radius
-            color: picker.down ? Theme.pressed : picker.hovered ? Theme.hover : "transparent"
-        }
-        FocusRing {
-            visible: picker.visualFocus
-        }
+        outline: Theme.line
+        isHovered: picker.hovered
+        isDown: picker.down
+        hasRing: picker.visualFocus
     }
     delegate: T.ItemDelegate {
         id: option

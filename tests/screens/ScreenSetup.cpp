@@ -30,8 +30,9 @@ void ScreenSetup::applicationAvailable()
     program_->show();
 }
 
-void ScreenSetup::qmlEngineAvailable(QQmlEngine *)
+void ScreenSetup::qmlEngineAvailable(QQmlEngine *engine)
 {
+    engine->addImportPath(QStringLiteral("qrc:/qt/qml")); // the controls, for the tests that make them alone
     makeSingleton(surroundings_.get());
     makeSingleton(program_.get());
     for (const std::unique_ptr<QObject> &tool : tools_)

@@ -1,0 +1,28 @@
+import QtQuick
+import Quillmere
+
+// What a button, a picker or a field stands on: its ground, the wash of the pointer and the ring of the keyboard.
+Rectangle {
+    id: face
+
+    property color outline: "transparent"
+    property bool isHovered: false
+    property bool isDown: false
+    property bool hasRing: false
+
+    radius: Theme.controlRadius
+    color: "transparent"
+    border.color: outline
+    border.width: outline.a > 0 ? 1 : 0
+
+    Rectangle {
+        anchors.fill: parent
+        visible: face.isHovered || face.isDown
+        radius: parent.radius
+        color: face.isDown ? Theme.pressed : Theme.hover
+    }
+    FocusRing {
+        visible: face.hasRing
+        radius: parent.radius
+    }
+}

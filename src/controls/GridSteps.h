@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+/// What the keys of a grid of cells mean. Pure.
+class GridSteps final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    /// The cell to which a key (Qt::Key) leads from `current` (-1 is none) in a grid of `count` cells, `columns` in a row: the
+    /// arrows, Page Up, Page Down, Home or End, with Shift or without. `rowsInView` is how many rows have room. -1 for any other
+    /// key and for an empty grid.
+    Q_INVOKABLE static int target(int key, int modifiers, int current, int count, int columns,
+                                  double rowsInView);
+};

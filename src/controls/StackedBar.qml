@@ -1,0 +1,66 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Quillmere
+
+// A bar of parts beside each other. Each part is told as: share (of the whole bar, from 0 to 1), fill (colour), label (for
+// assistive technology), tip, and isLink, where a press on it asks for something. What they leave is free space.
+Item {
+    id: bar
+
+    required property var parts
+    required property string label // of all together, for assistive technology
+    property int least: 4          // pixels of a part above nothing
+
+    signal chosen(int index)
+
+    readonly property var widths: BarWidths.of(Array.from(parts, part => part.share), width, least)
+
+    implicitHeight: 14
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.tileRadius
+        color: Theme.free
+    }
+    FocusRow {
+        id: row
+        anchors.fill: parent
+        model: bar.parts
+        onMoved: index => stop = index
+        delegate: ButtonBase {
+            id: part
+
+            required property int index
+            required property var modelData
+
+            readonly property bool isLink: modelData.isLink ?? false
+
+            implicitWidth: bar.widths[index] ?? 0
+            height: bar.height
+            visible: width > 0
+            focusPolicy: !isLink ? Qt.NoFocus : index === row.stop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+            tip: modelData.tip ?? ""
+            corner: Theme.tileRadius
+            Accessible.role: isLink ? Accessible.Button : Accessible.StaticText
+            Accessible.name: modelData.label ?? ""
+            onClicked: if (isLink) bar.chosen(index)
+
+            background: Rectangle {
+                radius: part.index === 0 || part.index === row.count - 1 ? Theme.tileRadius : 0
+                color: part.modelData.fill
+                Rectangle {
+                    anchors.fill: parent
+                    visible: part.isLink && part.hovered
+                    color: part.down ? Theme.pressed : Theme.hover
+                }
+                FocusRing {
+                    visible: part.visualFocus
+                    anchors.margins: -2
+                }
+            }
+        }
+    }
+}
