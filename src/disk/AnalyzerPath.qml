@@ -9,8 +9,17 @@ Item {
 
     required property DiskAnalyzerView view
 
+    // Nothing is left to go back to, and whoever came here by key would stand on a command that is off.
+    signal topReached
+
     implicitHeight: Theme.controlHeight
     enabled: view.hasEntry
+
+    function leave(isByKey, command) {
+        command();
+        if (isByKey && !view.canGoBack)
+            topReached();
+    }
 
     IconButton {
         id: back
@@ -19,7 +28,7 @@ Item {
         label: path.view.texts.goBack
         tip: path.view.texts.goBack
         enabled: path.view.canGoBack
-        onClicked: path.view.goBack()
+        onClicked: path.leave(visualFocus, () => path.view.goBack())
     }
     ActionButton {
         id: home
@@ -29,7 +38,7 @@ Item {
         symbol: "house.fill"
         text: path.view.texts.home
         enabled: path.view.canGoBack
-        onClicked: path.view.goHome()
+        onClicked: path.leave(visualFocus, () => path.view.goHome())
     }
     ListView {
         objectName: "breadcrumbList"

@@ -35,6 +35,7 @@ FocusScope {
         anchors.top: banner.bottom
         anchors.topMargin: Theme.unit * 3
         view: screen.view
+        onTopReached: table.forceActiveFocus(Qt.TabFocusReason)
     }
     Item {
         id: body
@@ -53,6 +54,7 @@ FocusScope {
             view: screen.view
         }
         AnalyzerContentsCard {
+            id: table
             anchors.top: map.bottom
             anchors.topMargin: Theme.unit * 4
             anchors.bottom: parent.bottom

@@ -157,6 +157,12 @@ AnalyzerCase {
         tabTo("the back button", item => item === Program.named("backButton"));
         press(Qt.Key_Return);
         compare(breadcrumbs(), []);
+        verify(table().activeFocus); // the button is off now, and the keyboard goes on where there is something to do
+        drill("Documents", 2);
+        tabTo("the home button", item => item === Program.named("homeButton"));
+        press(Qt.Key_Return);
+        compare(breadcrumbs(), []);
+        verify(table().activeFocus);
     }
 
     function test_openInFinderShowsTheEntryOnView() {
