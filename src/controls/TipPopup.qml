@@ -8,6 +8,13 @@ Item {
 
     readonly property Tip tip: parent as Tip
 
+    Connections {
+        target: InputWatch
+        function onActed() {
+            holder.tip.isSpent = true;
+        }
+    }
+
     T.ToolTip {
         id: popup
 
@@ -21,7 +28,7 @@ Item {
         padding: Theme.unit * 2
         implicitWidth: Math.min(implicitContentWidth, 360) + leftPadding + rightPadding
         implicitHeight: implicitContentHeight + topPadding + bottomPadding
-        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+        closePolicy: T.Popup.NoAutoClose // and so it takes no Escape from what is below
 
         contentItem: BodyText {
             text: popup.text
