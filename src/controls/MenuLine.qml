@@ -1,3 +1,4 @@
+import QtQml.Models
 import QtQuick
 import QtQuick.Templates as T
 import Quillmere
@@ -14,6 +15,10 @@ T.MenuItem {
     leftPadding: Theme.unit * 2.5
     rightPadding: Theme.unit * 2.5
     hoverEnabled: true
+    activeFocusOnTab: enabled // and so the arrows pass over the others
+    // The Tab key moves the keyboard alone, and Return would then do what another line than the lit one says.
+    onActiveFocusChanged: if (activeFocus && menu) menu.currentIndex = ObjectModel.index
+    Accessible.ignored: isDivider
 
     contentItem: Item {
         BodyText {

@@ -12,6 +12,15 @@ Menu {
             return popup();
         const corner = item.mapToItem(parent, Theme.unit * 8, item.height);
         popup(corner.x, corner.y);
+        lightFirst();
+    }
+
+    // Whoever opens a menu by key goes on by key, so its first line that does something is the current one.
+    function lightFirst() {
+        let first = 0;
+        while (first < count && !itemAt(first).enabled)
+            ++first;
+        currentIndex = first < count ? first : -1;
     }
 
     padding: Theme.unit

@@ -1,17 +1,22 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Quillmere
 
-// One menu of the menu bar.
+// One menu of the menu bar. It is filled when it first opens, so that the window need not wait for some forty lines that
+// nobody has asked for.
 PopupMenu {
     id: menu
 
     required property MenuBarView commands
-    property var items: []
-
+    required property var items
     property bool wasOpened: false
 
+    signal stepped(int step) // to the menu before or after
+
+    // Not by a press on its title, which closes it by itself.
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     onAboutToShow: wasOpened = true
 
     Instantiator {
@@ -26,5 +31,20 @@ PopupMenu {
             enabled: modelData.isEnabled && (menu.commands.hasText || !modelData.isText)
             onTriggered: menu.commands.perform(modelData.command)
         }
+    }
+    // Shortcuts and not keys of a line, since no line has the keyboard after a click on the title.
+    Instantiator {
+        model: menu.wasOpened ? [{ sequence: "Left", step: -1 }, { sequence: "Right", step: 1 }] : []
+        Shortcut {
+            required property var modelData
+            sequence: modelData.sequence
+            enabled: menu.visible
+            onActivated: menu.stepped(modelData.step)
+        }
+    }
+    Shortcut {
+        sequence: "F10"
+        enabled: menu.visible
+        onActivated: menu.close()
     }
 }

@@ -32,11 +32,6 @@ ApplicationWindow {
     }
 
     menuBar: MainMenuBar {
-        id: menus
-        commands: window.commands
-    }
-    MenuBarCommands {
-        bar: menus
         commands: window.commands
     }
 
@@ -56,6 +51,7 @@ ApplicationWindow {
         main: window.main
     }
     ScreenHost {
+        focus: true
         anchors.left: sidebar.right
         anchors.right: parent.right
         anchors.top: titleBar.bottom

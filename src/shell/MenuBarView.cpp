@@ -136,7 +136,11 @@ QVariantList MenuBarView::menus() const
         QVariantList items;
         for (; i < commands_.size() && commands_[i].menu == title; ++i)
             items.append(item(i));
-        menus.append(QVariantMap{{QStringLiteral("title"), title}, {QStringLiteral("items"), items}});
+        const QString letter = title.left(1); // no two titles begin with the same
+        menus.append(QVariantMap{{QStringLiteral("title"), title},
+                                 {QStringLiteral("letter"), letter},
+                                 {QStringLiteral("sequence"), QStringLiteral("Alt+") + letter},
+                                 {QStringLiteral("items"), items}});
     }
     return menus;
 }

@@ -13,6 +13,7 @@
 class MenuBarView final : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(QString menuBarName READ menuBarName CONSTANT)
     Q_PROPERTY(QVariantList menus READ menus CONSTANT)
     Q_PROPERTY(bool hasText READ hasText NOTIFY hasTextChanged)
     Q_PROPERTY(QVariantList keys READ keys CONSTANT)
@@ -35,8 +36,11 @@ public:
 
     const std::vector<Command> &commands() const { return commands_; }
 
-    /// For the look: a list of menus, each {title, items}, an item {title, keysText, isEnabled, isDivider, isText,
-    /// command}. Those with `isText` are enabled only while `hasText` is set.
+    /// The bar's name for assistive technology.
+    QString menuBarName() const { return QStringLiteral("Menu bar"); }
+
+    /// For the look: a list of menus, each {title, letter, sequence, items}, an item {title, keysText, isEnabled, isDivider,
+    /// isText, command}. The sequence, Alt with the letter, opens the menu. Items with `isText` are enabled only while `hasText` is set.
     QVariantList menus() const;
 
     /// Every key that may be in force, as `shortcuts` has them. Unlike that list it never changes.

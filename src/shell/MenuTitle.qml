@@ -1,19 +1,75 @@
 import QtQuick
-import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import Quillmere
 
-// The title of a menu in the menu bar.
-MenuBarItem {
+// The title of a menu in the menu bar, and the menu below it. It is lit while its menu is open or the pointer is over it.
+T.Button {
     id: title
-    implicitHeight: 28
-    padding: Theme.unit * 2
-    contentItem: BodyText {
-        text: title.text
+
+    required property MenuBarView commands
+    required property string letter // the first, which opens the menu with Alt
+    required property string sequence
+    required property var items
+    required property bool isBarInUse // one of the menus is open
+    readonly property bool isShown: menu.visible
+
+    signal asked(bool isByKey)
+    signal stepped(int step)
+
+    function showMenu(isByKey) {
+        menu.open();
+        if (isByKey)
+            menu.lightFirst();
     }
-    background: Rectangle {
-        anchors.fill: parent
-        anchors.margins: 3
-        radius: Theme.tileRadius
-        color: title.highlighted ? Theme.pressed : "transparent"
+    function hideMenu() {
+        menu.close();
+    }
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    leftPadding: Theme.unit * 3
+    rightPadding: Theme.unit * 3
+    hoverEnabled: true
+    focusPolicy: Qt.NoFocus
+    Accessible.role: Accessible.MenuItem
+    onClicked: isShown ? hideMenu() : asked(false)
+    onHoveredChanged: if (hovered && isBarInUse && !isShown) asked(false)
+
+    contentItem: BodyText {
+        id: words
+        text: title.text
+        verticalAlignment: Text.AlignVCenter
+
+        TextMetrics {
+            id: metrics
+            font: words.font
+            text: title.letter
+        }
+        Rectangle {
+            objectName: "letterLine"
+            y: words.baselineOffset + 1
+            width: metrics.advanceWidth
+            height: 1
+            visible: InputWatch.isAltDown
+            color: Theme.text
+        }
+    }
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 3
+            radius: Theme.tileRadius
+            color: title.isShown ? Theme.pressed : title.hovered ? Theme.hover : "transparent"
+        }
+    }
+    Shortcut {
+        sequence: title.sequence
+        onActivated: title.asked(true)
+    }
+    CommandMenu {
+        id: menu
+        y: title.height
+        commands: title.commands
+        items: title.items
+        onStepped: step => title.stepped(step)
     }
 }

@@ -209,6 +209,14 @@ bool ProgramUnderTest::drag(const QString &step, const QStringList &addresses, Q
     return event->isAccepted();
 }
 
+void ProgramUnderTest::repeatKey(int key, int modifiers) const
+{
+    // The way of the toolkit's own tests, which do not hand through that a key is held.
+    const Qt::KeyboardModifiers held(modifiers);
+    if (!qt_sendShortcutOverrideEvent(window(), 0, key, held, {}, true, 1))
+        qt_handleKeyEvent(window(), QEvent::KeyPress, key, held, {}, true, 1);
+}
+
 void ProgramUnderTest::setActive(bool isActive)
 {
     emit qGuiApp->applicationStateChanged(isActive ? Qt::ApplicationActive : Qt::ApplicationInactive);

@@ -83,6 +83,9 @@ public:
 
     // What comes from outside.
 
+    /// A key that is held: what the system tells again and again until it is let go.
+    Q_INVOKABLE void repeatKey(int key, int modifiers) const;
+
     /// Brings things dragged over the window to the middle of the item: a step is "enter", "leave" or "drop". Gives
     /// whether they were welcome.
     Q_INVOKABLE bool drag(const QString &step, const QStringList &addresses, QQuickItem *over);

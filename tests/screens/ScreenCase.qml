@@ -109,6 +109,13 @@ TestCase {
         return Program.window.activeFocusItem;
     }
 
+    // Whether the item is the one or in it.
+    function isWithin(item, outer) {
+        while (item && item !== outer)
+            item = item.parent;
+        return item === outer;
+    }
+
     // Goes on with the Tab key until what has the keyboard fulfils the condition.
     function tabTo(what, condition) {
         for (let i = 0; i < 60; ++i) {

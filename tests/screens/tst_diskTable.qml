@@ -115,7 +115,6 @@ AnalyzerCase {
         verify(below.x >= 0 && below.x < table().width && below.y > 0 && below.y < 3 * table().currentItem.height,
                `the menu stands at its row, not at ${below}`);
         press(Qt.Key_Down);
-        press(Qt.Key_Down);
         press(Qt.Key_Return);
         tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
         compare(Surroundings.calls(), `reveal ${home}/Movies`);

@@ -69,7 +69,6 @@ ScreenCase {
         press(Qt.Key_Right);
         tryVerify(() => Program.menuLines().startsWith("Dashboard"), patience, "the View menu opens");
         press(Qt.Key_Down);
-        press(Qt.Key_Down);
         press(Qt.Key_Return);
         tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
         compare(Program.selectedScreen(), "File Browser");

@@ -185,6 +185,20 @@ TEST_F(MenuBarViewTest, givesTheLookItsMenusInOrder)
     EXPECT_EQ(lines, static_cast<int>(menuBar.commands().size()));
 }
 
+TEST_F(MenuBarViewTest, givesEachMenuALetterOfItsOwn)
+{
+    QStringList sequences;
+    for (const QVariant &entry : menuBar.menus()) {
+        const QVariantMap menu = entry.toMap();
+        const QString letter = menu.value(QStringLiteral("letter")).toString();
+        EXPECT_TRUE(menu.value(QStringLiteral("title")).toString().startsWith(letter));
+        EXPECT_EQ(menu.value(QStringLiteral("sequence")).toString(), QStringLiteral("Alt+") + letter);
+        EXPECT_FALSE(sequences.contains(letter)) << letter.toStdString();
+        sequences << letter;
+    }
+    EXPECT_EQ(sequences.size(), 6);
+}
+
 TEST_F(MenuBarViewTest, givesTheLookALineWithItsKeyInTheSystemsWords)
 {
     const QVariantMap help = menuBar.menus().last().toMap();
