@@ -3,6 +3,7 @@ import Quillmere
 
 // The outline of a control that has the keyboard.
 Rectangle {
+    objectName: "focusRing"
     anchors.fill: parent
     color: "transparent"
     border.color: Theme.accent

@@ -4,6 +4,8 @@
 #include "common/NotificationNames.h"
 #include "common/SettingsKeys.h"
 
+#include <algorithm>
+
 namespace {
 constexpr double tourDelay = 0.3; // seconds
 }
@@ -37,10 +39,11 @@ void ContentView::observeNotifications()
 
 void ContentView::setSelectedItem(SidebarItem item)
 {
-    if (selectedItem_ == item)
-        return;
-    selectedItem_ = item;
-    emit selectedItemChanged();
+    if (selectedItem_ != item) {
+        selectedItem_ = item;
+        emit selectedItemChanged();
+    }
+    emit screenOpened();
 }
 
 bool ContentView::onboardingCompleted() const
@@ -76,14 +79,23 @@ void ContentView::dismissSheets()
 
 void ContentView::setSheet(Sheet sheet, bool isUp)
 {
-    const bool wasUp = sheets_.contains(sheet);
-    if (wasUp == isUp)
+    if (this->isUp(sheet) == isUp)
         return;
     if (isUp)
-        sheets_.insert(sheet);
+        sheets_.push_back(sheet);
     else
-        sheets_.erase(sheet);
+        std::erase(sheets_, sheet);
     emit sheetsChanged();
+}
+
+bool ContentView::isUp(Sheet sheet) const
+{
+    return std::find(sheets_.begin(), sheets_.end(), sheet) != sheets_.end();
+}
+
+std::optional<Sheet> ContentView::sheetOnView() const
+{
+    return sheets_.empty() ? std::nullopt : std::optional(sheets_.front());
 }
 
 void ContentView::openMail(feedback::Kind kind)

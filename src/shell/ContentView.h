@@ -7,7 +7,8 @@
 
 #include <QObject>
 
-#include <set>
+#include <optional>
+#include <vector>
 
 /// The state of the main window: which screen is selected and which sheet is up. Menus and screens reach it through
 /// notifications. Main thread.
@@ -30,6 +31,10 @@ public:
     bool showHistory() const { return isUp(Sheet::history); }
     bool showOnboarding() const { return isUp(Sheet::onboarding); }
     void setSheet(Sheet sheet, bool isUp);
+
+    /// The one sheet that is seen. Another that is asked for meanwhile waits until this one has gone.
+    std::optional<Sheet> sheetOnView() const;
+
     bool onboardingCompleted() const;
 
     /// The window is there for the first time: the welcome tour follows unless it was seen to its end.
@@ -42,16 +47,17 @@ public:
 
 signals:
     void selectedItemChanged();
+    void screenOpened(); ///< also when it is the one on view already
     void sheetsChanged();
 
 private:
     void observeNotifications();
     void showTour();
-    bool isUp(Sheet sheet) const { return sheets_.contains(sheet); }
+    bool isUp(Sheet sheet) const;
     void openMail(feedback::Kind kind);
 
     const Platform &platform_;
     const feedback::Program program_;
     SidebarItem selectedItem_ = SidebarItem::dashboard;
-    std::set<Sheet> sheets_; // those that are up
+    std::vector<Sheet> sheets_; // those that are up, in the order in which they were asked for
 };

@@ -11,6 +11,8 @@ Rectangle {
     radius: Theme.cardRadius
     color: Theme.raised
     border.color: Theme.line
+    Accessible.role: Accessible.Grouping
+    Accessible.name: sidebar.diskName
 
     Column {
         id: column

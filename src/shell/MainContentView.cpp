@@ -32,6 +32,7 @@ MainContentView::MainContentView(const Platform &platform, ContentView &content,
     , screen_(selected().make())
 {
     connect(&content_, &ContentView::selectedItemChanged, this, &MainContentView::showSelected);
+    connect(&content_, &ContentView::screenOpened, this, &MainContentView::screenOpened);
 }
 
 MainContentView::~MainContentView() = default;

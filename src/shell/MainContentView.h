@@ -16,6 +16,8 @@ class MainContentView final : public QObject
     Q_OBJECT
     Q_PROPERTY(QObject *screen READ screen NOTIFY screenChanged)
     Q_PROPERTY(QString screenSource READ screenSource NOTIFY screenChanged)
+    Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY screenChanged)
+    Q_PROPERTY(QString titleBarName READ titleBarName CONSTANT)
     Q_PROPERTY(QString searchPlaceholder READ searchPlaceholder CONSTANT)
     Q_PROPERTY(QString searchHint READ searchHint CONSTANT)
     Q_PROPERTY(QString searchTip READ searchTip CONSTANT)
@@ -38,6 +40,8 @@ public:
 
     QObject *screen() const { return screen_.get(); }
     QString screenSource() const;
+    QString screenTitle() const { return sidebar::title(content_.selectedItem()); }
+    QString titleBarName() const { return QStringLiteral("Title bar"); } ///< for assistive technology
     QString searchPlaceholder() const { return QStringLiteral("Search files..."); }
     QString searchHint() const; ///< the pill's key
     QString searchTip() const;
@@ -55,6 +59,7 @@ public:
 
 signals:
     void screenChanged();
+    void screenOpened(); ///< by whatever way, also when it is the one on view already
 
 private:
     void showSelected();

@@ -13,10 +13,11 @@ SheetsView::~SheetsView() = default;
 
 void SheetsView::follow()
 {
-    if (content_.showHistory() == (history_ != nullptr))
+    const bool isOnView = content_.sheetOnView() == Sheet::history;
+    if (isOnView == (history_ != nullptr))
         return;
     std::unique_ptr<HistoryView> old =
-        std::exchange(history_, content_.showHistory() ? makeHistory_() : std::unique_ptr<HistoryView>());
+        std::exchange(history_, isOnView ? makeHistory_() : std::unique_ptr<HistoryView>());
     emit historyChanged();
     // The sheet's QML goes in a later turn of the loop and still looks at its model until then.
     if (old)

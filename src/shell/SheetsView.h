@@ -8,7 +8,7 @@
 #include <functional>
 #include <memory>
 
-/// Makes the models of the sheets that are up, each anew when its sheet opens. Main thread.
+/// Makes the model of the sheet on view, anew when the sheet opens. There is one at a time. Main thread.
 class SheetsView final : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     SheetsView(const ContentView &content, MakeHistory makeHistory);
     ~SheetsView() override;
 
-    /// Null while the sheet is down.
+    /// Null while the sheet is down or waits for another.
     HistoryView *history() const { return history_.get(); }
 
 signals:

@@ -10,6 +10,8 @@ Rectangle {
 
     width: 220
     color: Theme.sidebar
+    Accessible.role: Accessible.Pane
+    Accessible.name: sidebar.name
 
     AnvilMark {
         id: mark

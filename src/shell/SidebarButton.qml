@@ -11,15 +11,20 @@ T.ItemDelegate {
     required property string symbol
     required property string badge
     required property bool isSelected
+    required property bool isCurrent // has the keyboard
 
     implicitHeight: Theme.rowHeight
     leftPadding: Theme.unit * 2.5
     rightPadding: Theme.unit * 2
     hoverEnabled: true
-    focusPolicy: Qt.TabFocus
+    focusPolicy: Qt.NoFocus // the list's to give
     text: itemTitle
     highlighted: isSelected
+    Accessible.role: Accessible.ListItem
+    Accessible.selectable: true
+    Accessible.selected: isSelected
     Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Item {
         Symbol {
@@ -49,7 +54,7 @@ T.ItemDelegate {
         color: button.isSelected ? Theme.selected : button.down ? Theme.pressed
              : button.hovered ? Theme.hover : "transparent"
         FocusRing {
-            visible: button.visualFocus
+            visible: button.isCurrent
         }
     }
 }

@@ -154,7 +154,15 @@ void SidebarView::openSheet(int button)
         content_.setSheet(sheet, true);
 }
 
+int SidebarView::selectedRow() const
+{
+    const std::vector<SidebarItem> &items = rows_.records();
+    const auto selected = std::find(items.begin(), items.end(), content_.selectedItem());
+    return static_cast<int>(selected - items.begin());
+}
+
 void SidebarView::markSelected()
 {
     emit rows_.dataChanged(rows_.index(0), rows_.index(rows_.rowCount() - 1));
+    emit selectedRowChanged();
 }

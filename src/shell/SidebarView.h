@@ -13,7 +13,11 @@ class SidebarView final : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QAbstractItemModel *items READ items CONSTANT)
+    Q_PROPERTY(int selectedRow READ selectedRow NOTIFY selectedRowChanged)
     Q_PROPERTY(QAbstractItemModel *footer READ footer CONSTANT)
+    Q_PROPERTY(QString name READ name CONSTANT)
+    Q_PROPERTY(QString listName READ listName CONSTANT)
+    Q_PROPERTY(QString diskName READ diskName CONSTANT)
     Q_PROPERTY(QString refreshTip READ refreshTip CONSTANT)
     Q_PROPERTY(QString volumeName READ volumeName NOTIFY diskUsageChanged)
     Q_PROPERTY(QString usedText READ usedText NOTIFY diskUsageChanged)
@@ -28,6 +32,12 @@ public:
 
     /// Rows: sectionTitle, itemTitle, symbol, badge (empty for none), isSelected.
     QAbstractItemModel *items() { return &rows_; }
+    int selectedRow() const;
+
+    // Names for assistive technology: of the whole, and of its parts.
+    QString name() const { return QStringLiteral("Sidebar"); }
+    QString listName() const { return QStringLiteral("Screens"); }
+    QString diskName() const { return QStringLiteral("Disk usage"); }
 
     /// Rows: symbol, label, tip, isAvailable.
     QAbstractItemModel *footer() { return &footerRows_; }
@@ -50,6 +60,7 @@ public:
     Q_INVOKABLE void openSheet(int button); ///< what a button of the footer does
 
 signals:
+    void selectedRowChanged();
     void diskUsageChanged();
     void isRefreshingDiskChanged();
 

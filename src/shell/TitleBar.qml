@@ -9,6 +9,8 @@ Item {
     required property MainContentView main
 
     implicitHeight: 48
+    Accessible.role: Accessible.ToolBar
+    Accessible.name: main.titleBarName
 
     Shortcut {
         sequence: bar.main.searchSequence
@@ -28,7 +30,9 @@ Item {
         focusPolicy: Qt.StrongFocus
         text: bar.main.searchPlaceholder
         onClicked: bar.main.openSearch()
+        Accessible.description: bar.main.searchTip
         Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
 
         contentItem: Item {
             Symbol {

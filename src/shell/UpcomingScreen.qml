@@ -24,6 +24,8 @@ Item {
             text: screen.view.title
             font.pixelSize: Theme.titleSize
             font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
         }
         BodyText {
             width: parent.width

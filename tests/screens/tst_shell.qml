@@ -76,18 +76,6 @@ ScreenCase {
         return Program.itemWith("itemTitle", sidebar(), title);
     }
 
-    function test_keyboardSelects_data() {
-        return screens();
-    }
-
-    function test_keyboardSelects(row) {
-        open(row.tag === "Search" ? "Dashboard" : "Search");
-        tabTo(row.tag, item => item.itemTitle === row.tag);
-        verify(focusItem().visualFocus);
-        press(Qt.Key_Return);
-        compare(Program.selectedScreen(), row.tag);
-    }
-
     function test_keysSelect_data() {
         return [
             { tag: "Dashboard", key: Qt.Key_1 },

@@ -45,6 +45,15 @@ TEST_F(ContentViewTest, navigatesToTheScreenOfAKey)
     EXPECT_EQ(changes.count(), 1);
 }
 
+TEST_F(ContentViewTest, tellsThatAScreenWasOpenedAlsoWhenItIsOnView)
+{
+    const QSignalSpy openings(&content, &ContentView::screenOpened);
+    post(notifications::navigate, QStringLiteral("bulkRename"));
+    EXPECT_EQ(openings.count(), 1);
+    post(notifications::navigate, QStringLiteral("bulkRename"));
+    EXPECT_EQ(openings.count(), 2);
+}
+
 TEST_F(ContentViewTest, showsTheDashboardForAnUnknownKey)
 {
     content.setSelectedItem(SidebarItem::search);
@@ -94,6 +103,22 @@ TEST_F(ContentViewTest, tellsOnceWhenASheetComesAndGoes)
     content.setSheet(Sheet::history, false);
     EXPECT_EQ(changes.count(), 2);
     EXPECT_FALSE(content.showHistory());
+}
+
+TEST_F(ContentViewTest, showsOneSheetAtATimeInTheOrderOfTheRequests)
+{
+    EXPECT_EQ(content.sheetOnView(), std::nullopt);
+    content.setSheet(Sheet::onboarding, true);
+    content.setSheet(Sheet::history, true);
+    content.setSheet(Sheet::settings, true);
+    content.setSheet(Sheet::onboarding, true);
+    EXPECT_EQ(content.sheetOnView(), Sheet::onboarding);
+    content.setSheet(Sheet::onboarding, false);
+    EXPECT_EQ(content.sheetOnView(), Sheet::history);
+    content.setSheet(Sheet::settings, false);
+    EXPECT_EQ(content.sheetOnView(), Sheet::history);
+    content.closeHistory();
+    EXPECT_EQ(content.sheetOnView(), std::nullopt);
 }
 
 TEST_F(ContentViewTest, takesEverySheetDown)

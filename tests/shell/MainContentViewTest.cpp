@@ -70,6 +70,16 @@ TEST_F(MainContentViewTest, beginsWithTheDashboard)
     EXPECT_EQ(main.screenSource(), QStringLiteral("dashboard.qml"));
 }
 
+TEST_F(MainContentViewTest, tellsOfAnOpenedScreenOnceItIsTheOneOnView)
+{
+    QStringList titles;
+    QObject::connect(&main, &MainContentView::screenOpened, &main,
+                     [&] { titles << main.screenTitle() + u'/' + main.screen()->objectName(); });
+    content.setSelectedItem(SidebarItem::fileBrowser);
+    content.setSelectedItem(SidebarItem::fileBrowser);
+    EXPECT_EQ(titles.join(u' '), QStringLiteral("File Browser/fileBrowser File Browser/fileBrowser"));
+}
+
 TEST_F(MainContentViewTest, showsTheScreenOfEachItem)
 {
     for (const SidebarSection section : sidebar::sections) {

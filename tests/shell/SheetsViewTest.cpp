@@ -49,6 +49,16 @@ TEST_F(SheetsViewTest, leavesTheModelAloneWhenAnotherSheetComesAndGoes)
     EXPECT_EQ(changes.count(), 0);
 }
 
+TEST_F(SheetsViewTest, makesTheModelOfASheetThatWaitedOnceTheOtherHasGone)
+{
+    content.setSheet(Sheet::settings, true);
+    content.setSheet(Sheet::history, true);
+    EXPECT_EQ(sheets.history(), nullptr);
+    content.setSheet(Sheet::settings, false);
+    EXPECT_NE(sheets.history(), nullptr);
+    EXPECT_EQ(made, 1);
+}
+
 TEST_F(SheetsViewTest, keepsAClosedModelUntilTheNextTurnOfTheLoop)
 {
     content.setSheet(Sheet::history, true);

@@ -77,6 +77,16 @@ TEST_F(SidebarViewTest, marksTheSelectedRow)
     EXPECT_EQ(changes.count(), 1);
 }
 
+TEST_F(SidebarViewTest, knowsTheSelectedRow)
+{
+    make();
+    EXPECT_EQ(view->selectedRow(), 0);
+    const QSignalSpy changes(view.get(), &SidebarView::selectedRowChanged);
+    content.setSelectedItem(SidebarItem::appManager);
+    EXPECT_EQ(view->selectedRow(), 8);
+    EXPECT_EQ(changes.count(), 1);
+}
+
 TEST_F(SidebarViewTest, selectsTheScreenOfAClickedRow)
 {
     make();
