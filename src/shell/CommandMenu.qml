@@ -12,6 +12,7 @@ PopupMenu {
     required property MenuBarView commands
     required property var items
     property bool wasOpened: false
+    readonly property var keys: [{ sequence: "Left", step: -1 }, { sequence: "Right", step: 1 }, { sequence: "F10", step: 0 }]
 
     signal stepped(int step) // to the menu before or after
 
@@ -34,17 +35,12 @@ PopupMenu {
     }
     // Shortcuts and not keys of a line, since no line has the keyboard after a click on the title.
     Instantiator {
-        model: menu.wasOpened ? [{ sequence: "Left", step: -1 }, { sequence: "Right", step: 1 }] : []
+        model: menu.wasOpened ? menu.keys : []
         Shortcut {
             required property var modelData
             sequence: modelData.sequence
             enabled: menu.visible
-            onActivated: menu.stepped(modelData.step)
+            onActivated: modelData.step === 0 ? menu.close() : menu.stepped(modelData.step)
         }
-    }
-    Shortcut {
-        sequence: "F10"
-        enabled: menu.visible
-        onActivated: menu.close()
     }
 }

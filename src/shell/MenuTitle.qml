@@ -1,3 +1,5 @@
+// A Loader of Qt 6.4 makes no bound component, and qmllint knows the ids of an unbound one only as unqualified.
+// qmllint disable unqualified
 import QtQuick
 import QtQuick.Templates as T
 import Quillmere
@@ -39,18 +41,20 @@ T.Button {
         text: title.text
         verticalAlignment: Text.AlignVCenter
 
-        TextMetrics {
-            id: metrics
-            font: words.font
-            text: title.letter
-        }
-        Rectangle {
-            objectName: "letterLine"
+        Loader {
             y: words.baselineOffset + 1
-            width: metrics.advanceWidth
-            height: 1
-            visible: InputWatch.isAltDown
-            color: Theme.text
+            active: InputWatch.isAltDown
+            sourceComponent: Rectangle {
+                objectName: "letterLine"
+                width: metrics.advanceWidth
+                height: 1
+                color: Theme.text
+                TextMetrics {
+                    id: metrics
+                    font: words.font
+                    text: title.letter
+                }
+            }
         }
     }
     background: Item {

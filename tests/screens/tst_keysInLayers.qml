@@ -12,7 +12,7 @@ DuplicatesCase {
         [Qt.Key_1, Qt.ControlModifier], [Qt.Key_2, Qt.ControlModifier], [Qt.Key_3, Qt.ControlModifier],
         [Qt.Key_4, Qt.ControlModifier], [Qt.Key_K, Qt.ControlModifier], [Qt.Key_R, Qt.ControlModifier],
         [Qt.Key_N, Qt.ControlModifier], [Qt.Key_Comma, Qt.ControlModifier], [Qt.Key_Slash, Qt.ControlModifier],
-        [Qt.Key_Y, Qt.ControlModifier | Qt.ShiftModifier],
+        [Qt.Key_Y, Qt.ControlModifier | Qt.ShiftModifier], [Qt.Key_Menu, Qt.NoModifier], [Qt.Key_F10, Qt.ShiftModifier],
     ]
 
     function cleanup() {
@@ -146,6 +146,17 @@ DuplicatesCase {
         verify(isWithin(focusItem(), data.focus()), `the keyboard is back, and not at\n${Program.focusPath()}`);
         compare(Program.isSheetUp(), data.tag === "question over a sheet");
         compare(Surroundings.recycled(), "");
+    }
+
+    function test_leftAndRightDoNothingInTheMenuOfARow() {
+        focusList();
+        openFileMenu("b/film.mov");
+        const before = view();
+        press(Qt.Key_Left);
+        press(Qt.Key_Right);
+        compare(view(), before);
+        press(Qt.Key_Escape);
+        verify(list().activeFocus);
     }
 
     function test_tabKeyStaysInside_data() {

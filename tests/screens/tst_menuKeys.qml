@@ -133,6 +133,22 @@ ScreenCase {
         verifyNoneOpen();
     }
 
+    function test_litLineIsChosenBy_data() {
+        return [
+            { tag: "Return", key: Qt.Key_Return },
+            { tag: "Space", key: Qt.Key_Space },
+            { tag: "the keypad's Enter", key: Qt.Key_Enter, modifiers: Qt.KeypadModifier },
+        ];
+    }
+
+    function test_litLineIsChosenBy(data) {
+        press(Qt.Key_V, Qt.AltModifier);
+        press(Qt.Key_Down);
+        press(data.key, data.modifiers);
+        compare(Program.menuLines(), "");
+        compare(Program.selectedScreen(), "File Browser");
+    }
+
     function test_menuWithNothingToDoDoesNothing() {
         press(Qt.Key_F, Qt.AltModifier);
         press(Qt.Key_Down);
