@@ -35,6 +35,12 @@ Descriptor::Descriptor(Descriptor &&other) noexcept
 {
 }
 
+Descriptor &Descriptor::operator=(Descriptor &&other) noexcept
+{
+    std::swap(number_, other.number_); // the other one closes it
+    return *this;
+}
+
 Descriptor::~Descriptor()
 {
     if (number_ != -1)

@@ -26,6 +26,7 @@ public:
     /// Takes what `open` gave; throws Error where that is -1.
     explicit Descriptor(int number);
     Descriptor(Descriptor &&other) noexcept;
+    Descriptor &operator=(Descriptor &&other) noexcept;
     ~Descriptor();
     Descriptor(const Descriptor &) = delete;
     Descriptor &operator=(const Descriptor &) = delete;

@@ -168,6 +168,7 @@ enum class Operation {
     sync,
     rename,
     move, ///< of `move`, with the path that it leaves; EINVAL is a file system without an exclusive rename
+    remove, ///< of `removeTree`, of each entry
 };
 
 /// Asked before each of these calls with the path at hand; an error number other than 0 makes the call fail
