@@ -6,6 +6,7 @@
 struct ChildPrograms
 {
     QString du = QStringLiteral("/usr/bin/du");
+    QString find = QStringLiteral("/usr/bin/find");
     QString sh = QStringLiteral("/bin/sh");
     QString pkexec =
         QStringLiteral("/usr/bin/pkexec");  ///< asks for an administrator and runs as one; Linux only

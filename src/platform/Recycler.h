@@ -48,4 +48,10 @@ public:
     /// with a dialog of its own. Blocks for as long as that stands; never on the main thread. None: success
     /// was reported.
     virtual std::optional<AdminFailure> moveToTrashAsAdministrator(const QString &path) = 0;
+
+    /// Removes for good what lies in the Trash, links themselves and never what they lead to. `trash` is the folder of
+    /// the trashed items (one of Locations::trash). With an item directly in it goes what the Trash keeps of it; what
+    /// lies inside one goes alone. Anything else is refused. Goes on after what can't be removed, and then throws Error
+    /// with the first failure. Blocks.
+    virtual void removeForGood(const QStringList &items, const QString &trash) = 0;
 };

@@ -73,6 +73,10 @@ class FakeRecycler final : public Recycler
 public:
     QStringList recycled; ///< what it was asked to move
     QStringList moved;    ///< what an administrator was asked to move
+    QStringList removed;  ///< what it was asked to remove for good
+    /// What a removal does; nothing unless a test says more.
+    std::function<void(const QStringList &, const QString &trash)> remover = [](const QStringList &,
+                                                                                const QString &) {};
     /// What a recycle does and answers; moves nothing and lists nothing unless a test says more.
     std::function<void(const QStringList &, Completion)> answers = [](const QStringList &,
                                                                       const Completion &done) { done({}); };
@@ -90,6 +94,11 @@ public:
     {
         moved << path;
         return administrator(path);
+    }
+    void removeForGood(const QStringList &items, const QString &trash) override
+    {
+        removed << items;
+        remover(items, trash);
     }
 };
 

@@ -34,6 +34,7 @@ public:
     {
         return AdminFailure{false};
     }
+    void removeForGood(const QStringList &, const QString &) override {}
 };
 
 /// A log that keeps nothing.

@@ -6,6 +6,7 @@
 #include "base/Threads.h"
 #include "platform/linux/GioTrash.h"
 #include "platform/linux/TrashFolder.h"
+#include "platform/linux/TrashRemoval.h"
 
 #include <cerrno>
 
@@ -281,4 +282,9 @@ std::optional<AdminFailure> LinuxRecycler::moveToTrashAsAdministrator(const QStr
     } catch (const Error &error) {
         return failureWithMessage(withName(error, path).description);
     }
+}
+
+void LinuxRecycler::removeForGood(const QStringList &items, const QString &trash)
+{
+    trashremoval::remove(items, trash);
 }

@@ -21,6 +21,7 @@ public:
 
     void recycle(const QStringList &paths, Completion completion) override;
     std::optional<AdminFailure> moveToTrashAsAdministrator(const QString &path) override;
+    void removeForGood(const QStringList &items, const QString &trash) override;
 
 private:
     const QString pkexec_;

@@ -1,11 +1,15 @@
 #include "platform/linux/TrashFolder.h"
 
+#include "base/AtomicWrite.h"
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "platform/linux/TrashInfo.h"
 
+#include <QByteArrayList>
+
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <iterator>
@@ -21,7 +25,8 @@ constexpr qsizetype longestName = 255; // bytes; file systems that take less rep
 const QString itemsFolder = QStringLiteral("files");
 const QString notesFolder = QStringLiteral("info");
 const QString noteSuffix = QStringLiteral(".trashinfo");
-constexpr qsizetype temporaryEnd = 7; // bytes that the library puts behind a note's name while it writes it
+constexpr qint64 mostSizes = 64 << 20; // bytes of the desktop's file of sizes; a larger one is left alone
+constexpr qsizetype temporaryEnd = 7;  // bytes that the library puts behind a note's name while it writes it
 
 bool isThere(const QString &path)
 {
@@ -146,6 +151,17 @@ std::optional<TrashFolder> TrashFolder::ofVolume(const QString &item, quint64 de
     return std::nullopt;
 }
 
+std::optional<TrashFolder> TrashFolder::ofItems(const QString &folder)
+{
+    if (paths::lastComponent(folder) != itemsFolder)
+        return std::nullopt;
+    const TrashFolder trash(paths::parent(folder), {});
+    const auto notes = files::attributes(paths::join(trash.path_, notesFolder));
+    if (notes && notes->kind == files::Kind::link)
+        return std::nullopt;
+    return trash;
+}
+
 bool TrashFolder::isLink() const
 {
     const QString parts[] = {path_, paths::join(path_, itemsFolder), paths::join(path_, notesFolder)};
@@ -210,6 +226,56 @@ void TrashFolder::mend(const Entry &entry, const QString &item) const
 void TrashFolder::release(const Entry &entry)
 {
     unlink(paths::toBytes(entry.info).constData());
+}
+
+void TrashFolder::forget(const QStringList &names) const
+{
+    for (const QString &name : names) {
+        const Entry place = entry(name);
+        if (!isThere(place.file))
+            release(place);
+    }
+    forgetSizes();
+    const auto left = files::list(paths::join(path_, itemsFolder));
+    if (left && left->empty())
+        forgetAll();
+}
+
+/// Of the folders that are gone. The file is the desktop's, a line for each folder: its size, its note's date and its name,
+/// percent-encoded.
+void TrashFolder::forgetSizes() const
+{
+    const QString file = paths::join(path_, QStringLiteral("directorysizes"));
+    const auto attributes = files::attributes(file);
+    if (!attributes || attributes->kind != files::Kind::file)
+        return;
+    try {
+        const QByteArray content = files::readAll(file, mostSizes);
+        QByteArray kept;
+        for (const QByteArray &line : content.split('\n')) {
+            const QByteArray name = QByteArray::fromPercentEncoding(line.mid(line.lastIndexOf(' ') + 1));
+            if (!name.isEmpty() && isThere(entry(paths::fromBytes(name)).file))
+                kept += line + '\n';
+        }
+        if (kept.isEmpty())
+            unlink(paths::toBytes(file).constData());
+        else if (kept != content)
+            files::writeAtomically(file, kept);
+    } catch (const Error &) {
+        // Lines of folders that are gone are nothing but that: the desktop passes them over.
+    }
+}
+
+void TrashFolder::forgetAll() const
+{
+    const QString folder = paths::join(path_, notesFolder);
+    const Date newest = dates::fromUnix(std::time(nullptr), 0) - std::chrono::hours(1);
+    for (const QString &name : files::list(folder).value_or(std::vector<QString>())) {
+        const auto note = files::attributes(paths::join(folder, name));
+        if (name.endsWith(noteSuffix) && note && note->modified < newest
+            && !isThere(entry(name.chopped(noteSuffix.size())).file))
+            unlink(paths::toBytes(paths::join(folder, name)).constData());
+    }
 }
 
 TrashFolder::Entry TrashFolder::entry(const QString &name) const
