@@ -242,7 +242,9 @@ def waste(group):
     return group["size"] * (len(group["paths"]) - 1)
 
 
-class DriverTest(unittest.TestCase):
+class DriverCase(unittest.TestCase):
+    """A folder of the test's own and the driver to be run over it."""
+
     maxDiff = 4000
 
     def setUp(self):
@@ -272,6 +274,8 @@ class DriverTest(unittest.TestCase):
         self.assertEqual((code, output), (2, b""), arguments)
         self.assertTrue(errors.startswith(b"quillmere-driver: "), errors)
 
+
+class DriverTest(DriverCase):
     # list
 
     def expected_items(self, folder, hidden):
@@ -677,10 +681,10 @@ class DriverTest(unittest.TestCase):
             self.refused("treemap", width, "10", stdin=b"[]")
 
 
-def main():
+def main(usage=__doc__):
     global DRIVER, SEED # pylint: disable=global-statement
     if len(sys.argv) not in (2, 3):
-        sys.exit(__doc__)
+        sys.exit(usage)
     DRIVER = os.path.abspath(sys.argv[1])
     SEED = int(sys.argv[2]) if len(sys.argv) == 3 else random.SystemRandom().randrange(2**32)
     print("seed:", SEED, flush=True)

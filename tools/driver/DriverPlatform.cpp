@@ -67,9 +67,17 @@ DriverPlatform::DriverPlatform(const Arguments &arguments, const QString &home)
 {
 }
 
-DriverPlatform::DriverPlatform(std::function<Locations()> locations, const QString &home)
+DriverPlatform::DriverPlatform(const Arguments &arguments, std::unique_ptr<Recycler> recycler)
+    : DriverPlatform(chosenPlaces(arguments, folderPath(arguments.operands().constFirst())),
+                     folderPath(arguments.operands().constFirst()), std::move(recycler))
+{
+}
+
+DriverPlatform::DriverPlatform(std::function<Locations()> locations, const QString &home,
+                               std::unique_ptr<Recycler> recycler)
     : home_(home)
     , locations_(std::move(locations))
+    , recycler_(std::move(recycler))
     , platform_{.home = home_,
                 .locations = locations_,
                 .defaults = defaults_,
@@ -80,7 +88,7 @@ DriverPlatform::DriverPlatform(std::function<Locations()> locations, const QStri
                 .workQueue = workQueue_,
                 .notifications = notifications_,
                 .workspace = workspace_,
-                .recycler = recycler_,
+                .recycler = *recycler_,
                 .systemLog = systemLog_,
                 .systemInfo = systemInfo_}
     , sizeProbes_(platform_)

@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 class Arguments;
@@ -31,7 +32,10 @@ public:
     /// The same over any other home folder.
     DriverPlatform(const Arguments &arguments, const QString &home);
 
-    /// The options that the last two constructors read, for the verbs that take a home folder.
+    /// The same over the first operand with a Trash that works.
+    DriverPlatform(const Arguments &arguments, std::unique_ptr<Recycler> recycler);
+
+    /// The options that the last three constructors read, for the verbs that take a home folder.
     static std::vector<Option> homeOptions();
 
     const Platform &platform() const { return platform_; }
@@ -41,7 +45,8 @@ public:
     FDAService &access() { return access_; }
 
 private:
-    DriverPlatform(std::function<Locations()> locations, const QString &home);
+    DriverPlatform(std::function<Locations()> locations, const QString &home,
+                   std::unique_ptr<Recycler> recycler = std::make_unique<NoRecycler>());
 
     QString home_;
     SystemClock clock_;
@@ -51,7 +56,7 @@ private:
     Defaults defaults_;
     Lazy<Locations> locations_;
     NoWorkspace workspace_;
-    NoRecycler recycler_;
+    std::unique_ptr<Recycler> recycler_;
     NoSystemLog systemLog_;
     NoSystemInfo systemInfo_;
     Platform platform_;
