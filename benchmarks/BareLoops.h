@@ -14,4 +14,19 @@ std::int64_t probe(const std::string &path);
 /// sum, which is that of the scan. Throws likewise.
 std::int64_t scan(const std::string &path, int depth, int deepest);
 
+/// Walks all folders and counts those without an entry, the first one aside.
+std::int64_t emptyFolders(const std::string &path);
+
+/// What the shell's line of `find`, `head` and `wc` counts. The path holds no apostrophe. Throws likewise.
+std::int64_t fileCount(const std::string &path);
+
+struct Files
+{
+    std::int64_t count = 0;
+    std::int64_t bytes = 0;
+};
+
+/// Walks depth first up to that many regular files, and asks for the size of each.
+Files firstFiles(const std::string &path, std::int64_t most);
+
 } // namespace bareloops

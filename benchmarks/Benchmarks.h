@@ -11,10 +11,11 @@ namespace benchmarks {
 std::vector<Benchmark> ofScans();      ///< tree scans and size probes against the bare runs of `du`
 std::vector<Benchmark> ofHistory();    ///< one record on a full activity log against the library's JSON
 std::vector<Benchmark> ofDuplicates(); ///< duplicate scans against other programs that find equal files
+std::vector<Benchmark> ofCleanup();    ///< what can be cleaned against the runs and walks that it takes
 std::vector<Benchmark> ofTreemap();    ///< the map's layout against one sort
 std::vector<Benchmark> ofWindow();     ///< start, main loop and memory of the running program
 
 /// In the order in which they run.
-inline constexpr std::array groups = {ofScans, ofDuplicates, ofTreemap, ofHistory, ofWindow};
+inline constexpr std::array groups = {ofScans, ofDuplicates, ofCleanup, ofTreemap, ofHistory, ofWindow};
 
 } // namespace benchmarks
