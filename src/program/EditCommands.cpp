@@ -13,11 +13,7 @@ bool isTextField(const QObject *object)
 
 bool isMenu(const QObject *object)
 {
-    for (const char *type : {"QQuickMenuBarItem", "QQuickMenuBar", "QQuickMenuItem", "QQuickPopupItem"}) {
-        if (object && object->inherits(type))
-            return true;
-    }
-    return false;
+    return object && (object->inherits("QQuickMenuItem") || object->inherits("QQuickPopupItem"));
 }
 
 /// A menu takes the focus while it is open and gives it back; the field stays the one that is meant. The focus may be

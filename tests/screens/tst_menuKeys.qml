@@ -235,6 +235,28 @@ ScreenCase {
         compare(Program.menuLines(), "");
     }
 
+    function test_editMenuServesTheTextFieldByKey() {
+        const field = Program.addTextField("some words");
+        clickOn(field);
+        tryCompare(field, "activeFocus", true);
+        press(Qt.Key_F10);
+        press(Qt.Key_Right);
+        press(Qt.Key_Right);
+        verifyOpen("Edit");
+        compare(lit(), "Undo");
+        for (let i = 0; i < 5; ++i)
+            press(Qt.Key_Down);
+        compare(lit(), "Select All");
+        press(Qt.Key_Return);
+        compare(told(field, "selectedText"), "some words");
+        verify(field.activeFocus, Program.focusPath());
+        press(Qt.Key_E, Qt.AltModifier);
+        press(Qt.Key_Escape);
+        verify(field.activeFocus, Program.focusPath());
+        compare(told(field, "text"), "some words");
+        Program.removeTextField();
+    }
+
     function test_heldKeyDoesItOnce() {
         keyPress(Qt.Key_R, Qt.ControlModifier);
         for (let i = 0; i < 5; ++i)
