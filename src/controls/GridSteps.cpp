@@ -56,3 +56,8 @@ int GridSteps::target(int key, int modifiers, int current, int count, int column
         return current / across == (count - 1) / across ? current : count - 1;
     return std::clamp(next, 0, count - 1);
 }
+
+int GridSteps::mirrored(int key)
+{
+    return key == Qt::Key_Left ? Qt::Key_Right : key == Qt::Key_Right ? Qt::Key_Left : key;
+}

@@ -16,4 +16,7 @@ public:
     /// key and for an empty grid.
     Q_INVOKABLE static int target(int key, int modifiers, int current, int count, int columns,
                                   double rowsInView);
+
+    /// The key that means the same where one reads from the right.
+    Q_INVOKABLE static int mirrored(int key);
 };

@@ -47,7 +47,7 @@ FocusRow {
         tip: segments.areTextsShown ? "" : modelData
         isCut: label.isCut
         fill: isChosen ? Theme.selected : "transparent"
-        outline: isChosen ? Theme.accent : "transparent"
+        outline: !isChosen ? "transparent" : enabled ? Theme.accent : Theme.line
         Accessible.role: Accessible.RadioButton
         Accessible.checkable: true
         Accessible.checked: isChosen

@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Quillmere
 
@@ -40,37 +38,16 @@ Item {
         enabled: path.view.canGoBack
         onClicked: path.leave(visualFocus, () => path.view.goHome())
     }
-    ListView {
+    Breadcrumbs {
         objectName: "breadcrumbList"
         anchors.left: home.right
         anchors.leftMargin: Theme.unit
         anchors.right: finder.left
         anchors.rightMargin: Theme.unit * 2
-        height: parent.height
-        orientation: ListView.Horizontal
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        spacing: Theme.unit
+        label: path.view.texts.wayHere
         model: path.view.breadcrumbs
-        onCountChanged: positionViewAtEnd()
-        delegate: Row {
-            id: crumb
-
-            required property int index
-            required property string entryName
-
-            spacing: Theme.unit
-            Symbol {
-                anchors.verticalCenter: parent.verticalCenter
-                name: "chevron.right"
-                size: 11
-            }
-            ActionButton {
-                text: crumb.entryName
-                width: Math.min(implicitWidth, 240)
-                onClicked: path.view.goTo(crumb.index)
-            }
-        }
+        textRole: "entryName"
+        onChosen: index => path.view.goTo(index)
     }
     ActionButton {
         id: finder

@@ -17,6 +17,7 @@ class AnalyzerTexts
     Q_PROPERTY(QString stopping MEMBER stopping CONSTANT)
     Q_PROPERTY(QString goBack MEMBER goBack CONSTANT)
     Q_PROPERTY(QString home MEMBER home CONSTANT)
+    Q_PROPERTY(QString wayHere MEMBER wayHere CONSTANT)
     Q_PROPERTY(QString openInFinder MEMBER openInFinder CONSTANT)
     Q_PROPERTY(QString visualMap MEMBER visualMap CONSTANT)
     Q_PROPERTY(QString map MEMBER map CONSTANT)
@@ -41,6 +42,7 @@ public:
     QString scanStopped = QStringLiteral("Scan stopped");
     QString goBack = QStringLiteral("Go back");
     QString home = QStringLiteral("Home");
+    QString wayHere = QStringLiteral("Folders on the way here");
     QString openInFinder = QStringLiteral("Open in Finder");
     QString visualMap = QStringLiteral("VISUAL MAP");
     QString map = QStringLiteral("Map of what takes the most space");

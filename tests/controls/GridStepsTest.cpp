@@ -64,3 +64,10 @@ TEST(GridSteps, holdsOutAgainstNonsense)
     EXPECT_EQ(GridSteps::target(Qt::Key_PageDown, 0, 0, 10, 4, -infinite), 4);
     EXPECT_EQ(GridSteps::target(Qt::Key_Down, 0, 99, 10, 4, 2), 9);
 }
+
+TEST(GridSteps, turnsLeftAndRightAroundAndNothingElse)
+{
+    EXPECT_EQ(GridSteps::mirrored(Qt::Key_Left), Qt::Key_Right);
+    EXPECT_EQ(GridSteps::mirrored(Qt::Key_Right), Qt::Key_Left);
+    EXPECT_EQ(GridSteps::mirrored(Qt::Key_Up), Qt::Key_Up);
+}
