@@ -1,0 +1,143 @@
+#include "FilePanelFixture.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SavePanelViewTest : public FilePanelFixture
+{
+};
+
+} // namespace
+
+TEST_F(SavePanelViewTest, listsFilesBelowFoldersForSaving)
+{
+    folder(u"z"_s);
+    file(u"a.csv"_s);
+    save(u"b.csv"_s);
+    EXPECT_EQ(view_->acceptLabel(), u"Save"_s);
+    EXPECT_EQ(names(), QStringList({u"z"_s, u"a.csv"_s}));
+    EXPECT_EQ(column(*view_->rows(), "symbol").last(), u"tablecells.fill"_s);
+}
+
+TEST_F(SavePanelViewTest, savesUnderTheNameInItsField)
+{
+    save(u"a b%.tar.gz"_s);
+    EXPECT_EQ(view_->fileName(), u"a b%.tar.gz"_s);
+    EXPECT_EQ(view_->stemLength(), 8) << "The extension is not to be written anew.";
+    view_->accept();
+    settle();
+    EXPECT_EQ(answers_, 1);
+    EXPECT_EQ(path_, at(u"a b%.tar.gz"_s));
+}
+
+TEST_F(SavePanelViewTest, savesUnderANameInAnyBytesUntilAnotherIsTyped)
+{
+    const QString name = paths::fromBytes("\xFF.csv");
+    save(name);
+    EXPECT_EQ(view_->fileName(), u"\uFFFD.csv"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(path_, at(name));
+}
+
+TEST_F(SavePanelViewTest, savesInTheFolderThatWasGoneInto)
+{
+    folder(u"inner"_s);
+    save(u"a.csv"_s);
+    view_->openRow(row(u"inner"_s));
+    settle();
+    view_->setFileName(u"b.csv"_s);
+    EXPECT_EQ(view_->resultText(), u"~/inner/b.csv"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(path_, at(u"inner/b.csv"_s));
+}
+
+TEST_F(SavePanelViewTest, takesAPathForAName)
+{
+    folder(u"inner"_s);
+    for (const QString &typed : {u"inner/b.csv"_s, u"~/inner/b.csv"_s, at(u"inner/../inner/b.csv"_s)}) {
+        save(u"a.csv"_s);
+        view_->setFileName(typed);
+        view_->accept();
+        settle();
+        EXPECT_EQ(path_, at(u"inner/b.csv"_s)) << typed.toStdString();
+    }
+}
+
+TEST_F(SavePanelViewTest, savesNothingWithoutAName)
+{
+    save(u"a.csv"_s);
+    view_->setFileName({});
+    EXPECT_FALSE(view_->canAccept());
+    view_->accept();
+    settle();
+    EXPECT_EQ(answers_, 0);
+}
+
+TEST_F(SavePanelViewTest, saysThatThereIsNoFolderToSaveIn)
+{
+    save(u"a.csv"_s);
+    view_->setFileName(u"missing/b.csv"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(answers_, 0);
+    EXPECT_EQ(view_->failureText(), u"There is no folder “%1”"_s.arg(at(u"missing"_s)));
+    view_->setFileName(u"b.csv"_s);
+    EXPECT_EQ(view_->failureText(), QString());
+}
+
+TEST_F(SavePanelViewTest, goesIntoAFolderWhoseNameIsTyped)
+{
+    folder(u"inner"_s);
+    save(u"a.csv"_s);
+    view_->setFileName(u"inner"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(answers_, 0);
+    EXPECT_EQ(view_->folder(), at(u"inner"_s));
+    EXPECT_EQ(view_->fileName(), u"a.csv"_s);
+}
+
+TEST_F(SavePanelViewTest, takesTheNameOfAFileThatIsSelected)
+{
+    folder(u"inner"_s);
+    file(u"old.csv"_s);
+    save(u"a.csv"_s);
+    view_->select(row(u"inner"_s));
+    EXPECT_EQ(view_->fileName(), u"a.csv"_s);
+    view_->select(row(u"old.csv"_s));
+    EXPECT_EQ(view_->fileName(), u"old.csv"_s);
+}
+
+TEST_F(SavePanelViewTest, replacesAFileOnlyOnceTheUserAgrees)
+{
+    file(u"a.csv"_s);
+    save(u"a.csv"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(answers_, 0);
+    EXPECT_TRUE(view_->replaceQuestion()->isUp());
+    EXPECT_EQ(view_->replaceQuestion()->text(), u"“a.csv” already exists."_s);
+    view_->replaceQuestion()->cancel();
+    EXPECT_EQ(answers_, 0);
+    view_->accept();
+    settle();
+    view_->replaceQuestion()->confirm();
+    EXPECT_EQ(answers_, 1);
+    EXPECT_EQ(path_, at(u"a.csv"_s));
+}
+
+TEST_F(SavePanelViewTest, dropsALookThatIsOvertaken)
+{
+    folder(u"inner"_s);
+    save(u"a.csv"_s);
+    view_->accept();
+    view_->openRow(row(u"inner"_s));
+    settle();
+    EXPECT_EQ(answers_, 0) << "The panel shows another folder by now.";
+    EXPECT_EQ(view_->folder(), at(u"inner"_s));
+}
