@@ -28,6 +28,11 @@ FocusScope {
         input.selectAll();
     }
 
+    // Marks what stands ahead of that place, so that writing replaces it and leaves the rest.
+    function selectFirst(count) {
+        input.select(0, count);
+    }
+
     // For the user, who is told of it as of an edit.
     function clear() {
         input.clear();

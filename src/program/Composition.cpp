@@ -136,7 +136,7 @@ bool Composition::show()
 void Composition::attach(FallbackPanel &panel)
 {
     panel_ = &panel;
-    panel.attach(engine_, *window_, platform_.home);
+    panel.attach(engine_, *window_, platform_);
 }
 
 void Composition::pictureShown()
@@ -162,7 +162,7 @@ void Composition::windowAppeared()
 /// The program is about to end: nothing asks for anything any more, and another start gets a window of its own.
 void Composition::makeWay()
 {
-    if (panel_) // ahead of the rest: its dialogs are popups of the window, or windows of their own, as the toolkit likes
+    if (panel_) // ahead of the rest, which would take its question alone away
         panel_->giveUp();
     popups::closeAll(*window_);
     if (relaunch_.letGo)

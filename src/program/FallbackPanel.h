@@ -1,18 +1,14 @@
 #pragma once
 
-#include "platform/Workspace.h"
+#include "platform/Platform.h"
+#include "program/panel/FilePanelView.h"
 
 #include <QObject>
-#include <QVariant>
 
-#include <functional>
 #include <memory>
-#include <optional>
-#include <utility>
-#include <vector>
 
 class QQmlEngine;
-class QWindow;
+class QQuickWindow;
 
 /// The program's own panels for a folder and for saving, for a desktop that
 /// offers none. One is on view at a time: a second request takes the place of
@@ -26,44 +22,23 @@ public:
     ~FallbackPanel() override;
 
     /// Says where panels are to be shown; before, every request is answered as
-    /// cancelled. `engine` and `window` outlive the panels, which begin in `home`
-    /// where a request names no folder.
-    void attach(QQmlEngine &engine, QWindow &window, const QString &home);
+    /// cancelled. All of these outlive the panels.
+    void attach(QQmlEngine &engine, QQuickWindow &window, const Platform &platform);
 
     // As Workspace tells of them.
-    void chooseFolder(const Workspace::FolderRequest &request, Workspace::PathChosen chosen);
-    void chooseSavePath(const Workspace::SaveRequest &request, Workspace::PathChosen chosen);
+    void chooseFolder(const Workspace::FolderRequest &request, const Workspace::PathChosen &chosen);
+    void chooseSavePath(const Workspace::SaveRequest &request, const Workspace::PathChosen &chosen);
 
     /// Takes the panel that is on view away and answers it as cancelled, whatever it asks: the program is about to end.
     void giveUp();
 
-private slots:
-    void accept();
-    void reject();
-
 private:
-    using Properties = std::vector<std::pair<const char *, QVariant>>;
-
-    /// What follows on the dialog that is on view.
-    struct Next
-    {
-        std::function<void()> accepted;
-        std::function<void()> rejected;
-    };
-
-    void show(const QString &qmlFile, const Properties &properties, Next next);
-    QString startFor(const QString &folder) const;
-    void showSavePanel(const Workspace::SaveRequest &request);
-    void takeSavePath(const Workspace::SaveRequest &request, const QString &path);
-    void askToReplace(const Workspace::SaveRequest &request, const QString &path);
-    QString pathOf(const char *property) const;
-    void dropDialog();
-    void finish(const std::optional<QString> &path);
+    void show(const FilePanelView::Request &request, const Workspace::PathChosen &chosen);
+    void drop();
 
     QQmlEngine *engine_ = nullptr;
-    QWindow *window_ = nullptr;
-    QString home_;
-    std::unique_ptr<QObject> dialog_;
-    Next next_;
-    Workspace::PathChosen chosen_;
+    QQuickWindow *window_ = nullptr;
+    const Platform *platform_ = nullptr;
+    std::unique_ptr<FilePanelView> view_;
+    std::unique_ptr<QObject> sheet_;
 };

@@ -47,6 +47,14 @@ ScreenCase {
         tryVerify(() => !Program.isSheetUp(), patience, "the sheet is down");
     }
 
+    function test_openPanelFollows() {
+        Program.askForFolder("Which folder?");
+        find("Which folder?");
+        checkBothWays();
+        press(Qt.Key_Escape);
+        tryVerify(() => Program.folderAnswers() === "none", patience, "the panel is cancelled");
+    }
+
     function test_openQuestionFollows() {
         open("Duplicates");
         Duplicates.scanOnly([Duplicates.makeTwins()], 1024);

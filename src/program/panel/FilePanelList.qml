@@ -1,0 +1,58 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Quillmere
+
+// The entries of the folder on view, or why there are none.
+FocusScope {
+    id: area
+
+    required property FilePanelView view
+
+    Keys.onPressed: event => event.accepted = area.view.takeKey(event.key, event.modifiers, event.text)
+
+    RowList {
+        id: list
+        objectName: "panelList"
+        anchors.fill: parent
+        anchors.leftMargin: Theme.unit * 2
+        focus: true
+        model: area.view.rows
+        onCurrentIndexChanged: area.view.select(currentIndex)
+        onRowOpened: row => area.view.openRow(row)
+        Accessible.name: area.view.texts.entries
+        delegate: FilePanelRow {
+            id: entry
+            onDoubleClicked: area.view.openRow(entry.index)
+        }
+    }
+    Connections {
+        target: area.view
+        function onListed() {
+            list.goToTop();
+        }
+        function onFound(row) {
+            list.currentIndex = row;
+        }
+    }
+    EmptyState {
+        anchors.centerIn: parent
+        width: parent.width
+        visible: text.length > 0
+        symbol: area.view.emptySymbol
+        text: area.view.emptyText
+    }
+    Row {
+        anchors.centerIn: parent
+        visible: area.view.isSlow
+        spacing: Theme.unit * 2
+        Spinner {
+            anchors.verticalCenter: parent.verticalCenter
+            size: 15
+        }
+        BodyText {
+            text: area.view.texts.loading
+            color: Theme.secondText
+        }
+    }
+}
