@@ -16,27 +16,14 @@ SheetFrame {
     isCovered: view.showClearConfirm
 
     tools: [
-        Item {
-            width: revealButton.width
-            height: revealButton.height
-            ActionButton {
-                id: revealButton
-                objectName: "revealHistory"
-                enabled: sheet.view.canReveal
-                text: sheet.view.texts.reveal
-                symbol: "arrow.up.right.square"
-                Accessible.description: sheet.view.revealTip
-                onClicked: sheet.view.reveal()
-            }
-            // The button itself knows of no pointer while it is disabled, and then its tip matters most.
-            HoverHandler {
-                id: revealPointer
-            }
-            Tip {
-                control: revealButton
-                isDue: revealPointer.hovered && !revealButton.down
-                text: sheet.view.revealTip
-            }
+        ActionButton {
+            objectName: "revealHistory"
+            enabled: sheet.view.canReveal
+            text: sheet.view.texts.reveal
+            symbol: "arrow.up.right.square"
+            tip: sheet.view.revealTip
+            Accessible.description: sheet.view.revealTip
+            onClicked: sheet.view.reveal()
         },
         ActionButton {
             objectName: "clearHistory"
