@@ -56,6 +56,7 @@ FocusScope {
 
     Row {
         id: line
+        anchors.left: parent.left
         height: parent.height
         Repeater {
             id: repeater

@@ -25,6 +25,7 @@ FocusRow {
 
     ButtonFace {
         z: -1
+        anchors.left: parent.left
         width: segments.implicitWidth
         height: parent.height
         color: Theme.raised

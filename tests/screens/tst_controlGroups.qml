@@ -275,6 +275,18 @@ Item {
             compare(Array.from(bar.widths).join(), "200,0,4,120");
         }
 
+        function test_barBeginsAtTheRightWhereOneReadsFromThere() {
+            const bar = make(bars);
+            const choices = spy(bar, "chosen");
+            bar.LayoutMirroring.enabled = true;
+            bar.LayoutMirroring.childrenInherit = true;
+            waitForRendering(stage);
+            mouseClick(bar, 390, 5);
+            compare(choices.count, 1);
+            mouseClick(bar, 10, 5);
+            compare(choices.count, 1);
+        }
+
         function test_partIsReachedAndPressedByKey() {
             const bar = make(bars);
             const choices = spy(bar, "chosen");
