@@ -149,7 +149,7 @@ TEST_F(FallbackPanelTest, goesIntoAFolderByTwoClicks)
 
 TEST_F(FallbackPanelTest, walksByKeys)
 {
-    for (const QString &name : {u"start/a"_s, u"start/b/deep"_s, u"start/music"_s})
+    for (const QString &name : {u"start/a"_s, u"start/b/deep"_s, u"start/music"_s, u"start/my files"_s})
         folder(name);
     chooseFolder({u"Choose"_s, at(u"start"_s)});
     press(Qt::Key_Down);
@@ -162,6 +162,9 @@ TEST_F(FallbackPanelTest, walksByKeys)
     EXPECT_TRUE(shows(u"~/start"_s));
     type(u"mu"_s);
     EXPECT_TRUE(shows(u"~/start/music"_s));
+    home_.clock.advance(2);
+    type(u"my f"_s);
+    EXPECT_TRUE(shows(u"~/start/my files"_s));
     press(Qt::Key_Up, Qt::AltModifier);
     EXPECT_TRUE(shows(u"~"_s));
     EXPECT_EQ(answers_, 0);

@@ -1,5 +1,7 @@
 #include "FilePanelFixture.h"
 
+#include <QLocale>
+
 #include <cerrno>
 
 #include <gtest/gtest.h>
@@ -42,6 +44,17 @@ TEST_F(FilePanelViewTest, listsFoldersWithoutFilesAndHiddenOnes)
     chooseFolder(u"start"_s);
     EXPECT_EQ(names(), QStringList({u"A"_s, u"b"_s, u"Photos.photoslibrary"_s}));
     EXPECT_EQ(column(*view_->rows(), "symbol").first(), u"folder.fill"_s);
+}
+
+TEST_F(FilePanelViewTest, listsInTheOrderOfTheLocaleAndOfNumbers)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(u"sv_SE"_s));
+    for (const QString &name : {u"Ö"_s, u"z"_s, u"Z2"_s, u"a"_s, u"10"_s, u"9"_s})
+        folder(u"start/"_s + name);
+    chooseFolder(u"start"_s);
+    EXPECT_EQ(names(), QStringList({u"9"_s, u"10"_s, u"a"_s, u"z"_s, u"Z2"_s, u"Ö"_s}));
+    QLocale::setDefault(before);
 }
 
 TEST_F(FilePanelViewTest, listsHiddenFoldersWhereTheyAreAskedForAndAtTheSwitch)

@@ -20,6 +20,7 @@ FocusScope {
         model: area.view.rows
         onCurrentIndexChanged: area.view.select(currentIndex)
         onRowOpened: row => area.view.openRow(row)
+        onRowToggled: area.view.takeKey(Qt.Key_Space, Qt.NoModifier, " ")
         Accessible.name: area.view.texts.entries
         delegate: FilePanelRow {
             id: entry
