@@ -299,7 +299,7 @@ TEST_F(FilePanelViewTest, saysWhyAFolderIsNotMade)
     chooseFolder({});
     view_->makeFolder(u"taken"_s);
     settle();
-    EXPECT_FALSE(view_->failureText().isEmpty());
+    EXPECT_EQ(view_->failureText(), u"The folder can’t be made: File exists"_s);
     EXPECT_EQ(view_->folder(), platform_.home);
 }
 

@@ -248,7 +248,7 @@ void FilePanelView::makeFolder(const QString &name)
             if (failure.isEmpty())
                 view.open(path);
             else
-                view.fail(failure);
+                view.fail(QStringLiteral("The folder can’t be made: %1").arg(failure));
         });
     });
 }
