@@ -14,8 +14,10 @@ std::vector<Benchmark> ofDuplicates(); ///< duplicate scans against other progra
 std::vector<Benchmark> ofCleanup();    ///< what can be cleaned against the runs and walks that it takes
 std::vector<Benchmark> ofTreemap();    ///< the map's layout against one sort
 std::vector<Benchmark> ofWindow();     ///< start, main loop and memory of the running program
+std::vector<Benchmark> ofRows();       ///< walking and scrolling the long lists of the running program
 
 /// In the order in which they run.
-inline constexpr std::array groups = {ofScans, ofDuplicates, ofCleanup, ofTreemap, ofHistory, ofWindow};
+inline constexpr std::array groups = {ofScans,   ofDuplicates, ofCleanup, ofTreemap,
+                                      ofHistory, ofWindow,     ofRows};
 
 } // namespace benchmarks

@@ -63,7 +63,7 @@ SheetFrame {
 
         // A new entry comes in above the first row; a reader who has not scrolled sees it.
         property bool isAtTop: true
-        onMovementEnded: isAtTop = atYBeginning
+        onContentYChanged: isAtTop = atYBeginning
         onCountChanged: if (isAtTop) positionViewAtBeginning()
 
         delegate: HistoryRow {

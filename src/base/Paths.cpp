@@ -104,7 +104,11 @@ QString inOneLine(const QString &text)
     for (QChar &character : line) {
         const char16_t code = character.unicode();
         const bool isDirection = (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
-        if (code < 0x20)
+        if (code == u'\n')
+            character = QChar(u'\u21B5'); // these two have signs in most fonts of text, unlike the pictures
+        else if (code == u'\t')
+            character = QChar(u'\u21E5');
+        else if (code < 0x20)
             character = QChar(static_cast<char16_t>(controlPictures + code));
         else if (code == 0x7F)
             character = QChar(u'\u2421');

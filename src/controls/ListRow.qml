@@ -11,6 +11,7 @@ T.ItemDelegate {
     property string tip    // shown below the row when the pointer rests on it
 
     readonly property RowList list: ListView.view as RowList
+    readonly property string place: RowTexts.place(index, list ? list.count : 0)
     readonly property bool isCurrent: list !== null && ListView.isCurrentItem && list.activeFocus
     readonly property bool isMenuTarget: list !== null && list.menuRow === index
 
@@ -29,7 +30,7 @@ T.ItemDelegate {
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
 
-    Accessible.description: RowTexts.told(spoken, index, list ? list.count : 0)
+    Accessible.description: RowTexts.told(spoken, place)
     Accessible.focusable: true
     Accessible.selectable: true
     Accessible.selected: ListView.isCurrentItem

@@ -20,8 +20,15 @@ ListView {
 
     // Makes that row the current one and brings the keyboard to it.
     function take(row) {
-        currentIndex = row;
+        goTo(row);
         forceActiveFocus();
+    }
+
+    // Makes that row the current one and shows it whole.
+    function goTo(row) {
+        currentIndex = row;
+        forceLayout();
+        positionViewAtIndex(row, ListView.Contain);
     }
 
     function goToTop() {
@@ -46,12 +53,17 @@ ListView {
     }
     property var heldPlace: null
 
+    function scrollBy(distance) {
+        cancelFlick();
+        contentY += distance;
+        returnToBounds();
+    }
     function walk(key, modifiers) {
         const from = currentIndex;
         const row = RowSteps.target(key, modifiers, from, count, contentHeight > 0 ? height * count / contentHeight : 1);
         if (row < 0)
             return false;
-        currentIndex = row;
+        goTo(row);
         if (modifiers & Qt.ShiftModifier)
             selectionExtended(from, row);
         return true;
@@ -76,8 +88,7 @@ ListView {
     cacheBuffer: 0 // or rows that nobody sees would be told of to assistive technology
     currentIndex: -1
     keyNavigationEnabled: false // its own keys know neither pages nor the ends
-    highlightMoveDuration: 0
-    highlightResizeDuration: 0
+    highlightFollowsCurrentItem: false // a frame late, and more keys may come before; goTo is not
 
     // Whoever comes by key sees where they are.
     onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
@@ -99,6 +110,11 @@ ListView {
 
     T.ScrollBar.vertical: ScrollHandle { }
 
+    // A notch goes its way at once: as a movement it would paint the list a dozen times. What a touchpad tells is the view's.
+    WheelHandler {
+        acceptedDevices: PointerDevice.Mouse
+        onWheel: event => list.scrollBy(RowSteps.wheelDistance(event.angleDelta.y))
+    }
     // One for all rows. No TapHandler: it would make a row take the right button for a click of its own.
     MouseArea {
         parent: list

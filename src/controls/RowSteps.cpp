@@ -1,10 +1,16 @@
 #include "controls/RowSteps.h"
 
+#include <QGuiApplication>
+#include <QStyleHints>
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
 namespace {
+
+constexpr double notchAngle = 120;
+constexpr double lineHeight = 24; // of those in which the desktop tells how far a notch goes
 
 /// How far a key leads; the ends of the list are at `count` rows from everywhere.
 std::optional<int> distance(int key, int count, int page)
@@ -39,6 +45,11 @@ int RowSteps::target(int key, int modifiers, int current, int count, double rows
         static_cast<int>(std::clamp(std::floor(rowsInView) - 1, 1.0, static_cast<double>(count)));
     const std::optional<int> rows = distance(key, count, page);
     return rows ? std::clamp(current + *rows, 0, count - 1) : -1;
+}
+
+double RowSteps::wheelDistance(double angle)
+{
+    return -angle / notchAngle * QGuiApplication::styleHints()->wheelScrollLines() * lineHeight;
 }
 
 bool RowSteps::asksForMenu(int key, int modifiers)

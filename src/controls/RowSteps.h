@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// What the keys of a list of rows mean. Pure.
+/// What the keys and the wheel mean to a list of rows.
 class RowSteps final : public QObject
 {
     Q_OBJECT
@@ -15,6 +15,9 @@ public:
     /// Down, Home or End, with Shift or without. `rowsInView` is how many have room. -1 for any other key and for an empty
     /// list.
     Q_INVOKABLE static int target(int key, int modifiers, int current, int count, double rowsInView);
+
+    /// How far a list goes on for a turn of the wheel by that angle, in eighths of a degree; a notch has 120.
+    Q_INVOKABLE static double wheelDistance(double angle);
 
     /// Whether a key asks for the context menu: the Menu key, or Shift and F10.
     Q_INVOKABLE static bool asksForMenu(int key, int modifiers);

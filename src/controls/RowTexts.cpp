@@ -1,8 +1,12 @@
 #include "controls/RowTexts.h"
 
-QString RowTexts::told(const QString &spoken, int row, int count)
+QString RowTexts::place(int row, int count)
 {
-    const QString place = QString::number(row + 1) + QStringLiteral(" of ") + QString::number(count);
+    return QStringLiteral("%1 of %2").arg(row + 1).arg(count);
+}
+
+QString RowTexts::told(const QString &spoken, const QString &place)
+{
     return spoken.isEmpty() ? place : spoken + QStringLiteral(", ") + place;
 }
 

@@ -13,8 +13,11 @@ class RowTexts final : public QObject
     QML_SINGLETON
 
 public:
-    /// What assistive technology is told after the row's name: its own words, and its place, as "3 of 120".
-    Q_INVOKABLE static QString told(const QString &spoken, int row, int count);
+    /// Where a row stands: "3 of 120" for the one with the number 2.
+    Q_INVOKABLE static QString place(int row, int count);
+
+    /// What assistive technology is told after the row's name: what else it shows, and its place.
+    Q_INVOKABLE static QString told(const QString &spoken, const QString &place);
 
     /// The lines of a tooltip; those that are empty are left out.
     Q_INVOKABLE static QString lines(const QStringList &lines);

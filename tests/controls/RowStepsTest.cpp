@@ -1,5 +1,8 @@
 #include "controls/RowSteps.h"
 
+#include <QGuiApplication>
+#include <QStyleHints>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -74,4 +77,13 @@ TEST(RowSteps, askForTheMenuByItsKeyAndByShiftF10)
     EXPECT_FALSE(RowSteps::asksForMenu(Qt::Key_F10, Qt::NoModifier));
     EXPECT_FALSE(RowSteps::asksForMenu(Qt::Key_F10, Qt::ShiftModifier | Qt::ControlModifier));
     EXPECT_FALSE(RowSteps::asksForMenu(Qt::Key_Space, Qt::ShiftModifier));
+}
+
+TEST(RowSteps, goOnWithTheWheelByTheLinesThatTheDesktopTells)
+{
+    const int lines = QGuiApplication::styleHints()->wheelScrollLines();
+    EXPECT_GT(lines, 0);
+    EXPECT_EQ(RowSteps::wheelDistance(-120), lines * 24);
+    EXPECT_EQ(RowSteps::wheelDistance(60), -lines * 12);
+    EXPECT_EQ(RowSteps::wheelDistance(0), 0);
 }

@@ -4,8 +4,9 @@
 
 TEST(RowTexts, tellTheirPlaceAfterWhatTheyShow)
 {
-    EXPECT_EQ(RowTexts::told(QStringLiteral("KEEP, ~/a"), 2, 120), QStringLiteral("KEEP, ~/a, 3 of 120"));
-    EXPECT_EQ(RowTexts::told(QString(), 0, 1), QStringLiteral("1 of 1"));
+    const QString place = RowTexts::place(2, 120);
+    EXPECT_EQ(RowTexts::told(QStringLiteral("KEEP, ~/a"), place), QStringLiteral("KEEP, ~/a, 3 of 120"));
+    EXPECT_EQ(RowTexts::told(QString(), place), QStringLiteral("3 of 120"));
 }
 
 TEST(RowTexts, leaveEmptyLinesOutOfATooltip)

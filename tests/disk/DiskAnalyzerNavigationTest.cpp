@@ -335,7 +335,7 @@ TEST_F(DiskAnalyzerNavigationTest, takesNamesAsTheyStandAndShowsThemInOneLine)
     test.temp.sparseFile(QStringLiteral("odd/") + name + QStringLiteral("/f"), 9);
     disk.setAnalyzerScanPath(test.temp.at(QStringLiteral("odd")));
     makeScanned();
-    const QString shown = QStringLiteral("100%1 &␊<b>%2");
+    const QString shown = QStringLiteral("100%1 &↵<b>%2");
     EXPECT_EQ(names(), shown);
     view->openRow(0);
     EXPECT_EQ(view->location(), test.temp.at(QStringLiteral("odd/")) + shown);

@@ -97,7 +97,7 @@ TEST_F(TreemapViewTest, tellsNameAndSizeOfATileInItsTip)
 {
     map.setCategories({category(QStringLiteral("two\nlines"), 60)});
     map.resize(10, 10); // too small for a label
-    EXPECT_EQ(text(0, "tipText"), QStringLiteral("two␊lines · 60 B"));
+    EXPECT_EQ(text(0, "tipText"), QStringLiteral("two↵lines · 60 B"));
 }
 
 TEST_F(TreemapViewTest, drawsATileTwoPointsSmallerThanItsRectangleAndCentredOnIt)

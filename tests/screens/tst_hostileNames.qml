@@ -10,7 +10,7 @@ AnalyzerCase {
 
     function names() {
         return [
-            { tag: "newline", shown: "line\u240Abreak", bytes: "line%0Abreak", size: "9.0 MB", items: 1 },
+            { tag: "newline", shown: "line\u21B5break", bytes: "line%0Abreak", size: "9.0 MB", items: 1 },
             { tag: "markup", shown: "\"quoted\" & <b>bold", bytes: "%22quoted%22%20%26%20%3Cb%3Ebold",
               size: "8.0 MB", items: 1 },
             { tag: "emoji", shown: "emoji \u{1F980}", bytes: "emoji%20%F0%9F%A6%80", size: "7.0 MB", items: 1 },

@@ -33,7 +33,7 @@ FocusScope {
             list.goToTop();
         }
         function onFound(row) {
-            list.currentIndex = row;
+            list.goTo(row);
         }
     }
     EmptyState {
