@@ -49,7 +49,7 @@ ListRow {
                     anchors.centerIn: parent
                     name: row.symbol
                     size: 15
-                    color: row.tint
+                    color: Theme.ink(row.tint)
                 }
             }
             BodyText {

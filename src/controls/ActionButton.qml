@@ -13,7 +13,7 @@ ButtonBase {
 
     readonly property int heldWidth: labels.length > 0 ? label.lead + TextRuler.widest(labels, label.font) : 0
     readonly property color inkColor: !enabled ? Theme.disabledText : isPrimary ? Theme.accentText
-                                    : isDestructive ? Theme.red : Theme.text
+                                    : isDestructive ? Theme.redText : Theme.text
 
     implicitWidth: Math.min(Math.max(Math.ceil(implicitContentWidth), heldWidth) + leftPadding + rightPadding, 480)
     leftPadding: Theme.unit * 2.5

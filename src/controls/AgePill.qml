@@ -2,33 +2,37 @@ import QtQuick
 import Quillmere
 
 // How old a cached result is.
-Rectangle {
-    id: badge
+Pill {
+    id: pill
 
-    required property AgePillView pill
+    required property string text
+    property string tip
 
-    visible: pill.isShown
-    implicitWidth: Math.ceil(row.implicitWidth) + Theme.unit * 5
+    readonly property int rest: icon.width + row.spacing + Theme.unit * 5 // beside the word
+
+    implicitWidth: Math.ceil(label.implicitWidth) + rest
     implicitHeight: 22
-    radius: height / 2
     color: Theme.raised
-    border.color: Theme.line
+    borderColor: Theme.line
     Accessible.role: Accessible.StaticText
-    Accessible.name: pill.text
-    Accessible.description: pill.tooltip
+    Accessible.name: text
+    Accessible.description: tip
 
     Row {
         id: row
         anchors.centerIn: parent
         spacing: Theme.unit * 1.5
         Symbol {
+            id: icon
             anchors.verticalCenter: parent.verticalCenter
             name: "clock"
             size: 11
         }
         BodyText {
+            id: label
             anchors.verticalCenter: parent.verticalCenter
-            text: badge.pill.text
+            width: Math.min(implicitWidth, pill.width - pill.rest)
+            text: pill.text
             color: Theme.secondText
             font.pixelSize: Theme.captionSize
         }
@@ -37,8 +41,8 @@ Rectangle {
         id: pointer
     }
     Tip {
-        control: badge
+        control: pill
         isDue: pointer.hovered
-        text: badge.pill.tooltip
+        text: pill.tip
     }
 }

@@ -3,7 +3,7 @@ import Quillmere
 
 // A pill with a word that tells of what it stands on, and a symbol where one is told. Nothing where there is no word. Its
 // ground is opaque, so that the word reads as well on a row that is lit.
-Rectangle {
+Pill {
     id: badge
 
     required property string text
@@ -13,14 +13,14 @@ Rectangle {
     property bool isQuiet: false // a count that asks for nothing
     property list<string> labels // all that it may read in its place, where that changes: it keeps the room of the widest
 
+    readonly property int rest: (icon.visible ? icon.width + content.spacing : 0) + Theme.unit * 3 // beside the word
     readonly property int heldWidth: labels.length > 0 ? TextRuler.widest(labels, label.font) : 0
 
     visible: text.length > 0
-    implicitWidth: Math.ceil(Math.max(label.implicitWidth, heldWidth)) + (icon.visible ? icon.width + content.spacing : 0) + Theme.unit * 3
+    implicitWidth: Math.ceil(Math.max(label.implicitWidth, heldWidth)) + rest
     implicitHeight: icon.visible ? 22 : 18
-    radius: height / 2
     color: isQuiet ? Theme.free : Qt.tint(Theme.card, Qt.alpha(tint, 0.06))
-    border.color: isQuiet ? Theme.free : Qt.tint(Theme.card, Qt.alpha(tint, 0.5))
+    borderColor: isQuiet ? Theme.free : Qt.tint(Theme.card, Qt.alpha(tint, 0.5))
     Accessible.role: Accessible.StaticText
     Accessible.name: text
     Accessible.description: tip
@@ -40,6 +40,7 @@ Rectangle {
         CaptionText {
             id: label
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, badge.width - badge.rest)
             text: badge.text
             color: badge.tint
             font.pixelSize: badge.isQuiet ? Theme.captionSize : 10

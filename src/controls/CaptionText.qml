@@ -9,5 +9,6 @@ Text {
     font.letterSpacing: 0.6
     textFormat: Text.PlainText
     elide: Text.ElideRight
+    maximumLineCount: 1
     verticalAlignment: Text.AlignVCenter
 }

@@ -20,35 +20,40 @@ T.AbstractButton {
     checked: isSelected
     autoExclusive: true
     Accessible.role: Accessible.RadioButton
+    Accessible.name: label
     Accessible.description: countText
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
-    contentItem: Row {
-        spacing: Theme.unit * 1.5
+    contentItem: Item {
+        implicitWidth: word.implicitWidth + count.room
+        implicitHeight: word.implicitHeight
         BodyText {
+            id: word
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, parent.width - count.room)
             text: chip.label
-            color: chip.isSelected ? Theme.accent : Theme.text
+            color: !chip.enabled ? Theme.disabledText : chip.isSelected ? Theme.accent : Theme.text
             font.pixelSize: Theme.smallSize
         }
         BodyText {
+            id: count
+            readonly property int room: visible ? Math.ceil(implicitWidth) + Theme.unit * 1.5 : 0
+            anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             visible: text.length > 0
             text: chip.countText
-            color: Theme.secondText
+            color: chip.enabled ? Theme.secondText : Theme.disabledText
             font.pixelSize: Theme.captionSize
         }
     }
-    background: Rectangle {
-        radius: height / 2
+    background: Pill {
         color: chip.isSelected ? Qt.tint(Theme.card, Qt.alpha(Theme.accent, 0.08)) : Theme.raised
-        border.color: chip.isSelected ? Theme.accent : Theme.line
-        Rectangle {
+        borderColor: chip.isSelected ? Theme.accent : Theme.line
+        Pill {
             anchors.fill: parent
-            radius: parent.radius
-            visible: !chip.isSelected // a click on it does nothing
-            color: chip.down ? Theme.pressed : chip.hovered ? Theme.hover : "transparent"
+            visible: (chip.down || chip.hovered) && !chip.isSelected // a click on that one does nothing
+            color: chip.down ? Theme.pressed : Theme.hover
         }
         FocusRing {
             visible: chip.visualFocus

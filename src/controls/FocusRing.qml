@@ -2,11 +2,10 @@ import QtQuick
 import Quillmere
 
 // The outline of a control that has the keyboard.
-Rectangle {
+Pill {
     objectName: "focusRing"
     anchors.fill: parent
-    color: "transparent"
-    border.color: Theme.accent
-    border.width: 2
+    borderColor: Theme.accent
+    borderWidth: 2
     radius: Theme.controlRadius
 }

@@ -25,6 +25,7 @@ DropArea {
         border.color: Theme.accent
         BodyText {
             anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - Theme.unit * 4)
             text: drop.text
             color: Theme.accent
             font.weight: Font.DemiBold

@@ -22,6 +22,8 @@ T.ItemDelegate {
     rightPadding: 0
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.ListItem
+    Accessible.name: text
     Accessible.description: detail
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

@@ -30,6 +30,7 @@ T.ItemDelegate {
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
 
+    Accessible.name: text
     Accessible.description: RowTexts.told(spoken, place)
     Accessible.focusable: true
     Accessible.selectable: true

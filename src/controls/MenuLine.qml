@@ -18,12 +18,14 @@ T.MenuItem {
     activeFocusOnTab: enabled // and so the arrows pass over the others
     // The Tab key moves the keyboard alone, and Return would then do what another line than the lit one says.
     onActiveFocusChanged: if (activeFocus && menu) menu.currentIndex = ObjectModel.index
+    Accessible.name: text
     Accessible.ignored: isDivider
 
     contentItem: Item {
         BodyText {
             id: title
             anchors.left: parent.left
+            width: Math.min(implicitWidth, keys.x - Theme.unit * 2)
             anchors.verticalCenter: parent.verticalCenter
             visible: !line.isDivider
             text: line.text
@@ -35,7 +37,7 @@ T.MenuItem {
             anchors.verticalCenter: parent.verticalCenter
             visible: !line.isDivider
             text: line.keysText
-            color: line.enabled ? Theme.secondText : Theme.disabledText
+            color: !line.enabled ? Theme.disabledText : line.highlighted ? Theme.text : Theme.secondText
             font.pixelSize: Theme.smallSize
         }
         Rectangle {

@@ -20,12 +20,12 @@ T.ComboBox {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     displayText: shownText
-    opacity: enabled ? 1 : 0.5
     Accessible.name: label
 
     font.pixelSize: Theme.bodySize
     contentItem: BodyText {
         text: picker.displayText
+        color: picker.enabled ? Theme.text : Theme.disabledText
     }
     indicator: Symbol {
         anchors.right: parent.right
@@ -33,7 +33,7 @@ T.ComboBox {
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.down"
         size: 11
-        color: Theme.secondText
+        color: picker.enabled ? Theme.secondText : Theme.disabledText
     }
     background: ButtonFace {
         color: Theme.raised

@@ -12,10 +12,9 @@ T.ScrollBar {
     minimumSize: 0.08
     visible: policy !== T.ScrollBar.AlwaysOff && size < 1
 
-    contentItem: Rectangle {
+    contentItem: Pill {
         implicitWidth: 6
         implicitHeight: 6
-        radius: 3
         color: bar.pressed ? Theme.secondText : bar.hovered ? Theme.disabledText : Theme.line
     }
 }

@@ -47,7 +47,7 @@ FocusRow {
         text: modelData
         tip: segments.areTextsShown ? "" : modelData
         isCut: label.isCut
-        fill: isChosen ? Theme.selected : "transparent"
+        fill: isChosen ? Qt.tint(Theme.card, Qt.alpha(Theme.accent, 0.08)) : "transparent"
         outline: !isChosen ? "transparent" : enabled ? Theme.accent : Theme.line
         Accessible.role: Accessible.RadioButton
         Accessible.checkable: true

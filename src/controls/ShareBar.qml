@@ -3,23 +3,21 @@ import Quillmere
 
 // A bar that is filled to a share from 0 to 1. What is above 0 shows, if only as a sliver; a sliver is lower than the bar, so
 // that it stays inside of its round end.
-Rectangle {
+Pill {
     id: bar
 
     required property double share
     property color fill: Theme.accent
 
     implicitHeight: 6
-    radius: height / 2
     color: Theme.free
     Accessible.ignored: true
 
-    Rectangle {
+    Pill {
         objectName: "shareFill"
         anchors.verticalCenter: parent.verticalCenter
         width: bar.share > 0 ? Math.min(parent.width, Math.max(2, Math.round(parent.width * bar.share))) : 0
         height: width < parent.height ? parent.height - 2 : parent.height
-        radius: Math.min(width, height) / 2
         color: bar.fill
     }
 }

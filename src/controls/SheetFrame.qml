@@ -57,12 +57,15 @@ T.Popup {
                 BodyText {
                     id: titleText
                     anchors.verticalCenter: parent.verticalCenter
+                    width: Math.min(implicitWidth, toolRow.x - Theme.unit * 2 - x - (summaryText.visible ? summaryText.width + parent.spacing : 0))
                     text: sheet.title
                     font.pixelSize: 16
                     font.weight: Font.DemiBold
                 }
                 BodyText {
+                    id: summaryText
                     objectName: "sheetSummary"
+                    visible: text.length > 0
                     anchors.baseline: titleText.baseline
                     text: sheet.summary
                     color: Theme.secondText

@@ -2,7 +2,8 @@ pragma Singleton
 
 import QtQuick
 
-// Every colour, size and duration of the look. Spacing goes in steps of 4.
+// Every colour, size and duration of the look. Spacing goes in steps of 4. Each text colour has a contrast of at least 4.5 on each
+// ground, under the pointer and selected as well, and `disabledText` of 3 where nothing is laid over the ground.
 QtObject {
     property bool isDark: true // set by the window, which follows the system
 
@@ -13,21 +14,27 @@ QtObject {
     readonly property color line: isDark ? "#30363d" : "#d0d7de"
     readonly property color text: isDark ? "#e6edf3" : "#1f2328"
     readonly property color secondText: isDark ? "#8b949e" : "#59636e"
-    readonly property color disabledText: isDark ? "#484f58" : "#a4acb5"
-    readonly property color accent: isDark ? "#58a6ff" : "#0969da"
+    readonly property color disabledText: isDark ? "#6a727d" : "#848c95"
+    readonly property color accent: isDark ? "#58a6ff" : "#085ec4"
     readonly property color accentText: isDark ? "#0d1117" : "#ffffff"
-    readonly property color green: isDark ? "#3fb950" : "#1a7f37"
-    readonly property color amber: isDark ? "#d29922" : "#9a6700"
-    readonly property color red: isDark ? "#f85149" : "#cf222e"
+    readonly property color green: isDark ? "#3fb950" : "#176f30"
+    readonly property color amber: isDark ? "#d29922" : "#855900"
+    readonly property color red: isDark ? "#f85149" : "#bf1f2a"
+    readonly property color redText: isDark ? "#ff7b72" : "#bf1f2a"
     readonly property color free: isDark ? "#21262d" : "#e4e9ee"
 
     // Laid over what is under the pointer or pressed.
-    readonly property color hover: isDark ? "#12ffffff" : "#0c000000"
-    readonly property color pressed: isDark ? "#1fffffff" : "#18000000"
-    readonly property color selected: isDark ? "#2658a6ff" : "#1f0969da"
+    readonly property color hover: isDark ? "#0dffffff" : "#0c000000"
+    readonly property color pressed: isDark ? "#33000000" : "#18000000"
+    readonly property color selected: isDark ? "#331f6feb" : "#1f0969da"
 
     readonly property color tileOutline: "#66ffffff" // 0.4 of white, around the tile under the pointer
     readonly property color backdrop: isDark ? "#a6010409" : "#661f2328" // over the window, behind a sheet
+
+    // A colour of the data as the ink of a symbol: those are made for dark grounds.
+    function ink(tint: color): color {
+        return isDark ? tint : Qt.darker(tint, 1.7);
+    }
 
     readonly property int cardRadius: 8
     readonly property int controlRadius: 6

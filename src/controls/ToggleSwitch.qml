@@ -31,22 +31,20 @@ ButtonBase {
             text: control.text
             color: control.enabled ? Theme.text : Theme.disabledText
         }
-        Rectangle {
+        Pill {
             id: track
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             width: control.trackWidth
             height: 18
-            radius: height / 2
             color: !control.isOn ? Theme.window : control.enabled ? Theme.accent : Theme.disabledText
-            border.color: control.isOn ? color : control.enabled ? Theme.secondText : Theme.disabledText
-            Rectangle {
+            borderColor: control.isOn ? color : control.enabled ? Theme.secondText : Theme.disabledText
+            Pill {
                 x: control.isOn !== control.mirrored ? parent.width - width - 3 : 3
                 y: 3
                 width: 12
                 height: 12
-                radius: height / 2
-                color: !control.isOn ? track.border.color : control.enabled ? Theme.accentText : Theme.window
+                color: !control.isOn ? track.borderColor : control.enabled ? Theme.accentText : Theme.window
                 Behavior on x {
                     NumberAnimation {
                         duration: Theme.quick

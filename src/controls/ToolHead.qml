@@ -33,7 +33,7 @@ Item {
         BodyText {
             objectName: "screenTitle"
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.ceil(implicitWidth)
+            width: Math.min(Math.ceil(implicitWidth), Math.floor(head.width / 2))
             text: head.title
             font.pixelSize: Theme.titleSize
             font.weight: Font.DemiBold

@@ -30,7 +30,9 @@ ToolHead {
         onStopped: header.view.cancelScan()
 
         AgePill {
-            pill: header.view.pill
+            visible: header.view.pill.isShown
+            text: header.view.pill.text
+            tip: header.view.pill.tooltip
         }
     }
 }

@@ -1,5 +1,6 @@
 #include "screens/ProgramUnderTest.h"
 
+#include "screens/Contrast.h"
 #include "screens/Scene.h"
 #include "screens/Warnings.h"
 #include "shell/UpcomingView.h"
@@ -103,6 +104,16 @@ QQuickItem *ProgramUnderTest::itemWith(const QString &property, QQuickItem *unde
     }));
 }
 
+QVariantList ProgramUnderTest::itemsWith(const QString &property, QQuickItem *under) const
+{
+    QVariantList found;
+    for (QQuickItem *item : scene::items(rootOf(under), [name = property.toLatin1()](QQuickItem *candidate) {
+             return candidate->property(name.constData()).isValid();
+         }))
+        found << QVariant::fromValue(lent(item));
+    return found;
+}
+
 QString ProgramUnderTest::texts(QQuickItem *under) const
 {
     QStringList lines;
@@ -140,6 +151,12 @@ bool ProgramUnderTest::settle() const
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return QQuickTest::qWaitForPolish(window());
+}
+
+QString ProgramUnderTest::faintTexts() const
+{
+    const contrast::Measure measure = contrast::measure(*window());
+    return measure.texts > 0 ? measure.offenders.join(u'\n') : QStringLiteral("no text is on view");
 }
 
 void ProgramUnderTest::picture(const QString &name) const

@@ -42,6 +42,8 @@ public:
     /// The first item with a property of that name, of that value where one is given.
     Q_INVOKABLE QQuickItem *itemWith(const QString &property, QQuickItem *under = nullptr,
                                      const QVariant &value = {}) const;
+    /// All of these.
+    Q_INVOKABLE QVariantList itemsWith(const QString &property, QQuickItem *under = nullptr) const;
     /// All texts in reading order, a line each.
     Q_INVOKABLE QString texts(QQuickItem *under = nullptr) const;
     /// The lines of the menus that are open: "Title (Key) off", "-" for a divider.
@@ -53,6 +55,8 @@ public:
     /// Turns the main loop once, as it turns between any two doings of a person, and waits until every item has its
     /// place.
     Q_INVOKABLE bool settle() const;
+    /// The texts on view that can't be told well enough from what is behind them, a line each.
+    Q_INVOKABLE QString faintTexts() const;
     /// Saves a picture of the window where QUILLMERE_PICTURES names a folder.
     Q_INVOKABLE void picture(const QString &name) const;
 

@@ -1,6 +1,9 @@
 #include "screens/Scene.h"
 
+#include <QQmlContext>
 #include <QQuickItem>
+#include <QtQml/qqml.h>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -52,6 +55,18 @@ bool isText(const QQuickItem *item)
         return false;
     const QString text = item->property("text").toString();
     return !text.isEmpty() && text.front().category() != QChar::Other_PrivateUse;
+}
+
+QString typeName(const QObject *object)
+{
+    const QString type = QString::fromLatin1(object->metaObject()->className());
+    if (const qsizetype end = type.indexOf(QStringLiteral("_QML")); end > 0)
+        return type.left(end);
+    // A type that adds no property goes under the name of what it is made of; the file of its context tells it.
+    const QQmlContext *context = qmlContext(object);
+    return context && context->contextObject() == object
+               ? context->baseUrl().fileName().chopped(qstrlen(".qml"))
+               : QString();
 }
 
 std::vector<QQuickItem *> texts(QQuickItem *root)

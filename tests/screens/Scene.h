@@ -21,6 +21,9 @@ QQuickItem *item(QQuickItem *root, const Condition &condition);
 /// True for a text that is words, not a symbol.
 bool isText(const QQuickItem *item);
 
+/// The QML type that the object is made from, where that is one of ours: "ActionButton"; empty for others.
+QString typeName(const QObject *object);
+
 /// The texts on view, in reading order.
 std::vector<QQuickItem *> texts(QQuickItem *root);
 

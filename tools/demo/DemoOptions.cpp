@@ -37,6 +37,8 @@ DemoOptions DemoOptions::from(const QStringList &arguments)
         QStringLiteral("refresh"),
         QStringLiteral("Do what the menu's command of that name does, which starts the "
                        "scan of a screen that waits for one."));
+    const QCommandLineOption gallery(QStringLiteral("gallery"),
+                                     QStringLiteral("Show every control in each of its states instead."));
     const QCommandLineOption picture(
         QStringLiteral("picture"),
         QStringLiteral("Save a picture of the window once the screen has nothing more "
@@ -45,7 +47,7 @@ DemoOptions DemoOptions::from(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("The whole program over a made-up home in a temporary folder, beside the real one."));
-    parser.addOptions({help, light, screen, refresh, picture});
+    parser.addOptions({help, light, screen, refresh, gallery, picture});
     parser.process(arguments);
     if (parser.isSet(help))
         parser.showHelp();
@@ -53,5 +55,8 @@ DemoOptions DemoOptions::from(const QStringList &arguments)
         refuse(QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
     if (parser.isSet(screen) && !screenKeys().contains(parser.value(screen)))
         refuse(QStringLiteral("There is no screen '%1'.").arg(parser.value(screen)));
-    return {parser.isSet(light), parser.isSet(refresh), parser.value(screen), parser.value(picture)};
+    if (parser.isSet(gallery) && (parser.isSet(screen) || parser.isSet(refresh)))
+        refuse(QStringLiteral("The gallery has no screens."));
+    return {parser.isSet(light), parser.isSet(refresh), parser.isSet(gallery), parser.value(screen),
+            parser.value(picture)};
 }

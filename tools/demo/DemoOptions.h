@@ -8,6 +8,7 @@ struct DemoOptions
 {
     bool isLight = false;
     bool refreshes = false;
+    bool isGallery = false; // in place of the program
     QString screen;  ///< a navigate key; empty for the first screen
     QString picture; ///< a file to save a picture to; empty for none
 

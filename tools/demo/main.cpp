@@ -4,6 +4,7 @@
 #include "common/NotificationNames.h"
 #include "DemoHome.h"
 #include "DemoOptions.h"
+#include "gallery/Gallery.h"
 #include "platform/Appearance.h"
 #include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
@@ -73,6 +74,12 @@ struct DemoDesktop
     const Platform platform;
 };
 
+void savePicture(QQuickWindow &window, const QString &file)
+{
+    if (!window.grabWindow().save(file))
+        fprintf(stderr, "The picture could not be saved.\n");
+}
+
 /// Saves a picture of the window as soon as no scan is running, and ends the program.
 void savePictureWhenReady(Composition &composition, const QString &file, const std::function<void()> &exitNow)
 {
@@ -83,8 +90,7 @@ void savePictureWhenReady(Composition &composition, const QString &file, const s
         timer->stop();
         // One more turn, so that the last result is painted.
         QTimer::singleShot(300, timer, [&composition, file, exitNow] {
-            if (!composition.window()->grabWindow().save(file))
-                fprintf(stderr, "The picture could not be saved.\n");
+            savePicture(*composition.window(), file);
             exitNow();
         });
     });
@@ -115,6 +121,22 @@ int runDemo(DemoHome &demo, const DemoOptions &options)
     return QGuiApplication::exec();
 }
 
+/// The controls in their states. With a picture to save, all of them at once and until their tooltips have come.
+int runGallery(const DemoOptions &options)
+{
+    constexpr int tooltipsAreThere = 1500; // ms
+    Gallery gallery(!options.isLight);
+    if (!options.picture.isEmpty()) {
+        gallery.showWhole();
+        QTimer::singleShot(tooltipsAreThere, &gallery.window(), [&gallery, &options] {
+            savePicture(gallery.window(), options.picture);
+            QGuiApplication::quit();
+        });
+    }
+    QObject::connect(&gallery.window(), &QWindow::visibleChanged, qGuiApp, &QGuiApplication::quit);
+    return QGuiApplication::exec();
+}
+
 /// The options are read ahead of everything that takes time or needs a display.
 DemoOptions optionsFrom(int argc, char *argv[])
 {
@@ -128,6 +150,12 @@ int main(int argc, char *argv[])
 {
     try {
         const DemoOptions options = optionsFrom(argc, argv);
+        if (options.isGallery) {
+            rendering::choose(rendernode::isThere());
+            const QGuiApplication application(argc, argv);
+            program::describe();
+            return runGallery(options);
+        }
         DemoHome demo;
         // What goes to the Trash stays inside the demo as well; set before the desktop's library first looks.
         qputenv("XDG_DATA_HOME", paths::toBytes(demo.home() + QStringLiteral("/.local/share")));
@@ -137,7 +165,7 @@ int main(int argc, char *argv[])
         program::describe();
         return runDemo(demo, options);
     } catch (const std::exception &error) {
-        fprintf(stderr, "The demo's home could not be made: %s\n", error.what());
+        fprintf(stderr, "The demo could not begin: %s\n", error.what());
         return EXIT_FAILURE;
     }
 }

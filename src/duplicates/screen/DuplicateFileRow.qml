@@ -19,8 +19,6 @@ Item {
 
     signal revealed
 
-    opacity: view.canChoose ? 1 : 0.5
-
     Badge {
         id: pill
         width: 82
@@ -36,6 +34,7 @@ Item {
         y: Math.round(parent.height / 2) - height
         width: date.x - Theme.unit * 3 - x
         text: file.title
+        color: file.view.canChoose ? Theme.text : Theme.secondText
         elide: Text.ElideMiddle
     }
     BodyText {

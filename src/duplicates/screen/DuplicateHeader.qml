@@ -35,7 +35,7 @@ ToolHead {
                 visible: value.length > 0
                 label: header.view.texts.toDelete
                 value: header.view.toDeleteFigure
-                valueColor: Theme.red
+                valueColor: Theme.redText
             }
         }
     ]

@@ -1,0 +1,122 @@
+import QtQuick
+import Quillmere
+import Quillmere.Gallery
+
+// What takes up a part of a screen.
+Column {
+    width: parent ? parent.width : 0
+    spacing: Theme.unit * 8
+
+    GallerySection {
+        control: "Card"
+        poses: ["normal"]
+        GalleryCell {
+            Card {
+                width: 240
+                height: 80
+            }
+        }
+    }
+    GallerySection {
+        control: "EmptyState"
+        poses: GalleryPoses.still
+        GalleryCell {
+            id: empty
+            usual: "No duplicates found"
+            EmptyState {
+                width: 260
+                symbol: "checkmark.circle.fill"
+                text: empty.word
+                detail: empty.word
+            }
+        }
+    }
+    GallerySection {
+        control: "ToolHead"
+        poses: ["normal", "disabled", "right to left"]
+        GalleryCell {
+            id: head
+            usual: "Duplicate Finder"
+            ToolHead {
+                width: 900
+                title: head.word
+                symbol: "doc.on.doc"
+                subtitle: head.word
+                figures: Figure {
+                    label: "GROUPS"
+                    value: "128"
+                }
+                ActionButton {
+                    text: "Stop"
+                }
+                ActionButton {
+                    text: "Start Scan"
+                    isPrimary: true
+                }
+            }
+        }
+    }
+    GallerySection {
+        control: "ScanCommands"
+        poses: ["normal", "while it scans", "disabled", "right to left"]
+        GalleryCell {
+            id: commands
+            usual: "Start Scan"
+            ScanCommands {
+                isScanning: commands.pose === "while it scans"
+                canScan: !isScanning
+                scanText: commands.word
+                scanSymbol: "magnifyingglass"
+                stopText: "Stop"
+                stopTip: ""
+                busyText: "1,204 files"
+                isPrimary: true
+            }
+        }
+    }
+    GallerySection {
+        control: "ScanProgress"
+        role: Accessible.ProgressBar
+        poses: GalleryPoses.still
+        GalleryCell {
+            id: progress
+            usual: "Comparing contents"
+            ScanProgress {
+                width: 400
+                height: 150
+                percentText: "42%"
+                share: 0.42
+                text: progress.word
+                pathText: progress.word
+            }
+        }
+    }
+    GallerySection {
+        control: "FootBar"
+        poses: GalleryPoses.still
+        GalleryCell {
+            id: foot
+            usual: "3 files will go"
+            FootBar {
+                width: 560
+                text: foot.word
+                symbol: "trash"
+                tint: Theme.red
+                action.text: "Move to Trash"
+                action.isDestructive: true
+            }
+        }
+    }
+    GallerySection {
+        control: "FolderDrop"
+        poses: ["dragged over"]
+        GalleryCell {
+            id: drop
+            FolderDrop {
+                width: 240
+                height: 80
+                text: drop.word
+            }
+        }
+    }
+}

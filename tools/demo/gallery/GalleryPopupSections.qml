@@ -1,0 +1,156 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+import Quillmere.Gallery
+
+// What opens over a window. Here it stands open in its place, and leaves the rest of the gallery in use.
+Column {
+    width: parent ? parent.width : 0
+    spacing: Theme.unit * 8
+
+    GallerySection {
+        control: "PopupMenu"
+        poses: ["normal", "disabled", "long text", "right to left"]
+        GalleryCell {
+            id: lines
+            Item {
+                id: menuPlace
+                width: menu.width
+                height: menu.height
+                PopupMenu {
+                    id: menu
+                    parent: menuPlace
+                    visible: true
+                    focus: false
+                    margins: -1
+                    closePolicy: T.Popup.NoAutoClose
+                    MenuLine {
+                        text: lines.word
+                        keysText: "Ctrl+T"
+                    }
+                    MenuLine {
+                        isDivider: true
+                    }
+                    MenuLine {
+                        text: lines.word
+                        enabled: false
+                    }
+                }
+            }
+        }
+    }
+    GallerySection {
+        control: "TipPopup"
+        poses: ["normal", "long text", "right to left"]
+        GalleryCell {
+            id: tipped
+            Item {
+                id: tipPlace
+                width: 240
+                height: 60
+                Tip {
+                    control: tipPlace
+                    isDue: true
+                    text: tipped.word
+                }
+            }
+        }
+    }
+    GallerySection {
+        control: "ConfirmDialog"
+        poses: ["normal", "long text", "right to left"]
+        GalleryCell {
+            id: question
+            Item {
+                id: questionPlace
+                width: dialog.width
+                height: dialog.implicitHeight
+                ConfirmDialog {
+                    id: dialog
+                    parent: questionPlace
+                    modal: false
+                    focus: false
+                    margins: -1
+                    closePolicy: T.Popup.NoAutoClose
+                    title: question.word
+                    text: question.word
+                    note: question.word
+                    cancelLabel: "Cancel"
+                    actionLabel: "Delete"
+                }
+            }
+        }
+    }
+    GallerySection {
+        control: "SheetFrame"
+        poses: ["normal", "long text", "right to left"]
+        GalleryCell {
+            id: sheetCell
+            Item {
+                id: sheetPlace
+                width: 600
+                height: 260
+                SheetFrame {
+                    parent: sheetPlace
+                    modal: false
+                    focus: false
+                    margins: -1
+                    closePolicy: T.Popup.NoAutoClose
+                    title: sheetCell.word
+                    symbol: "clock"
+                    closeLabel: "Close"
+                    summary: "128"
+                }
+            }
+        }
+    }
+    GallerySection {
+        control: "PlainAlert"
+        poses: ["normal", "long text", "right to left"]
+        GalleryCell {
+            id: news
+            Item {
+                id: newsPlace
+                width: alert.width
+                height: alert.implicitHeight
+                PlainAlert {
+                    id: alert
+                    parent: newsPlace
+                    modal: false
+                    focus: false
+                    margins: -1
+                    closePolicy: T.Popup.NoAutoClose
+                    title: news.word
+                    text: news.word
+                    closeLabel: "OK"
+                }
+            }
+        }
+    }
+    GallerySection {
+        control: "TextPrompt"
+        poses: ["normal", "long text", "right to left"]
+        GalleryCell {
+            id: asked
+            Item {
+                id: askedPlace
+                width: prompt.width
+                height: prompt.implicitHeight
+                TextPrompt {
+                    id: prompt
+                    parent: askedPlace
+                    modal: false
+                    focus: false
+                    margins: -1
+                    closePolicy: T.Popup.NoAutoClose
+                    title: asked.word
+                    text: asked.word
+                    initialText: asked.word
+                    fieldLabel: "Name"
+                    cancelLabel: "Cancel"
+                    actionLabel: "Rename"
+                }
+            }
+        }
+    }
+}
