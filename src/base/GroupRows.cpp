@@ -124,6 +124,36 @@ int GroupRows::headOf(size_t group) const
     return head != rows_.end() && head->group == group ? static_cast<int>(head - rows_.begin()) : rowCount();
 }
 
+/// The row behind the group's last one.
+int GroupRows::endOf(size_t group) const
+{
+    const auto end = std::upper_bound(rows_.begin(), rows_.end(), group,
+                                      [](size_t wanted, const Row &row) { return wanted < row.group; });
+    return static_cast<int>(end - rows_.begin());
+}
+
+void GroupRows::resize(size_t group)
+{
+    const int first = headOf(group) + 1;
+    if (first > rowCount())
+        return;
+    const int oldEnd = endOf(group);
+    const int newEnd = first + static_cast<int>(memberCount(group));
+    if (newEnd > oldEnd) {
+        beginInsertRows({}, oldEnd, newEnd - 1);
+        std::vector<Row> added;
+        for (int row = oldEnd; row < newEnd; ++row)
+            added.push_back({group, row - first, memberId(group, static_cast<size_t>(row - first))});
+        rows_.insert(rows_.begin() + oldEnd, added.begin(), added.end());
+        endInsertRows();
+    } else if (newEnd < oldEnd) {
+        beginRemoveRows({}, newEnd, oldEnd - 1);
+        rows_.erase(rows_.begin() + newEnd, rows_.begin() + oldEnd);
+        endRemoveRows();
+    }
+    refreshGroup(group);
+}
+
 void GroupRows::refreshHead(size_t group)
 {
     const int head = headOf(group);

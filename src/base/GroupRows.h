@@ -36,6 +36,10 @@ public:
     /// rows went than can be told one by one the list is taken anew, and `takenAnew` tells.
     void shrink(const std::vector<size_t> &shown);
 
+    /// The group has more members than before at its end, or fewer, and what is said of the others may have changed: its other
+    /// rows and those of all other groups stay where they are. Nothing where it is not shown.
+    void resize(size_t group);
+
     /// Tells that what is said of one row has changed, of those of one group, or of all. What is not shown is passed over.
     void refreshHead(size_t group);
     void refreshMember(size_t group, size_t member);
@@ -69,6 +73,7 @@ protected:
 private:
     std::vector<Row> rowsOf(const std::vector<size_t> &shown) const;
     int headOf(size_t group) const;
+    int endOf(size_t group) const;
     bool isThere(const Row &row) const;
     void takeAnew(std::vector<Row> rows);
 
