@@ -55,12 +55,10 @@ QSet<QString> picked(const QString &id, const CleanupSelection &selection)
     return selection.selectedFilePaths.value(id);
 }
 
-qint64 size(const CleanupCategory &category, const CleanupSelection &selection)
+qint64 pickedSize(const QString &id, const CleanupSelection &selection)
 {
-    const QSet<QString> paths = picked(category.id, selection);
-    if (paths.isEmpty())
-        return category.size;
-    const auto files = selection.previewFiles.constFind(category.id);
+    const QSet<QString> paths = picked(id, selection);
+    const auto files = selection.previewFiles.constFind(id);
     if (files == selection.previewFiles.cend())
         return 0;
     qint64 sum = 0;
@@ -69,6 +67,11 @@ qint64 size(const CleanupCategory &category, const CleanupSelection &selection)
             sum = sums::saturated(sum, file.size);
     }
     return sum;
+}
+
+qint64 size(const CleanupCategory &category, const CleanupSelection &selection)
+{
+    return picked(category.id, selection).isEmpty() ? category.size : pickedSize(category.id, selection);
 }
 
 Categories selected(const Categories &categories)

@@ -26,6 +26,9 @@ bool isLocked(const CleanupCategory &category, const CleanupSelection &selection
 /// The files picked of a category; empty for the category as a whole.
 QSet<QString> picked(const QString &id, const CleanupSelection &selection);
 
+/// The sum of the picked files of a category's preview; files that the preview does not list count nothing.
+qint64 pickedSize(const QString &id, const CleanupSelection &selection);
+
 /// Bytes that a category counts for when it is cleaned: those of its picked files, else its own. May be less than is
 /// removed, or more: files that the preview does not list count nothing.
 qint64 size(const CleanupCategory &category, const CleanupSelection &selection);

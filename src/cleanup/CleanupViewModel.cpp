@@ -50,6 +50,11 @@ qint64 CleanupViewModel::selectedSize() const
     return cleanupselection::selectedSize(categories_, selection_);
 }
 
+qint64 CleanupViewModel::pickedSize(const QString &id) const
+{
+    return cleanupselection::pickedSize(id, selection_);
+}
+
 bool CleanupViewModel::isLocked(const CleanupCategory &category) const
 {
     return cleanupselection::isLocked(category, selection_);

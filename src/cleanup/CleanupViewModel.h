@@ -63,7 +63,8 @@ public:
 
     bool isCacheFresh() const; ///< there is a result, and it is younger than the cache lifetime
     std::vector<CleanupCategory> selectedCategories() const;
-    qint64 selectedSize() const; ///< bytes
+    qint64 selectedSize() const;                ///< bytes
+    qint64 pickedSize(const QString &id) const; ///< bytes of the files picked in a category's preview
     bool isLocked(const CleanupCategory &category) const;
     QString question() const; ///< what is asked before a cleaning
 
