@@ -16,6 +16,13 @@ QStringList screenKeys()
     return keys;
 }
 
+/// The parser knows the program's name only from an application object.
+[[noreturn]] void tellHelp(const QCommandLineParser &parser, const QString &program)
+{
+    printf("%s", qPrintable(parser.helpText().replace(QStringLiteral("<executable_name>"), program)));
+    exit(EXIT_SUCCESS);
+}
+
 [[noreturn]] void refuse(const QString &message)
 {
     fprintf(stderr, "%s\n", qPrintable(message));
@@ -50,7 +57,7 @@ DemoOptions DemoOptions::from(const QStringList &arguments)
     parser.addOptions({help, light, screen, refresh, gallery, picture});
     parser.process(arguments);
     if (parser.isSet(help))
-        parser.showHelp();
+        tellHelp(parser, arguments.constFirst());
     if (!parser.positionalArguments().isEmpty())
         refuse(QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
     if (parser.isSet(screen) && !screenKeys().contains(parser.value(screen)))

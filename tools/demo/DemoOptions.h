@@ -12,7 +12,7 @@ struct DemoOptions
     QString screen;  ///< a navigate key; empty for the first screen
     QString picture; ///< a file to save a picture to; empty for none
 
-    /// Ends the process where they ask for help, with what the demo takes, or hold what it doesn't know, with a message. An
-    /// application object must exist; it needs no display.
+    /// Ends the process where they ask for help, with what the demo takes, or hold what it doesn't know, with a
+    /// message. Needs no application object.
     static DemoOptions from(const QStringList &arguments);
 };

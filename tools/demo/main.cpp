@@ -137,11 +137,14 @@ int runGallery(const DemoOptions &options)
     return QGuiApplication::exec();
 }
 
-/// The options are read ahead of everything that takes time or needs a display.
+/// The options are read ahead of everything that takes time or needs a display. No application object is made for it: with
+/// the end of the first one of a process the toolkit forgets how to tell assistive technology of the window.
 DemoOptions optionsFrom(int argc, char *argv[])
 {
-    const QCoreApplication application(argc, argv);
-    return DemoOptions::from(QCoreApplication::arguments());
+    QStringList arguments;
+    for (int index = 0; index < argc; ++index)
+        arguments << QString::fromLocal8Bit(argv[index]);
+    return DemoOptions::from(arguments);
 }
 
 } // namespace
