@@ -12,12 +12,13 @@ T.Button {
     property color fill: "transparent"
     property color outline: "transparent"
     property int corner: Theme.controlRadius
+    property int toldRole: Accessible.Button // the toolkit gives a button of its own no other role than that
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
+    Accessible.role: toldRole
     Accessible.name: text
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

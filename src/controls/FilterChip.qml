@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Quillmere
 
 // One choice out of a row of them, with a count where one is told. The Tab key stops at the chosen one alone (see ChipRow).
-T.AbstractButton {
+T.RadioButton {
     id: chip
 
     required property string label
@@ -18,7 +18,7 @@ T.AbstractButton {
     focusPolicy: isSelected ? Qt.StrongFocus : Qt.ClickFocus
     text: label
     checked: isSelected
-    autoExclusive: true
+    checkable: false // a click asks the model, which decides what is chosen
     Accessible.role: Accessible.RadioButton
     Accessible.name: label
     Accessible.description: countText

@@ -11,7 +11,7 @@ ButtonBase {
     rightPadding: Theme.unit
     corner: Theme.tileRadius
     isCut: label.isCut
-    Accessible.role: Accessible.Link
+    toldRole: Accessible.Link
 
     contentItem: ButtonLabel {
         id: label

@@ -10,6 +10,7 @@ T.ComboBox {
 
     required property string label
     required property string shownText
+    readonly property bool isExpanded: popup.visible
 
     readonly property int heldWidth: TextRuler.widest(model, font)
 
@@ -21,6 +22,7 @@ T.ComboBox {
     focusPolicy: Qt.StrongFocus
     displayText: shownText
     Accessible.name: label
+    Accessible.description: shownText
 
     font.pixelSize: Theme.bodySize
     contentItem: BodyText {

@@ -6,6 +6,8 @@ import Quillmere
 PopupMenu {
     id: menu
 
+    title: RowTexts.menuName() // for assistive technology
+
     property alias row: target.row
     readonly property int shownRow: visible ? row : -1
 

@@ -10,6 +10,11 @@ QString RowTexts::told(const QString &spoken, const QString &place)
     return spoken.isEmpty() ? place : spoken + QStringLiteral(", ") + place;
 }
 
+QString RowTexts::menuName()
+{
+    return QStringLiteral("Commands of the row");
+}
+
 QString RowTexts::lines(const QStringList &lines)
 {
     QStringList shown = lines;

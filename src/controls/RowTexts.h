@@ -19,6 +19,9 @@ public:
     /// What assistive technology is told after the row's name: what else it shows, and its place.
     Q_INVOKABLE static QString told(const QString &spoken, const QString &place);
 
+    /// What the context menu of a row is called.
+    Q_INVOKABLE static QString menuName();
+
     /// The lines of a tooltip; those that are empty are left out.
     Q_INVOKABLE static QString lines(const QStringList &lines);
 };

@@ -10,6 +10,7 @@ T.ScrollBar {
     implicitHeight: Theme.unit * 2
     padding: 1
     minimumSize: 0.08
+    Accessible.ignored: true // who sees no list needs no handle: the list follows the keys
     visible: policy !== T.ScrollBar.AlwaysOff && size < 1
 
     contentItem: Pill {

@@ -49,7 +49,7 @@ FocusRow {
         isCut: label.isCut
         fill: isChosen ? Qt.tint(Theme.card, Qt.alpha(Theme.accent, 0.08)) : "transparent"
         outline: !isChosen ? "transparent" : enabled ? Theme.accent : Theme.line
-        Accessible.role: Accessible.RadioButton
+        toldRole: Accessible.RadioButton
         Accessible.checkable: true
         Accessible.checked: isChosen
         onClicked: segments.chosen(index)

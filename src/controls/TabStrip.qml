@@ -44,7 +44,7 @@ FocusRow {
         focusPolicy: index === strip.stop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
         text: modelData
         isCut: label.isCut
-        Accessible.role: Accessible.PageTab
+        toldRole: Accessible.PageTab
         Accessible.selectable: true
         Accessible.selected: isChosen
         onClicked: strip.chosen(index)

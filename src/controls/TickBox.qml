@@ -16,7 +16,7 @@ ButtonBase {
     leftPadding: Theme.unit
     rightPadding: Theme.unit
     isCut: word.truncated
-    Accessible.role: Accessible.CheckBox
+    toldRole: Accessible.CheckBox
     Accessible.name: label
     Accessible.checkable: true
     Accessible.checked: isTicked

@@ -4,6 +4,7 @@
 #include "common/SettingsKeys.h"
 #include "disk/DiskAnalyzerView.h"
 #include "duplicates/screen/DuplicateFinderView.h"
+#include "program/AccessibleItems.h"
 #include "program/FallbackPanel.h"
 #include "program/Popups.h"
 #include "shell/UpcomingView.h"
@@ -110,6 +111,7 @@ MainContentView::Screens Composition::screens()
 
 bool Composition::show()
 {
+    accessibleitems::install();
     QFontDatabase::addApplicationFont(
         QStringLiteral(":/qt/qml/Quillmere/controls/symbols/QuillmereSymbols.ttf"));
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));

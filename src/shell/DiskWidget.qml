@@ -70,12 +70,16 @@ Rectangle {
             BodyText {
                 anchors.left: parent.left
                 text: widget.sidebar.usedText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 color: Theme.secondText
                 font.pixelSize: Theme.captionSize
             }
             BodyText {
                 anchors.right: parent.right
                 text: widget.sidebar.freeText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 color: Theme.secondText
                 font.pixelSize: Theme.captionSize
             }

@@ -14,6 +14,7 @@ T.Button {
     required property var items
     required property bool isBarInUse // one of the menus is open
     readonly property bool isShown: menu.visible
+    readonly property bool isExpanded: isShown // for assistive technology
 
     signal asked(bool isByKey)
     signal stepped(int step)
@@ -32,7 +33,8 @@ T.Button {
     rightPadding: Theme.unit * 3
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
-    Accessible.role: Accessible.MenuItem
+    readonly property int toldRole: Accessible.MenuItem // the toolkit overwrites the one below
+    Accessible.role: toldRole
     onClicked: isShown ? hideMenu() : asked(false)
     onHoveredChanged: if (hovered && isBarInUse && !isShown) asked(false)
 
@@ -71,6 +73,7 @@ T.Button {
     }
     CommandMenu {
         id: menu
+        title: words.text
         y: title.height
         commands: title.commands
         items: title.items

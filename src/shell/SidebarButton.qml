@@ -21,6 +21,7 @@ T.ItemDelegate {
     text: itemTitle
     highlighted: isSelected
     Accessible.role: Accessible.ListItem
+    Accessible.description: RowTexts.told(badge, RowTexts.place(index, ListView.view ? ListView.view.count : 0))
     Accessible.selectable: true
     Accessible.selected: isSelected
     Keys.onReturnPressed: clicked()

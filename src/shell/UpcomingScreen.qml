@@ -35,6 +35,8 @@ Item {
             wrapMode: Text.Wrap
             elide: Text.ElideNone
             lineHeight: 1.3
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

@@ -39,6 +39,7 @@ Card {
                 width: folders.width
                 text: pathText
                 tip: panel.view.texts.changeFolderTip
+                Accessible.description: RowTexts.told(tip, RowTexts.place(index, ListView.view ? ListView.view.count : 0))
                 canBeRemoved: true
                 removeLabel: panel.view.texts.removeScanPath
                 removeTip: panel.view.texts.removeScanPathTip
@@ -63,6 +64,7 @@ Card {
                 required property bool isOverridden
                 width: folders.width
                 text: ruleText
+                Accessible.description: RowTexts.told(tip, RowTexts.place(index, ListView.view ? ListView.view.count : 0))
                 suffix: isOverridden ? panel.view.texts.overridden : ""
                 removeTip: panel.view.texts.removeExclusionTip
                 removeButton.objectName: "removeExclusion"
