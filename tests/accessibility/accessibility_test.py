@@ -1,0 +1,249 @@
+#!/usr/bin/env python3
+"""Starts the demo in its real window on a private desktop and reads it the way a screen reader does.
+
+Usage: accessibility_test.py PATH-OF-THE-DEMO [TEST...]
+
+Every screen is judged node by node (told.faults), so that a further one takes a class with its screen's key and what its
+reader must hear. Keys come from the display's keyboard, presses through the accessibility bus.
+"""
+
+import os
+import signal
+import sys
+import unittest
+
+from private_desktop import PrivateDesktop, wait_for
+
+DEMO = ""
+DESKTOP = None
+TOLD = None  # the module `told`; it looks for its bus when it is imported, so that it comes after the desktop
+
+
+class ScreenTest(unittest.TestCase):
+    """The program with one screen on view."""
+
+    arguments = []
+
+    def setUp(self):
+        self.demo = DESKTOP.start([DEMO, *self.arguments])
+        self.addCleanup(self.end_demo)
+        wait_for(self.window, "the window")
+        DESKTOP.give_window_the_keyboard()
+
+    def end_demo(self):
+        if self.demo in DESKTOP.children:
+            self.assertEqual(DESKTOP.stop(self.demo), 0)
+
+    def window(self):
+        """The window as it is told now; nothing while there is none."""
+        for application in TOLD.applications():
+            told = TOLD.read(application)
+            if told and told.children and application.get_process_id() == self.demo.pid:
+                return told.children[0]
+        return None
+
+    def window_with(self, role, name=None):
+        """The window as soon as it tells of such a node."""
+        def look():
+            window = self.window()
+            return window if window and window.find(role, name) else None
+        return wait_for(look, f"{role} '{name or ''}'")
+
+    def node(self, role, name=None):
+        return self.window_with(role, name).find(role, name)[0]
+
+    def settle(self, is_settled, what):
+        """The window as soon as that holds of it."""
+        def look():
+            window = self.window()
+            return window if window and is_settled(window) else None
+        return wait_for(look, what)
+
+    def focused(self, role):
+        """The one node of that role that has the focus, as soon as there is one."""
+        def has_focus(window):
+            return [node for node in window.find(role) if "focused" in node.states]
+        return has_focus(self.settle(has_focus, f"the focus on a {role}"))[0]
+
+    def assert_sound(self, window):
+        """Nothing is wrong with any node, and one thing at most has the keyboard."""
+        told = "\n".join(window.lines())
+        self.assertEqual(TOLD.faults(window), [], told)
+
+    def assert_tells(self, window, *expected):
+        """That there is a node of each role and name."""
+        missing = [pair for pair in expected if not window.find(*pair)]
+        self.assertEqual(missing, [], "\n".join(window.lines()))
+
+    def assert_walks(self, list_name, first, second):
+        """Down and Up move the focus between the first rows of a list, which tell their name, detail and place."""
+        self.node("list", list_name).children[0].do("SetFocus")
+        DESKTOP.press("Home", "Down")
+        for key, (name, description) in (("Up", second), ("Down", first)):
+            row = self.focused_row(description)
+            self.assertEqual((row.name, row.role), (name, "list item"))
+            self.assertIn("selected", row.states)
+            DESKTOP.press(key)
+        self.focused_row(second[1])
+
+    def focused_row(self, description):
+        def rows(window):
+            return [row for row in window.find("list item")
+                    if {"focused", "selected"} <= row.states and description in row.description]
+        return rows(self.settle(rows, f"the focus on the row '{description}'"))[0]
+
+
+class WindowTest(ScreenTest):
+    """What stands around every screen, and one that is to come."""
+
+    arguments = ["--screen", "search"]
+
+    def test_an_upcoming_screen_is_told(self):
+        window = self.window_with("heading", "Search")
+        self.assert_sound(window)
+        self.assert_tells(window, ("heading", "NAVIGATION"), ("heading", "TOOLS"), ("heading", "APPS"),
+                          ("push button", "Search files..."), ("menu item", "Tools"))
+        selected = [row.name for row in window.find("list item") if "selected" in row.states]
+        self.assertEqual(selected, ["Search"])
+        self.assertTrue([label for label in window.find("label") if label.name.endswith(" free")])
+        self.assertNotIn("enabled", window.find("push button", "Settings")[0].states)
+        self.assertIn("enabled", window.find("push button", "Activity History")[0].states)
+
+    def test_a_menu_is_told_and_its_line_is_pressed(self):
+        self.node("menu item", "File").do("Press")
+        window = self.window_with("popup menu", "File")
+        self.assert_sound(window)
+        self.assertIn("expanded", window.find("menu item", "File")[0].states)
+        DESKTOP.press("Escape")
+        self.settle(lambda told: not told.find("popup menu"), "the menu closed")
+        self.node("menu item", "Tools").do("Press")
+        menu = self.node("popup menu", "Tools")
+        menu.find("menu item", "Scan for Duplicates")[0].do("Press")
+        self.window_with("heading", "Duplicate Finder")
+
+    def test_a_row_of_the_sidebar_is_pressed(self):
+        self.node("list item", "Duplicates").do("Press")
+        window = self.window_with("heading", "Duplicate Finder")
+        self.assertEqual([row.name for row in window.find("list item") if "selected" in row.states], ["Duplicates"])
+
+
+class DiskAnalyzerTest(ScreenTest):
+    """The Disk Analyzer."""
+
+    arguments = ["--screen", "diskAnalyzer", "--refresh"]
+    LIST = "CONTENTS (8 items)"
+
+    def test_the_screen_is_told(self):
+        window = self.window_with("list", self.LIST)
+        self.assert_sound(window)
+        self.assert_tells(window, ("heading", "Disk Analyzer"), ("heading", "VISUAL MAP"), ("push button", "Home"),
+                          ("image", "Map of what takes the most space"))
+        self.assertNotIn("enabled", window.find("push button", "Go back")[0].states)
+
+    def test_the_rows_are_walked_and_a_menu_is_told(self):
+        self.window_with("list", self.LIST)
+        self.assert_walks(self.LIST, ("Downloads", "1 of 8"), ("Movies", "2 of 8"))
+        DESKTOP.press("Menu")
+        window = self.window_with("popup menu")
+        self.assert_sound(window)
+        self.assert_tells(window, ("menu item", "Reveal in Finder"), ("menu item", "Move to Trash"))
+        DESKTOP.press("Escape")
+        self.settle(lambda told: not told.find("popup menu"), "the menu closed")
+
+
+class DuplicateFinderTest(ScreenTest):
+    """The Duplicate Finder, and the sheet with what it has done."""
+
+    arguments = ["--screen", "duplicates", "--refresh"]
+
+    def test_the_screen_is_told(self):
+        window = self.window_with("label", "7 files marked for deletion (165 MB)")
+        self.assert_sound(window)
+        self.assert_tells(window, ("heading", "Duplicate Finder"), ("label", "Groups: 6"), ("label", "Files: 13"),
+                          ("label", "Wasted: 165 MB"), ("label", "To delete: 7 files (165 MB)"),
+                          ("push button", "Move to Trash"), ("list", "Groups"), ("panel", "Types of files"))
+        self.assertIn("checked", window.find("radio button", "All")[0].states)
+        kept = [row for row in window.find("list item") if row.description.startswith("KEEP")]
+        self.assertTrue(kept and all("checked" in row.states for row in kept))
+        going = [row for row in window.find("list item") if row.description.startswith("DELETE")]
+        self.assertTrue(going and not any("checked" in row.states for row in going))
+
+    def test_the_rows_are_walked(self):
+        self.window_with("list", "Groups")
+        name = "holiday-photos.zip"
+        self.assert_walks("Groups", (name, "48 MB wasted, 1 of 19"), (name, ", 2 of 19"))
+
+    def test_a_chip_is_chosen_by_a_press(self):
+        self.node("radio button", "Media").do("Press")
+        window = self.settle(lambda told: [chip for chip in told.find("radio button", "Media")
+                                           if "checked" in chip.states], "the chip chosen")
+        self.assert_sound(window)
+
+    def test_the_scope_is_told(self):
+        window = self.window_with("heading", "Scan Directories")
+        self.assert_sound(window)
+        self.assert_tells(window, ("heading", "Ignore Directories"), ("list item", "~/Library"))
+        self.assertIn("collapsed", window.find("combo box", "Min file size:")[0].states)
+        window.find("push button", "Hide Settings")[0].do("Press")
+        self.settle(lambda told: not told.find("heading", "Scan Directories"), "the scope hidden")
+        self.assert_sound(self.window())
+
+    def test_the_question_and_the_history_are_told(self):
+        self.node("push button", "Move to Trash").do("Press")
+        window = self.window_with("alert")
+        self.assert_sound(window)
+        question = window.find("alert")[0]
+        self.assertEqual(question.name, "Confirm Deletion")
+        question.find("push button", "Move to Trash")[0].do("Press")
+        self.settle(lambda told: not told.find("alert"), "the question gone")
+        self.node("push button", "Activity History").do("Press")
+        window = self.window_with("dialog", "Activity History")
+        self.assert_sound(window)
+        row = window.find("dialog")[0].find("list")[0].children[0]
+        self.assertIn("collapsed", row.states)
+        row.do("Press")
+        self.settle(lambda told: "expanded" in told.find("dialog")[0].find("list")[0].children[0].states,
+                    "the entry expanded")
+        self.assert_sound(self.window())
+
+
+class BrokenBusTest(unittest.TestCase):
+    """The window matters more than what listens to it."""
+
+    def setUp(self):
+        self.desktop = PrivateDesktop()
+        self.addCleanup(self.desktop.end)
+
+    def assert_works(self, demo):
+        """It has a window and ends when it is asked to, which takes its event loop."""
+        self.desktop.give_window_the_keyboard()
+        self.assertIsNone(demo.poll())
+        self.assertEqual(self.desktop.stop(demo), 0)
+
+    def test_a_launcher_that_never_answers_stops_nothing(self):
+        launcher = self.desktop.children[-1]
+        os.kill(launcher.pid, signal.SIGSTOP)
+        try:
+            self.assert_works(self.desktop.start([DEMO]))
+        finally:
+            os.kill(launcher.pid, signal.SIGCONT)
+
+
+def main():
+    global DEMO, DESKTOP, TOLD  # pylint: disable=global-statement
+    if len(sys.argv) < 2:
+        sys.exit(__doc__)
+    DEMO = os.path.abspath(sys.argv[1])
+    DESKTOP = PrivateDesktop()
+    try:
+        os.environ.update(DESKTOP.environment)
+        import told  # pylint: disable=import-outside-toplevel
+        TOLD = told
+        program = unittest.main(argv=sys.argv[:1] + sys.argv[2:], verbosity=2, exit=False)
+    finally:
+        DESKTOP.end()
+    sys.exit(not program.result.wasSuccessful())
+
+
+if __name__ == "__main__":
+    main()
