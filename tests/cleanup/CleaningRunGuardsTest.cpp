@@ -1,6 +1,7 @@
 #include "cleanup/CleaningRun.h"
 
 #include "CleanupServices.h"
+#include "support/OrdinaryUser.h"
 
 #include <gtest/gtest.h>
 
@@ -160,4 +161,28 @@ TEST_F(CleaningRunGuardsTest, takesNamesInAnyBytes)
     run(u"logs"_s, {at(u"Library/Logs"_s)});
     EXPECT_EQ(services.names(u"Library/Logs"_s), QStringList());
     EXPECT_EQ(services.names(u".Trash"_s).size(), names.size());
+}
+
+TEST(CleaningRun, leavesWhatAFolderHoldsThatNobodyMayWriteTo)
+{
+    EXPECT_TRUE(holdsForOrdinaryUser([] {
+        CleanupServices services;
+        services.test.useDu("printf '100\\t'\n");
+        for (const QString &place : {u"Library/Logs"_s, u".Trash"_s}) {
+            services.file(place + u"/goes"_s);
+            services.file(place + u"/read-only/stays"_s);
+            services.test.temp.setMode(u"home/"_s + place + u"/read-only"_s, 0500);
+        }
+        services.file(u"Library/Caches/Google/Chrome/stays"_s);
+        services.test.temp.setMode(u"home/Library/Caches/Google/Chrome"_s, 0500);
+        services.scan();
+        for (const QString &id : {u"browser-cache"_s, u"logs"_s, u"trash"_s})
+            services.tickWhole(id);
+        services.clean();
+        EXPECT_EQ(services.names(u"Library/Caches/Google/Chrome"_s), QStringList(u"stays"_s));
+        EXPECT_FALSE(services.names(u"Library/Logs"_s).contains(u"goes"_s));
+        EXPECT_EQ(services.names(u".Trash/read-only"_s), QStringList(u"stays"_s));
+        EXPECT_EQ(services.madeHistory->entries().size(), 1U);
+        EXPECT_FALSE(services.cleanup->isCleaning());
+    }));
 }

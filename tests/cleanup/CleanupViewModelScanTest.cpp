@@ -1,7 +1,9 @@
+#include "base/ChildProcess.h"
 #include "CleanupServices.h"
 #include "common/SettingsKeys.h"
+#include "filesystem/InjectedFaults.h"
+#include "support/FifoLine.h"
 #include "support/ObservedDu.h"
-#include "support/RunningProbe.h"
 
 #include <QSignalSpy>
 
@@ -142,6 +144,62 @@ TEST_F(CleanupViewModelScanTest, stopEndsTheProbesOfEveryTool)
     test.settle();
     EXPECT_FALSE(cleanup.isScanning());
     EXPECT_TRUE(cleanup.categories().empty());
+}
+
+TEST_F(CleanupViewModelScanTest, stopInTheSearchForEmptyFoldersDropsTheResult)
+{
+    services.folder(u"Downloads/empty"_s);
+    const InjectedFaults step([this](files::Operation operation, const QString &path) {
+        if (operation == files::Operation::list && path == services.inHome(u"Downloads/empty"_s))
+            cleanup.stopScan();
+        return 0;
+    });
+    services.scan();
+    EXPECT_TRUE(cleanup.cancelRequested());
+    EXPECT_FALSE(cleanup.isScanning());
+    EXPECT_TRUE(cleanup.categories().empty());
+}
+
+TEST_F(CleanupViewModelScanTest, stopWhileFilesAreCountedDropsTheResult)
+{
+    services.file(u"Library/Logs/file"_s);
+    const FifoLine begun(test.temp.at(u"begun"_s));
+    const FifoLine goOn(test.temp.at(u"go on"_s));
+    test.platform.programs.sh =
+        test.temp.script(u"sh"_s, "echo begun >'" + paths::toBytes(begun.path()) + "'\nread -r line <'"
+                                      + paths::toBytes(goOn.path()) + "'\necho 7\n");
+    cleanup.scan();
+    std::thread job([this] { test.workQueue.run(); });
+    EXPECT_EQ(begun.read(), "begun");
+    cleanup.stopScan();
+    EXPECT_TRUE(cleanup.isScanning());
+    EXPECT_TRUE(ChildProcess::launchDetached(u"/bin/sh"_s, {u"-c"_s, u"echo on >'%1'"_s.arg(goOn.path())}));
+    job.join();
+    test.settle();
+    EXPECT_FALSE(cleanup.isScanning());
+    EXPECT_TRUE(cleanup.categories().empty());
+}
+
+TEST_F(CleanupViewModelScanTest, stopIsNoMatterForAPreview)
+{
+    services.file(u"Library/Logs/file"_s);
+    services.scan();
+    cleanup.loadPreview(*services.category(u"logs"_s));
+    cleanup.stopScan();
+    test.settle();
+    EXPECT_EQ(cleanup.previewFiles().value(u"logs"_s).size(), 1U);
+}
+
+TEST_F(CleanupViewModelScanTest, stopIsNoMatterForACleaning)
+{
+    services.file(u"Library/Logs/file"_s);
+    services.scan();
+    services.tickWhole(u"logs"_s);
+    cleanup.clean();
+    cleanup.stopScan();
+    test.settle();
+    EXPECT_EQ(services.names(u"Library/Logs"_s), QStringList());
+    EXPECT_EQ(services.ids(), QStringList(u"trash"_s)) << "the scan that follows is not stopped";
 }
 
 TEST_F(CleanupViewModelScanTest, resultOfAnEarlierScanIsDropped)

@@ -1,6 +1,7 @@
 #include "cleanup/FileCount.h"
 
 #include "base/Paths.h"
+#include "ManyFiles.h"
 #include "platform/ChildPrograms.h"
 #include "support/TempHome.h"
 
@@ -50,8 +51,7 @@ TEST(FileCount, countsInFoldersOfAnyName)
 TEST(FileCount, stopsAtTenThousand)
 {
     const TempHome temp;
-    for (int number = 0; number < 10050; ++number)
-        temp.file(u"root/%1"_s.arg(number));
+    makeManyFiles(temp, u"root"_s, 10050);
     EXPECT_EQ(filecount::count({}, temp.at(u"root"_s)), 10000);
 }
 

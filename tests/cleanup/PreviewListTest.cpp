@@ -2,6 +2,7 @@
 
 #include "base/Paths.h"
 #include "filesystem/InjectedFaults.h"
+#include "ManyFiles.h"
 #include "support/TempHome.h"
 
 #include <cerrno>
@@ -119,8 +120,8 @@ TEST_F(PreviewListTest, passesOverFilesThatCannotBeAsked)
 
 TEST_F(PreviewListTest, endsAtItsCapButForOneFileOfEachFurtherPlace)
 {
-    for (int number = 0; number < 10005; ++number)
-        temp_.file(u"first/%1/%2"_s.arg(number % 20).arg(number));
+    makeManyFiles(temp_, u"first/one"_s, 6000);
+    makeManyFiles(temp_, u"first/two"_s, 4005);
     for (const QString &place : {u"second"_s, u"third"_s}) {
         for (int number = 0; number < 3; ++number)
             temp_.file(place + u'/' + place + QString::number(number), "x");
@@ -137,8 +138,7 @@ TEST_F(PreviewListTest, endsAtItsCapButForOneFileOfEachFurtherPlace)
 
 TEST_F(PreviewListTest, readsNoFurtherThanItsCap)
 {
-    for (int number = 0; number < 10005; ++number)
-        temp_.file(u"place/%1"_s.arg(number));
+    makeManyFiles(temp_, u"place"_s, 10005);
     int asked = 0;
     const InjectedFaults faults([&asked](files::Operation operation, const QString &) {
         asked += operation == files::Operation::attributes ? 1 : 0;
