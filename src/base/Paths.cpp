@@ -148,7 +148,14 @@ QString extension(const QString &path)
 
 QString join(const QString &folder, const QString &name)
 {
-    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+    const bool needsSlash = !folder.endsWith(u'/');
+    QString path;
+    path.reserve(folder.size() + (needsSlash ? 1 : 0) + name.size()); // walks join a path for each entry
+    path += folder;
+    if (needsSlash)
+        path += u'/';
+    path += name;
+    return path;
 }
 
 QString standardized(const QString &path)

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -38,8 +39,9 @@ void addFiles(const QString &place, std::optional<Date> cutoff, std::vector<Prev
         const auto size = sizeIfListed(entry, cutoff);
         if (!size)
             return true;
-        const QString name = paths::fromBytes(entry.name());
-        list.push_back({name, *size, paths::join(folder, name)});
+        QString name = paths::fromBytes(entry.name());
+        QString path = paths::join(folder, name);
+        list.push_back({std::move(name), *size, std::move(path)});
         return list.size() < previewlist::mostFiles;
     });
 }
