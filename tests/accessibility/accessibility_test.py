@@ -234,6 +234,7 @@ def main():
     if len(sys.argv) < 2:
         sys.exit(__doc__)
     DEMO = os.path.abspath(sys.argv[1])
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     DESKTOP = PrivateDesktop()
     try:
         os.environ.update(DESKTOP.environment)

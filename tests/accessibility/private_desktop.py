@@ -4,6 +4,7 @@ Everything on it is started here, carries the mark of this desktop in its enviro
 nothing of the session that the test runs in is asked, shown or changed.
 """
 
+import atexit
 import os
 import shutil
 import signal
@@ -36,6 +37,7 @@ class PrivateDesktop:
     def __init__(self, with_accessibility=True):
         self.folder = tempfile.mkdtemp(prefix="quillmere-desktop-")
         self.children = []
+        atexit.register(self.end)  # also where the test itself is told to end
         self.environment = {
             "PATH": os.environ["PATH"], "HOME": self.folder, "TMPDIR": self.folder, "XDG_RUNTIME_DIR": self.folder,
             "LC_ALL": "C.UTF-8", "GSETTINGS_BACKEND": "memory", MARK: self.folder, "QT_QPA_PLATFORM": "xcb",
