@@ -1,13 +1,30 @@
 import QtQuick
+import Quillmere
 import Quillmere.Screens
 
 // What is open follows the desktop from dark to light and back.
 ScreenCase {
     name: "Appearance"
 
-    // Of each palette, what no tile of the map has in both.
-    readonly property var darkInks: ["#161b22", "#1c2128", "#30363d", "#e6edf3"]
-    readonly property var lightInks: ["#f6f8fa", "#d0d7de", "#1f2328", "#59636e", "#0969da"]
+    // Of each palette, what no tile of the map has in both. Read from the theme, since a colour that has left it would
+    // never be seen and its check hold whatever the program does.
+    property var lightInks: []
+    property var darkInks: []
+
+    Component.onCompleted: {
+        lightInks = inks(false, ["raised", "line", "text", "secondText", "accent"]);
+        darkInks = inks(true, ["card", "raised", "line", "text"]);
+    }
+
+    function inks(isDark, names) {
+        Theme.isDark = isDark; // the tests' own; the program's follows its desktop
+        return Array.from(names, name => String(Theme[name]));
+    }
+
+    function test_inksAreThoseOfTwoPalettes() {
+        compare(lightInks.filter(ink => darkInks.includes(ink)).length, 0);
+        compare(darkInks.length + lightInks.length, 9);
+    }
 
     // Of these colours, those that something on view has.
     function seen(inks) {
@@ -18,10 +35,10 @@ ScreenCase {
         compare(seen(lightInks), "");
         Surroundings.setDark(false);
         compare(seen(darkInks), "");
-        verify(seen(lightInks).includes("#1f2328"));
+        verify(seen(lightInks).includes(lightInks[2]));
         Surroundings.setDark(true);
         compare(seen(lightInks), "");
-        verify(seen(darkInks).includes("#e6edf3"));
+        verify(seen(darkInks).includes(darkInks[3]));
     }
 
     function test_screensFollow_data() {

@@ -110,6 +110,7 @@ AnalyzerCase {
         press(Qt.Key_Menu);
         tryVerify(() => Program.menuLines().startsWith("Drill Into"), patience, "the menu opens");
         Program.settle();
+        verify(table().currentItem.isMenuTarget);
         const menu = Program.itemWith("isDivider");
         const below = menu.mapToItem(table().currentItem, 0, 0);
         verify(below.x >= 0 && below.x < table().width && below.y > 0 && below.y < 3 * table().currentItem.height,
@@ -117,6 +118,7 @@ AnalyzerCase {
         press(Qt.Key_Down);
         press(Qt.Key_Return);
         tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
+        verify(!table().currentItem.isMenuTarget);
         compare(Surroundings.calls(), `reveal ${home}/Movies`);
         tryCompare(table(), "activeFocus", true, patience);
     }

@@ -128,8 +128,8 @@ DuplicatesCase {
     // Where the commands of the head stand, and how wide they are.
     function places() {
         Program.settle();
-        const commands = ["settingsButton", "scanButton"].map(name => Program.named(name));
-        return commands.map(item => [item.mapToItem(null, 0, 0), item.width].join()).join(" ");
+        const commands = Array.from(["settingsButton", "scanButton"], name => Program.named(name));
+        return Array.from(commands, item => [item.mapToItem(null, 0, 0), item.width].join()).join(" ");
     }
 
     function test_nothingMovesWhenAScanBeginsOrEnds() {

@@ -97,6 +97,10 @@ DuplicatesCase {
     function test_filterIsChosenByKeyboard() {
         tabTo("the chips", item => item === chip("all"));
         verify(focusItem().visualFocus);
+        press(Qt.Key_Tab);
+        compare(focusItem().isSelected, undefined); // no other chip is a stop
+        press(Qt.Key_Backtab);
+        compare(focusItem(), chip("all"));
         press(Qt.Key_Right);
         press(Qt.Key_Right);
         compare(focusItem(), chip("documents"));

@@ -26,10 +26,10 @@ HistoryCase {
         askToClear();
         find("Deletes the activity log. Files already moved to Trash stay there. This can't be undone.");
         Program.picture("history-clear");
-        verify(Qt.colorEqual(Program.named("sheetBackdrop").color, "transparent")); // the question has its own
+        verify(Qt.colorEqual(told(Program.named("sheetBackdrop"), "color"), "transparent")); // the question has its own
         data.how();
         tryGone("Clear all history?");
-        verify(!Qt.colorEqual(Program.named("sheetBackdrop").color, "transparent"));
+        verify(!Qt.colorEqual(told(Program.named("sheetBackdrop"), "color"), "transparent"));
         verify(Program.isSheetUp());
         compare(titles().length, 3);
     }
