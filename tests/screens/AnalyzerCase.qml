@@ -79,4 +79,15 @@ ScreenCase {
         Program.settle();
         return Program.texts(Program.named("breadcrumbList")).split("\n").filter(name => name !== "");
     }
+
+    // Up to the first row, then down to the row of that name.
+    function walkTo(name) {
+        Program.settle();
+        verify(table().activeFocus, `the table has the keyboard, not\n${Program.focusPath()}`);
+        for (let i = 0; i < table().count; ++i)
+            press(Qt.Key_Up);
+        for (let i = 0; i <= table().count && table().currentItem?.entryName !== name; ++i)
+            press(Qt.Key_Down);
+        compare(table().currentItem.entryName, name);
+    }
 }

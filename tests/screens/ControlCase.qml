@@ -51,6 +51,18 @@ TestCase {
         keyClick(key, modifiers ?? Qt.NoModifier);
     }
 
+    function write(text) {
+        for (const sign of text)
+            keyClick(sign);
+    }
+
+    // A control with the keyboard in it.
+    function field(component, properties) {
+        const made = make(component, properties);
+        made.forceActiveFocus(Qt.TabFocusReason);
+        return made;
+    }
+
     // All texts on view, tooltips and dialogs too, a line each.
     function onView() {
         return Program.texts(stage.Window.contentItem);

@@ -1,7 +1,7 @@
 import QtQuick
 import Quillmere.Screens
 
-// The Disk Analyzer's table: its rows, their menu, the keyboard, and the deeper level that is fetched on the way.
+// The Disk Analyzer's table: its rows, their menu and the keyboard.
 AnalyzerCase {
     name: "DiskTable"
 
@@ -146,17 +146,6 @@ AnalyzerCase {
         compare(breadcrumbs(), []);
     }
 
-    // Up to the first row, then down to the row of that name.
-    function walkTo(name) {
-        Program.settle();
-        verify(table().activeFocus, `the table has the keyboard, not\n${Program.focusPath()}`);
-        for (let i = 0; i < table().count; ++i)
-            press(Qt.Key_Up);
-        for (let i = 0; i <= table().count && table().currentItem?.entryName !== name; ++i)
-            press(Qt.Key_Down);
-        compare(table().currentItem.entryName, name);
-    }
-
     function test_longTableScrollsToTheCurrentRow() {
         drill("Equal", 20);
         focusTable();
@@ -167,21 +156,6 @@ AnalyzerCase {
         const bottom = () => table().currentItem.mapToItem(table(), 0, table().currentItem.height).y;
         tryVerify(() => bottom() <= table().height + 1, patience, "the whole row is on view");
         Program.picture("table-scrolled");
-    }
-
-    function test_deeperLevelLoads() {
-        drill("Documents", 2);
-        Surroundings.holdProbes();
-        click("Invoices", table());
-        find("Loading contents...");
-        verify(!table());
-        compare(breadcrumbs(), ["Documents"]);
-        Program.picture("analyzer-loading");
-        Surroundings.releaseProbes();
-        tryGone("Loading contents...");
-        compare(breadcrumbs(), ["Documents", "Invoices"]);
-        verify(row("2026"));
-        verify(row("summary.txt"));
     }
 
     function test_rowMenuClosesWhenItsListIsReplaced() {
@@ -195,38 +169,6 @@ AnalyzerCase {
         compare(Surroundings.calls(), "");
     }
 
-    function test_hiddenTableTakesNoKeys() {
-        drill("Documents", 2);
-        Program.settle();
-        table().forceActiveFocus();
-        walkTo("Invoices");
-        Surroundings.holdProbes();
-        press(Qt.Key_Right);
-        find("Loading contents...");
-        for (const key of [Qt.Key_Up, Qt.Key_Return, Qt.Key_Enter, Qt.Key_Menu, Qt.Key_Left])
-            press(key);
-        compare(Program.menuLines(), "");
-        compare(Surroundings.calls(), "");
-        compare(breadcrumbs(), ["Documents"]);
-        Surroundings.releaseProbes();
-        tryGone("Loading contents...");
-        compare(breadcrumbs(), ["Documents", "Invoices"]);
-        walkTo("summary.txt");
-    }
-
-    function test_tileOpensAFolderWhileALevelLoads() {
-        drill("Documents", 2);
-        Surroundings.holdProbes();
-        click("Invoices", table());
-        find("Loading contents...");
-        click("Home");
-        clickOn(tile("Movies"));
-        compare(breadcrumbs(), ["Movies"]);
-        Surroundings.releaseProbes();
-        tryGone("Loading contents...");
-        compare(breadcrumbs(), ["Movies", "Invoices"]);
-    }
-
     function test_emptyFolderSaysSo() {
         click("Empty", table());
         tryVerify(() => breadcrumbs().length === 1, patience, "the folder is on view");
@@ -234,27 +176,5 @@ AnalyzerCase {
         find("Empty directory");
         press(Qt.Key_Left);
         compare(breadcrumbs(), []);
-    }
-
-    function test_screenMayGoWhileLevelLoads() {
-        drill("Documents", 2);
-        Surroundings.holdProbes();
-        click("Invoices", table());
-        find("Loading contents...");
-        open("Cleanup");
-        Surroundings.releaseProbes();
-        tryVerify(() => Disk.probeCount() === 0, patience, "the probe ends");
-        open("Disk Analyzer");
-        find("CONTENTS (6 items)");
-        compare(breadcrumbs(), []);
-    }
-
-    function test_screenMayGoWhileScanRuns() {
-        holdScan();
-        open("Cleanup");
-        Surroundings.releaseProbes();
-        tryVerify(() => !Disk.isScanning(), patience, "the scan ends");
-        open("Disk Analyzer");
-        find("CONTENTS (6 items)");
     }
 }

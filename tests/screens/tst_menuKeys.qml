@@ -1,47 +1,9 @@
 import QtQuick
 import Quillmere.Screens
 
-// The menu bar by keyboard and by pointer: what opens a menu, what is lit in it, and what its end leaves behind.
-ScreenCase {
+// The menu bar by keyboard: what opens a menu, what is lit in it, and what a key does there.
+MenuCase {
     name: "MenuKeys"
-
-    readonly property var firstLines: ({ "Quillmere": "About Quillmere", "File": "New Folder…", "Edit": "Undo",
-                                         "View": "Dashboard", "Tools": "Refresh Current View", "Help": "Quillmere Help" })
-
-    function init() {
-        clearAway();
-        open("Cleanup");
-        Program.forget();
-    }
-
-    function verifyOpen(title) {
-        tryVerify(() => Program.menuLines().startsWith(firstLines[title]), patience,
-                  `the menu ${title} is open, and not\n${Program.menuLines()}`);
-        const shown = Object.keys(firstLines).filter(other => menuTitle(other).isShown);
-        compare(shown, [title]);
-    }
-
-    function verifyNoneOpen() {
-        compare(Program.menuLines(), "");
-        for (const title of Object.keys(firstLines))
-            compare(String(colorOf(title)), "#00000000", `${title} is dark`);
-    }
-
-    function menuTitle(title) {
-        return find(title, menuBar()).parent;
-    }
-
-    function colorOf(title) {
-        return told(told(menuTitle(title), "background"), "children")[0].color;
-    }
-
-    // The line that is lit; none is "".
-    function lit() {
-        Program.settle();
-        const line = Program.itemWith("isDivider");
-        verify(line, "a menu is open");
-        return Program.itemWith("highlighted", line.parent, true)?.text ?? "";
-    }
 
     function test_altWithALetterOpensItsMenu_data() {
         return [
@@ -179,60 +141,6 @@ ScreenCase {
         press(Qt.Key_Return);
         compare(Program.menuLines(), "");
         compare(Program.selectedScreen(), "File Browser");
-    }
-
-    function test_endOfAMenuGivesTheKeyboardBack_data() {
-        return [
-            { tag: "Escape after a key", open: () => press(Qt.Key_T, Qt.AltModifier), close: () => press(Qt.Key_Escape) },
-            { tag: "Escape after a click", open: () => openMenu("Tools"), close: () => press(Qt.Key_Escape) },
-            { tag: "Escape after a walk", open: () => { press(Qt.Key_F10); press(Qt.Key_Right); press(Qt.Key_Left); },
-              close: () => press(Qt.Key_Escape) },
-            { tag: "click on the title", open: () => openMenu("Tools"), close: () => click("Tools", menuBar()) },
-            { tag: "click elsewhere", open: () => openMenu("Tools"), close: () => mouseClick(menuBar(), menuBar().width - 5, 5) },
-            { tag: "command", open: () => press(Qt.Key_T, Qt.AltModifier), close: () => press(Qt.Key_Return) },
-        ];
-    }
-
-    function test_endOfAMenuGivesTheKeyboardBack(data) {
-        const button = Program.named("refreshDiskButton");
-        tabTo("the refresh button", item => item === button);
-        data.open();
-        verify(Program.menuLines() !== "");
-        verify(!button.activeFocus);
-        data.close();
-        Program.settle();
-        compare(Program.menuLines(), "");
-        compare(focusItem(), button, Program.focusPath());
-        restPointer();
-        verifyNoneOpen();
-    }
-
-    // A pointer that rests on the title must not make the bar go on opening menus.
-    function test_titleGoesDarkAlsoBelowThePointer() {
-        openMenu("Tools");
-        press(Qt.Key_Escape);
-        compare(Program.menuLines(), "");
-        verify(!menuTitle("Tools").isShown);
-        mouseMove(menuTitle("Help"));
-        Program.settle();
-        compare(Program.menuLines(), "");
-        restPointer();
-        verifyNoneOpen();
-    }
-
-    function test_pointerLeadsToTheOtherMenus() {
-        mouseMove(menuTitle("File"));
-        Program.settle();
-        compare(Program.menuLines(), "");
-        openMenu("File");
-        for (const title of ["Edit", "View", "File"]) {
-            mouseMove(menuTitle(title));
-            verifyOpen(title);
-        }
-        click("Help", menuBar());
-        verifyOpen("Help");
-        click("Help", menuBar());
-        compare(Program.menuLines(), "");
     }
 
     function test_editMenuServesTheTextFieldByKey() {

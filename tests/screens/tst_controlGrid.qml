@@ -1,0 +1,87 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Quillmere
+import Quillmere.Screens
+
+// The grid of tiles, walked by key.
+Item {
+    id: stage
+    width: 800
+    height: 600
+
+    // Four cells in a row.
+    Component {
+        id: grids
+        TileGrid {
+            id: grid
+            width: 400
+            height: 200
+            cellWidth: 100
+            cellHeight: 80
+            model: 30
+            delegate: Item {
+                required property int index
+                width: 100
+                height: 80
+                BodyText { text: `cell ${parent.index}` }
+                TapHandler { onTapped: grid.take(parent.index) }
+            }
+        }
+    }
+
+    ControlCase {
+        name: "ControlGrid"
+        stage: stage
+
+        function test_gridIsWalkedByKey() {
+            const grid = make(grids);
+            press(Qt.Key_Tab);
+            verify(grid.activeFocus);
+            compare(grid.currentIndex, 0);
+            for (const [key, cell] of [[Qt.Key_Down, 4], [Qt.Key_Right, 5], [Qt.Key_End, 29], [Qt.Key_Up, 25], [Qt.Key_Home, 0]]) {
+                press(key);
+                compare(grid.currentIndex, cell);
+            }
+            press(Qt.Key_End);
+            verify(onView().includes("cell 29"));
+            for (let i = 0; i < 10; ++i)
+                press(Qt.Key_Left);
+            compare(grid.currentIndex, 19);
+        }
+
+        function test_gridsKeysAreTurnedAroundWhereOneReadsFromTheRight() {
+            const grid = make(grids);
+            grid.LayoutMirroring.enabled = true;
+            press(Qt.Key_Tab);
+            press(Qt.Key_Left);
+            compare(grid.currentIndex, 1);
+        }
+
+        function test_gridTellsWhatIsAskedOfACell() {
+            const grid = make(grids);
+            const asked = Array.from(["cellOpened", "cellToggled", "menuRequested", "selectionExtended"], name => spy(grid, name));
+            press(Qt.Key_Return); // without a current cell, and without the keyboard
+            press(Qt.Key_Tab);
+            press(Qt.Key_Return);
+            press(Qt.Key_Enter);
+            press(Qt.Key_Space);
+            press(Qt.Key_F10, Qt.ShiftModifier);
+            mouseClick(grid, 150, 20, Qt.RightButton);
+            press(Qt.Key_Right, Qt.ShiftModifier);
+            compare(Array.from(asked, one => one.count).join(), "2,1,2,1");
+            compare(asked[2].signalArguments[1][0], 1);
+            compare(asked[3].signalArguments[0][1], 1);
+            mouseClick(grid, 250, 20);
+            compare(grid.currentIndex, 2);
+        }
+
+        function test_emptyGridTakesNoKeys() {
+            const grid = make(grids, { model: 0 });
+            press(Qt.Key_Tab);
+            for (const key of [Qt.Key_Down, Qt.Key_End, Qt.Key_Return, Qt.Key_Menu])
+                press(key);
+            compare(grid.currentIndex, -1);
+        }
+    }
+}
