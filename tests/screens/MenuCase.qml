@@ -32,12 +32,4 @@ ScreenCase {
     function colorOf(title) {
         return told(told(menuTitle(title), "background"), "children")[0].color;
     }
-
-    // The line that is lit; none is "".
-    function lit() {
-        Program.settle();
-        const line = Program.itemWith("isDivider");
-        verify(line, "a menu is open");
-        return Program.itemWith("highlighted", line.parent, true)?.text ?? "";
-    }
 }

@@ -146,6 +146,14 @@ TestCase {
         tryVerify(() => Program.menuLines() === "", patience, "the menu closes");
     }
 
+    // The line of an open menu that is lit; none is "".
+    function lit() {
+        Program.settle();
+        const line = Program.itemWith("isDivider");
+        verify(line, "a menu is open");
+        return Program.itemWith("highlighted", line.parent, true)?.text ?? "";
+    }
+
     // Uses the right button, or the menu key, and waits for the menu.
     function openContextMenu(how) {
         how();

@@ -1,71 +1,23 @@
 import QtQuick
 import Quillmere.Screens
 
-// Which keys work while a menu, a list of choices, a sheet or a question is up, as the table in docs/architecture.md has
-// it.
-DuplicatesCase {
-    id: layers
+// Which keys of the window rest while a menu, a list of choices, a sheet or a question is up, as the table in
+// docs/architecture.md has it.
+LayersCase {
     name: "KeysInLayers"
 
     // The keys of the window: what the menu bar, the title bar and the screens have of their own.
     readonly property var windowKeys: [
         [Qt.Key_1, Qt.ControlModifier], [Qt.Key_2, Qt.ControlModifier], [Qt.Key_3, Qt.ControlModifier],
-        [Qt.Key_4, Qt.ControlModifier], [Qt.Key_K, Qt.ControlModifier], [Qt.Key_R, Qt.ControlModifier],
+        [Qt.Key_4, Qt.ControlModifier], [Qt.Key_5, Qt.ControlModifier], [Qt.Key_K, Qt.ControlModifier], [Qt.Key_R, Qt.ControlModifier],
         [Qt.Key_N, Qt.ControlModifier], [Qt.Key_Comma, Qt.ControlModifier], [Qt.Key_Slash, Qt.ControlModifier],
         [Qt.Key_Y, Qt.ControlModifier | Qt.ShiftModifier], [Qt.Key_Menu, Qt.NoModifier], [Qt.Key_F10, Qt.ShiftModifier],
     ]
-
-    function cleanup() {
-        for (let i = 0; i < 4 && (Program.isSheetUp() || Program.textItem("Confirm Deletion")); ++i)
-            press(Qt.Key_Escape);
-        Program.window.width = usualWidth;
-        Program.window.height = usualHeight;
-        compare(Program.takeWarnings(), "");
-    }
-
-    function picker() {
-        return Program.itemWith("shownText", screen());
-    }
-
-    function openSheet() {
-        press(Qt.Key_Y, Qt.ControlModifier | Qt.ShiftModifier);
-        tryVerify(() => Program.named("historyList")?.activeFocus, patience, "the sheet is up");
-        Program.settle();
-    }
-
-    function askToClear() {
-        Activity.record({ kind: "cleanup", title: "Cleaned some" });
-        openSheet();
-        clickOn(Program.named("clearHistory"));
-        tryVerify(() => Program.named("confirmCancel")?.activeFocus, patience, "the question is up");
-    }
-
-    // What a person sees of it: the texts of everything in the window, and of the menus.
-    function view() {
-        Program.settle();
-        return Program.texts() + Program.menuLines() + Program.texts(menuBar());
-    }
 
     function verifyUnder(isUp) {
         verify(isUp());
         compare(Program.selectedScreen(), "Duplicates");
         compare(Surroundings.posted(), "");
-    }
-
-    function layers_data() {
-        return [
-            { tag: "menu of the bar", open: () => press(Qt.Key_H, Qt.AltModifier),
-              isUp: () => Program.menuLines().startsWith("Quillmere Help"), focus: () => list() },
-            { tag: "menu of a row", open: () => openFileMenu("b/film.mov"), isUp: () => Program.menuLines() !== "",
-              focus: () => list() },
-            { tag: "choices", open: () => clickOn(picker()), isUp: () => picker().popup.visible, focus: () => picker() },
-            { tag: "question", open: () => askToDelete(), isUp: () => Program.textItem("Confirm Deletion") !== null,
-              focus: () => Program.named("trashButton") },
-            { tag: "sheet", open: () => openSheet(), isUp: () => Program.isSheetUp(), focus: () => list() },
-            { tag: "question over a sheet", open: () => askToClear(),
-              isUp: () => Program.isSheetUp() && Program.named("confirmCancel") !== null,
-              focus: () => Program.named("clearHistory") },
-        ];
     }
 
     function test_keysOfTheWindowRest_data() {
@@ -87,6 +39,22 @@ DuplicatesCase {
         press(Qt.Key_Escape);
     }
 
+    function test_editingKeysLeaveTheTextBelowAlone_data() {
+        return layers_data();
+    }
+
+    function test_editingKeysLeaveTheTextBelowAlone(data) {
+        const field = Program.addTextField("some words");
+        field.forceActiveFocus();
+        data.open();
+        for (const key of [Qt.Key_A, Qt.Key_X, Qt.Key_V, Qt.Key_C, Qt.Key_V, Qt.Key_Z])
+            press(key, Qt.ControlModifier);
+        verify(data.isUp());
+        compare(told(field, "text"), "some words");
+        compare(told(field, "selectedText"), "");
+        press(Qt.Key_Escape);
+    }
+
     function test_menuBarKeyRestsButInTheBarsOwnMenu_data() {
         return layers_data().filter(layer => layer.tag !== "menu of the bar");
     }
@@ -102,7 +70,7 @@ DuplicatesCase {
     }
 
     function test_letterOfAMenuLeadsFromMenuToMenuAndRestsElsewhere_data() {
-        return layers_data();
+        return layers_data().filter(layer => layer.tag !== "question for a text");
     }
 
     function test_letterOfAMenuLeadsFromMenuToMenuAndRestsElsewhere(data) {
