@@ -68,7 +68,7 @@ ListRow {
         }
     }
     background: Item {
-        DuplicateCardSlice {
+        CardSlice {
             y: row.gap
             width: parent.width
             height: parent.height - y
