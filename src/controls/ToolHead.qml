@@ -17,6 +17,7 @@ Item {
     readonly property bool isNarrow: figureRow.width > 0
                                      && titleRow.width + figureRow.width + commandRow.width + Theme.unit * 16 > width
     readonly property int titleEnd: subtitleText.visible ? lineHeight + subtitleText.height : lineHeight
+    readonly property int figuresTop: subtitleText.visible ? titleEnd + Theme.unit * 2 : titleEnd // where they have a line
 
     implicitHeight: isNarrow ? figureRow.y + figureRow.height : titleEnd
 
@@ -52,7 +53,7 @@ Item {
     Row {
         id: figureRow
         x: head.isNarrow ? 0 : titleRow.width + Theme.unit * 8
-        y: head.isNarrow ? head.titleEnd : Math.round((head.lineHeight - height) / 2)
+        y: head.isNarrow ? head.figuresTop : Math.round((head.lineHeight - height) / 2)
         spacing: Theme.unit * 6
     }
     Row {

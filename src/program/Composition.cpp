@@ -1,5 +1,6 @@
 #include "program/Composition.h"
 
+#include "cleanup/screen/SmartCleanupView.h"
 #include "common/NotificationNames.h"
 #include "common/SettingsKeys.h"
 #include "disk/DiskAnalyzerView.h"
@@ -67,6 +68,12 @@ DuplicateService &Composition::duplicates()
                                     [this]() -> HistoryService & { return history(); });
 }
 
+CleanupViewModel &Composition::cleanup()
+{
+    return CleanupViewModel::shared(platform_, sizeProbes(), fileSystem(), access(),
+                                    [this]() -> HistoryService & { return history(); });
+}
+
 FDAService &Composition::access()
 {
     return FDAService::shared(platform_, {relaunch_.executable,
@@ -104,6 +111,11 @@ MainContentView::Screens Composition::screens()
         [this] {
             return std::make_shared<DuplicateFinderView>(platform_, duplicates(), fileSystem(), access());
         },
+        {},
+    };
+    screens[SidebarItem::cleanup] = {
+        QStringLiteral("cleanup/screen/SmartCleanupScreen.qml"),
+        [this] { return std::make_shared<SmartCleanupView>(platform_, cleanup(), fileSystem(), access()); },
         {},
     };
     return screens;

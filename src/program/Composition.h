@@ -2,6 +2,7 @@
 
 #include "activity/FDAService.h"
 #include "activity/HistoryService.h"
+#include "cleanup/CleanupViewModel.h"
 #include "disk/DiskService.h"
 #include "duplicates/DuplicateService.h"
 #include "filesystem/FileSystemService.h"
@@ -48,6 +49,7 @@ public:
     FileSystemService &fileSystem();
     DiskService &disk();
     DuplicateService &duplicates();
+    CleanupViewModel &cleanup();
     HistoryService &history();
     FDAService &access();
 

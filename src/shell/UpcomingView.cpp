@@ -13,8 +13,6 @@ const std::map<SidebarItem, QString> &UpcomingView::descriptions()
         {SidebarItem::bulkRename,
          QStringLiteral(
              "You will rename many files at once here, through a chain of rules with a live preview.")},
-        {SidebarItem::cleanup,
-         QStringLiteral("Caches, logs and other files that can go will be measured and cleaned here.")},
         {SidebarItem::organizer,
          QStringLiteral("Files will be sorted into folders here, by rules, with a preview and an undo.")},
         {SidebarItem::appManager,

@@ -8,7 +8,7 @@ ScreenCase {
 
     function init() {
         clearAway();
-        open("Cleanup");
+        open("Organizer");
         Program.forget();
     }
 

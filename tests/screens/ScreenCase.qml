@@ -89,7 +89,7 @@ TestCase {
 
     // What stands at the head of a screen.
     function headOf(title) {
-        return title === "Duplicates" ? "Duplicate Finder" : title;
+        return { "Duplicates": "Duplicate Finder", "Cleanup": "Smart Cleanup" }[title] ?? title;
     }
 
     // Selects a screen in the sidebar.

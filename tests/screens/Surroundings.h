@@ -70,6 +70,8 @@ public:
     /// Calls the function while the next move to the Trash is under way, which ends only then.
     Q_INVOKABLE void duringNextRecycle(const QJSValue &doing);
     Q_INVOKABLE void refuseRecycle(const QString &path) { trash_.refuse(path); }
+    /// Lets what goes to the Trash be found in the Trash of the home folder.
+    Q_INVOKABLE void recycleIntoHome() { trash_.putInto(temp_.folder(QStringLiteral("home/.Trash"))); }
     Q_INVOKABLE void recycleAsEver() { trash_.reset(); }
 
 private:
@@ -91,7 +93,10 @@ private:
     FakeSystemLog systemLog_;
     FakeSystemInfo systemInfo_;
     GatedDu du_{temp_};
-    QString shell_ = temp_.script(QStringLiteral("shell"), "touch \"$(dirname \"$0\")/relaunched\"\n");
+    // The real one but for a relaunch, which is only noted down.
+    QString shell_ =
+        temp_.script(QStringLiteral("shell"), "case \"$2\" in find*) exec /bin/sh \"$@\";; esac\n"
+                                              "touch \"$(dirname \"$0\")/relaunched\"\n");
     Platform platform_{
         home_,           locations_, defaults_,  clock_,         {.du = du_.program(), .sh = shell_},
         KeyStyle::words, mainQueue_, workQueue_, notifications_, workspace_,

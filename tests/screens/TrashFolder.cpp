@@ -1,5 +1,6 @@
 #include "screens/TrashFolder.h"
 
+#include "base/FileRemoval.h"
 #include "base/Files.h"
 #include "base/Paths.h"
 
@@ -20,21 +21,38 @@ TrashFolder::TrashFolder(const TempHome &home, FakeRecycler &recycler)
             take(path, done);
         });
     };
+    recycler.remover = [this](const QStringList &items, const QString &) {
+        for (const QString &item : items) {
+            if (!refused_.contains(item))
+                files::removeTree(item);
+        }
+    };
 }
 
 void TrashFolder::reset()
 {
     refused_.clear();
     doing_ = {};
+    folder_.clear();
 }
 
 void TrashFolder::take(const QString &path, const Recycler::Completion &done)
 {
     if (refused_.contains(path))
         return done({{}, Error{QStringLiteral("Trash"), 1, QStringLiteral("It is locked.")}});
+    const QString trashed = place(path);
+    files::move(path, trashed);
+    done({{{path, trashed}}, {}});
+}
+
+QString TrashFolder::place(const QString &path)
+{
     // A folder for each, as the names may be the same.
-    const QString folder = home_.folder(QStringLiteral("trash/%1").arg(++count_));
-    const QString place = paths::join(folder, paths::lastComponent(path));
-    files::move(path, place);
-    done({{{path, place}}, {}});
+    if (folder_.isEmpty())
+        return paths::join(home_.folder(QStringLiteral("trash/%1").arg(++count_)),
+                           paths::lastComponent(path));
+    QString free = paths::join(folder_, paths::lastComponent(path));
+    while (files::attributes(free))
+        free += QStringLiteral(" 2");
+    return free;
 }

@@ -72,7 +72,7 @@ ScreenCase {
         Program.settle();
         compare(Program.textItem("Scan Directories").mapToItem(null, 0, 0).y, top);
         findDuplicates();
-        open("Cleanup");
+        open("Organizer");
         open("Duplicates");
         verify(!banner());
         openAnalyzer();

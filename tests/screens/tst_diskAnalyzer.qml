@@ -17,7 +17,7 @@ AnalyzerCase {
 
     function test_keepsFreshTreeWhenScreenComesBack() {
         Surroundings.pass(120);
-        open("Cleanup");
+        open("Organizer");
         Surroundings.holdProbes();
         open("Disk Analyzer");
         find("Cached · 2 min ago");
@@ -30,7 +30,7 @@ AnalyzerCase {
 
     function test_scansAgainWhenTreeIsStale() {
         Surroundings.pass(301);
-        open("Cleanup");
+        open("Organizer");
         Surroundings.holdProbes();
         open("Disk Analyzer");
         tryVerify(() => Disk.probeCount() === 1, patience, "a scan has begun");
@@ -105,7 +105,7 @@ AnalyzerCase {
         compare(row("thesis.pdf").sizeText, "3.0 MB");
         Surroundings.releaseProbes();
         // What is there counts as the result until somebody asks for another.
-        open("Cleanup");
+        open("Organizer");
         open("Disk Analyzer");
         find("CONTENTS (6 items)");
         click("Rescan");
@@ -205,7 +205,7 @@ AnalyzerCase {
         find("CONTENTS (2 items)");
         compare(breadcrumbs(), []);
         // The choice outlives the screen.
-        open("Cleanup");
+        open("Organizer");
         open("Disk Analyzer");
         compare(location(), Surroundings.at("home/Documents"));
     }

@@ -57,7 +57,7 @@ AnalyzerCase {
         Surroundings.holdProbes();
         click("Invoices", table());
         find("Loading contents...");
-        open("Cleanup");
+        open("Organizer");
         Surroundings.releaseProbes();
         tryVerify(() => Disk.probeCount() === 0, patience, "the probe ends");
         open("Disk Analyzer");
@@ -67,7 +67,7 @@ AnalyzerCase {
 
     function test_screenMayGoWhileScanRuns() {
         holdScan();
-        open("Cleanup");
+        open("Organizer");
         Surroundings.releaseProbes();
         tryVerify(() => !Disk.isScanning(), patience, "the scan ends");
         open("Disk Analyzer");

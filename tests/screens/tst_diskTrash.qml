@@ -35,7 +35,7 @@ AnalyzerCase {
     function test_anotherScreenMayBeSelectedMeanwhile() {
         const path = location() + "/report.pdf";
         whileRecycling(() => chooseTrash("report.pdf"), () => {
-            open("Cleanup");
+            open("Organizer");
             open("Dashboard");
         });
         tryVerify(() => !Surroundings.exists(path), patience, "the file is gone");

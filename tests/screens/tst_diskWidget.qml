@@ -106,7 +106,7 @@ ScreenCase {
     }
 
     function test_refreshCommandRefreshes() {
-        open("Cleanup");
+        open("Organizer");
         Program.forget();
         Surroundings.setVolume(500 * gigabyte, 300 * gigabyte, "Disk");
         press(Qt.Key_R, Qt.ControlModifier);

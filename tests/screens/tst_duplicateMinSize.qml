@@ -54,7 +54,7 @@ ScopeCase {
     function test_minSizeOutlivesTheScreenAndNamesAnyValue() {
         clickOn(picker());
         click("10 MB", picker().popup.contentItem);
-        open("Cleanup");
+        open("Organizer");
         open("Duplicates");
         compare(picker().displayText, "10 MB");
         Duplicates.scanOnly([], 3000); // as a setting made elsewhere may be

@@ -77,7 +77,7 @@ DuplicatesCase {
 
     function test_anotherScreenMayBeSelectedMeanwhile() {
         whileRecycling(beginRun, () => {
-            open("Cleanup");
+            open("Organizer");
             open("Disk Analyzer");
             open("Duplicates");
             tryVerify(() => footText() === "Moving files to the Trash: 0 of 6", patience, "the run is told again");
@@ -95,7 +95,7 @@ DuplicatesCase {
     function test_screenThatComesBackMeanwhileShowsTheEnd() {
         onlyPhoto();
         whileRecycling(beginRun, () => {
-            open("Cleanup");
+            open("Organizer");
             open("Duplicates");
         });
         tryVerify(() => !foot(), patience, "the run has ended");

@@ -110,15 +110,15 @@ DuplicatesCase {
 
     function test_screenMayGoMeanwhile() {
         holdScan("b");
-        open("Cleanup");
+        open("Organizer");
         open("Duplicates");
         verify(progress());
         compare(stopButton().text, "Stop");
         clickOn(stopButton());
-        open("Cleanup");
+        open("Organizer");
         open("Duplicates");
         compare(stopButton().text, "Stopping…");
-        open("Cleanup");
+        open("Organizer");
         Surroundings.releaseDisk();
         open("Duplicates");
         waitForScan();

@@ -10,7 +10,7 @@ DuplicatesCase {
         press(Qt.Key_5, Qt.ControlModifier);
         compare(Program.selectedScreen(), "Duplicates");
         find("Duplicate Finder", screen());
-        open("Cleanup");
+        open("Organizer");
         open("Duplicates");
         find("Duplicate Finder", screen());
     }
@@ -64,7 +64,7 @@ DuplicatesCase {
     function test_resultOutlivesTheScreen() {
         clickFile("a/photo.JPG");
         clickOn(chip("documents"));
-        open("Cleanup");
+        open("Organizer");
         open("Duplicates");
         compare(groups().length, 4);
         compare(going(), ["a/photo.JPG"].concat(usuallyGoing));

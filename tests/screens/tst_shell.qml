@@ -94,15 +94,15 @@ ScreenCase {
     }
 
     function test_searchOpensByKeyAndByPill() {
-        open("Cleanup");
+        open("Organizer");
         press(Qt.Key_K, Qt.ControlModifier);
         compare(Program.selectedScreen(), "Search");
-        open("Cleanup");
+        open("Organizer");
         const pill = Program.named("searchPill");
         compare(Program.texts(pill), "Search files...\nCtrl+K");
         clickOn(pill);
         compare(Program.selectedScreen(), "Search");
-        open("Cleanup");
+        open("Organizer");
         tabTo("the search pill", item => item === pill);
         press(Qt.Key_Return);
         compare(Program.selectedScreen(), "Search");

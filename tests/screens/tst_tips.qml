@@ -12,7 +12,7 @@ ScreenCase {
     }
 
     function showTip() {
-        open("Cleanup");
+        open("Organizer");
         mouseMove(pill());
         find(tip);
     }

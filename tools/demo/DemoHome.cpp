@@ -68,11 +68,30 @@ constexpr std::array demoFiles = {
     DemoFile{"Users/robin/Library/Caches/com.example.maps/tiles.db", 24 * megabyte, 2, "tiles"},
     DemoFile{"Users/robin/Library/Application Support/Sketchpad/library.db", 17 * megabyte, 7, "sketches"},
     DemoFile{"Users/robin/Library/Application Support/Old Notes/notes.db", 11 * megabyte, 500, "old notes"},
+    DemoFile{"Users/robin/Library/Caches/Google/Chrome/Default/Cache/data_3", 88 * megabyte, 1,
+             "chrome cache"},
+    DemoFile{"Users/robin/Library/Caches/Google/Chrome/Default/Code Cache/index.bin", 26 * megabyte, 2,
+             "chrome code"},
+    DemoFile{"Users/robin/Library/Caches/com.apple.Safari/Cache.db", 31 * megabyte, 4, "safari cache"},
+    DemoFile{"Users/robin/Library/Caches/org.mozilla.firefox/profile/cache2/entries.bin", 19 * megabyte, 3,
+             "fox cache"},
+    DemoFile{"Users/robin/Library/Developer/Xcode/DerivedData/Weather/Build/Products/Weather.app/Weather",
+             64 * megabyte, 20, "weather build"},
+    DemoFile{"Users/robin/Library/Developer/Xcode/DerivedData/Weather/Index/store.db", 23 * megabyte, 20,
+             "weather index"},
+    DemoFile{"Users/robin/.npm/_cacache/content-v2/sha512/2f/package.tgz", 37 * megabyte, 15, "package"},
+    DemoFile{"Users/robin/.npm/_cacache/index-v5/0c/entries", 2 * megabyte, 15, "package index"},
     DemoFile{"Users/robin/Library/Logs/sync.log", 3 * megabyte, 1, "log"},
+    DemoFile{"Users/robin/Library/Logs/DiagnosticReports/Sketchpad-2026-09-14.ips", 420 * kilobyte, 48,
+             "report of a crash"},
+    DemoFile{"Users/robin/Library/Logs/Printing/queue.log", 96 * kilobyte, 9, "queue"},
     DemoFile{"Users/robin/Library/Preferences/com.example.sketchpad.plist", 2 * kilobyte, 7, "preferences"},
     DemoFile{"Users/robin/Library/Mail/V10/mailbox.mbox", 27 * megabyte, 1, "mail"},
     DemoFile{"Users/robin/.Trash/old-report.pdf", 5 * megabyte, 35, "report"},
+    DemoFile{"Users/robin/.Trash/Screen Recording 2026-08-30.mov", 29 * megabyte, 62, "recording"},
+    DemoFile{"Users/robin/.Trash/old drafts/draft-1.pages", 1 * megabyte, 90, "first draft"},
     DemoFile{"Applications/Sketchpad.app/Contents/MacOS/Sketchpad", 44 * megabyte, 60, "sketchpad"},
+    DemoFile{"Applications/Xcode.app/Contents/MacOS/Xcode", 38 * megabyte, 120, "xcode"},
     DemoFile{"Applications/Tide Tables.app/Contents/MacOS/Tide Tables", 19 * megabyte, 200, "tides"},
 };
 
@@ -119,7 +138,9 @@ void DemoHome::fill() const
 {
     for (const DemoFile &file : demoFiles)
         makeFile(native(paths::join(root_, QString::fromUtf8(file.path))), file);
-    for (const char *folder : {"Users/robin/Documents/Empty Folder", "Users/robin/Library/Safari"})
+    for (const char *folder :
+         {"Users/robin/Documents/Empty Folder", "Users/robin/Documents/Talks/2024",
+          "Users/robin/Desktop/New Folder", "Users/robin/Downloads/unpacked", "Users/robin/Library/Safari"})
         std::filesystem::create_directories(native(paths::join(root_, QString::fromUtf8(folder))));
 }
 

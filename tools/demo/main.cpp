@@ -85,7 +85,8 @@ void savePictureWhenReady(Composition &composition, const QString &file, const s
 {
     auto *timer = new QTimer(composition.window());
     QObject::connect(timer, &QTimer::timeout, timer, [&composition, file, exitNow, timer] {
-        if (composition.disk().isScanningAnalyzer() || composition.duplicates().isScanning())
+        if (composition.disk().isScanningAnalyzer() || composition.duplicates().isScanning()
+            || composition.cleanup().isScanning())
             return;
         timer->stop();
         // One more turn, so that the last result is painted.

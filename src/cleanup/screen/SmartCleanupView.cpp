@@ -204,9 +204,11 @@ QString SmartCleanupView::text(int row, CleanupRows::Role role) const
     return rows_.row(row) ? rows_.data(rows_.index(row), role).toString() : QString();
 }
 
-QString SmartCleanupView::kind(int row) const
+QString SmartCleanupView::menuKind(int row) const
 {
-    return text(row, CleanupRows::kindRole);
+    const bool hasNoMenu = rows_.is(CleanupRows::Kind::note, row) || rows_.is(CleanupRows::Kind::status, row)
+                           || (rows_.is(CleanupRows::Kind::end, row) && moreText(row).isEmpty());
+    return hasNoMenu ? QString() : text(row, CleanupRows::kindRole);
 }
 
 void SmartCleanupView::activate(int row)

@@ -38,7 +38,7 @@ class SmartCleanupView final : public QObject,
     Q_PROPERTY(bool canChoose READ canChoose NOTIFY stateChanged)
     Q_PROPERTY(bool canSelect READ canSelect NOTIFY stateChanged)
     Q_PROPERTY(QString stopText READ stopText NOTIFY stateChanged)
-    Q_PROPERTY(QStringList stopLabels READ stopLabels CONSTANT)
+    Q_PROPERTY(QList<QString> stopLabels READ stopLabels CONSTANT)
     Q_PROPERTY(QString categoriesFigure READ categoriesFigure NOTIFY choiceChanged)
     Q_PROPERTY(QString totalFigure READ totalFigure NOTIFY choiceChanged)
     Q_PROPERTY(QString selectedFigure READ selectedFigure NOTIFY choiceChanged)
@@ -115,7 +115,8 @@ public:
     Q_INVOKABLE void openFile(int row);
     Q_INVOKABLE void revealFile(int row);
     Q_INVOKABLE void copyPath(int row);
-    Q_INVOKABLE QString kind(int row) const;        ///< as the rows tell it; empty where there is no row
+    Q_INVOKABLE QString
+    menuKind(int row) const; ///< the row's kind, as the rows tell it; empty where it has no menu
     Q_INVOKABLE QString toggleText(int row) const;  ///< how the menu calls `toggleFile`
     Q_INVOKABLE QString previewText(int row) const; ///< how it calls `togglePreview`
     Q_INVOKABLE QString moreText(int row) const;    ///< and `showMore`; empty where all are shown

@@ -156,20 +156,20 @@ TEST_F(SmartCleanupChoiceTest, commandsPassOverRowsOfAnotherKind)
     openPreview(u"Trash"_s);
     const QString before = kinds();
     for (int row = -1; row <= view->rows()->rowCount(); ++row) {
-        if (view->kind(row) != u"file") {
+        if (text(row, "kind") != u"file") {
             view->toggleFile(row);
             view->openFile(row);
             view->revealFile(row);
             view->copyPath(row);
         }
-        if (view->kind(row) != u"guide")
+        if (text(row, "kind") != u"guide")
             view->selectAllFiles(row);
-        if (view->kind(row) != u"category") {
+        if (text(row, "kind") != u"category") {
             view->toggleTick(row);
             view->togglePreview(row);
             view->revealCategory(row);
         }
-        if (view->kind(row) != u"note")
+        if (text(row, "kind") != u"note")
             view->toggleReviewed(row);
         view->showMore(row); // all are shown
         view->showAllFiles(row);
@@ -185,7 +185,20 @@ TEST_F(SmartCleanupChoiceTest, menuNamesThePreviewsCommand)
     EXPECT_EQ(view->previewText(0), u"Expand file preview");
     view->togglePreview(0);
     EXPECT_EQ(view->previewText(0), u"Collapse file preview");
-    EXPECT_EQ(view->kind(-1), QString());
+}
+
+TEST_F(SmartCleanupChoiceTest, rowsThatHaveCommandsHaveAMenu)
+{
+    makeLogs(118);
+    openPreview(u"Log Files"_s);
+    EXPECT_EQ(view->menuKind(0), u"category");
+    EXPECT_EQ(view->menuKind(1), QString());
+    EXPECT_EQ(view->menuKind(2), u"guide");
+    EXPECT_EQ(view->menuKind(3), u"file");
+    EXPECT_EQ(view->menuKind(kindAt(u"end"_s)), u"end");
+    view->showMore(kindAt(u"end"_s));
+    EXPECT_EQ(view->menuKind(kindAt(u"end"_s)), QString()) << "all are shown";
+    EXPECT_EQ(view->menuKind(-1), QString());
 }
 
 TEST_F(SmartCleanupChoiceTest, untickingClearsTheFilesAndTickingTakesAll)

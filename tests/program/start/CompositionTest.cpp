@@ -25,5 +25,8 @@ TEST(Composition, makesNoServiceButTheDisksAheadOfTheWindow)
     EXPECT_FALSE(late.workspace.settingsPage.isEmpty());
     EXPECT_TRUE(second.history().fileURL().startsWith(late.home));
     EXPECT_EQ(second.duplicates().scanPaths(), QStringList(late.home));
+    const size_t jobs = late.workQueue.waiting();
+    second.cleanup().scan();
+    EXPECT_EQ(late.workQueue.waiting(), jobs + 1);
     EXPECT_TRUE(early.workspace.calls.isEmpty());
 }
