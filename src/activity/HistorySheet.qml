@@ -14,6 +14,7 @@ SheetFrame {
     summary: view.countText
     closeLabel: view.texts.close
     isCovered: view.showClearConfirm
+    onOpened: list.takeFirstInView()
 
     tools: [
         ActionButton {

@@ -10,6 +10,20 @@ bool isAlt(const QEvent *event)
     return static_cast<const QKeyEvent *>(event)->key() == Qt::Key_Alt;
 }
 
+bool isByKey(const QEvent *focusIn, bool wasKeyLast)
+{
+    switch (static_cast<const QFocusEvent *>(focusIn)->reason()) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        return true;
+    case Qt::OtherFocusReason:
+        return wasKeyLast;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 InputWatch::InputWatch(QObject *parent)
@@ -27,6 +41,7 @@ bool InputWatch::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         if (isAlt(event))
             setAltDown(true);
+        wasKeyLast_ = true;
         emit acted();
         break;
     case QEvent::KeyRelease:
@@ -35,10 +50,14 @@ bool InputWatch::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::MouseButtonPress:
         isButtonDown_ = true;
+        wasKeyLast_ = false;
         emit acted();
         break;
     case QEvent::MouseButtonRelease:
         isButtonDown_ = false;
+        break;
+    case QEvent::FocusIn:
+        setFocusByKey(isByKey(event, wasKeyLast_));
         break;
     default:
         break;
@@ -52,4 +71,12 @@ void InputWatch::setAltDown(bool isDown)
         return;
     isAltDown_ = isDown;
     emit isAltDownChanged();
+}
+
+void InputWatch::setFocusByKey(bool isByKey)
+{
+    if (isFocusByKey_ == isByKey)
+        return;
+    isFocusByKey_ = isByKey;
+    emit isFocusByKeyChanged();
 }

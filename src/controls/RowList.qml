@@ -31,6 +31,15 @@ ListView {
         positionViewAtIndex(row, ListView.Contain);
     }
 
+    // The first row that is whole in view becomes the current one, so that the view stays where it is.
+    function takeFirstInView() {
+        if (currentIndex >= 0 || count === 0)
+            return;
+        const row = Math.max(0, indexAt(contentX, contentY), indexAt(contentX, contentY + spacing));
+        const isCut = row + 1 < count && itemAtIndex(row)?.y < contentY;
+        currentIndex = isCut ? row + 1 : row;
+    }
+
     function goToTop() {
         currentIndex = -1;
         positionViewAtBeginning();
@@ -90,8 +99,9 @@ ListView {
     keyNavigationEnabled: false // its own keys know neither pages nor the ends
     highlightFollowsCurrentItem: false // a frame late, and more keys may come before; goTo is not
 
-    // Whoever comes by key sees where they are.
-    onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+    // Whoever comes by key sees where they are. A menu that closes gives the focus back, and changes nothing else.
+    readonly property bool isFocusByKey: InputWatch.isFocusByKey
+    onActiveFocusChanged: if (activeFocus && isFocusByKey) takeFirstInView()
 
     // A list that is out of sight keeps the focus for its return, but takes no keys.
     Keys.enabled: visible

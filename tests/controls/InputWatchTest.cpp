@@ -1,5 +1,6 @@
 #include "controls/InputWatch.h"
 
+#include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,6 +22,12 @@ protected:
     {
         QMouseEvent event(type, {}, {}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&target, &event);
+    }
+    bool isByKey(Qt::FocusReason reason)
+    {
+        QFocusEvent event(QEvent::FocusIn, reason);
+        QCoreApplication::sendEvent(&target, &event);
+        return watch.isFocusByKey();
     }
 
     QObject target;
@@ -70,4 +77,23 @@ TEST_F(InputWatchTest, takesAltForUpOnceAnotherProgramHasTheKeys)
     send(QEvent::KeyPress, Qt::Key_Alt);
     emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
     EXPECT_FALSE(watch.isAltDown());
+}
+
+TEST_F(InputWatchTest, knowsWhetherAKeyHasBroughtTheFocus)
+{
+    EXPECT_TRUE(isByKey(Qt::TabFocusReason));
+    EXPECT_FALSE(isByKey(Qt::MouseFocusReason));
+    EXPECT_TRUE(isByKey(Qt::BacktabFocusReason));
+    EXPECT_FALSE(isByKey(Qt::OtherFocusReason));
+    send(QEvent::KeyPress, Qt::Key_Return);
+    EXPECT_TRUE(isByKey(Qt::OtherFocusReason));
+    send(QEvent::MouseButtonPress);
+    EXPECT_FALSE(isByKey(Qt::OtherFocusReason));
+}
+
+TEST_F(InputWatchTest, takesTheKeyThatClosesAMenuForNoneThatBringsTheFocus)
+{
+    send(QEvent::KeyPress, Qt::Key_Escape);
+    EXPECT_FALSE(isByKey(Qt::PopupFocusReason));
+    EXPECT_FALSE(isByKey(Qt::ActiveWindowFocusReason));
 }
