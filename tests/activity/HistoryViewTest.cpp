@@ -1,47 +1,20 @@
-#include "activity/HistoryView.h"
-
 #include "activity/HistoryFileEncoding.h"
-#include "activity/HistorySamples.h"
-#include "activity/HistoryService.h"
+#include "activity/HistorySheetFixture.h"
 #include "base/Files.h"
 #include "base/Paths.h"
-#include "support/LocaleGuard.h"
-#include "support/Rows.h"
-#include "support/TestPlatform.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
-#include <gtest/gtest.h>
+#include <limits>
+
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using Kind = HistoryEntry::Kind;
 
 namespace {
-
-constexpr int allChip = 0;
-constexpr int undoChip = 6;
-
-class HistoryViewTest : public ::testing::Test
-{
-protected:
-    void record(const HistoryEntry &entry)
-    {
-        history.record(entry);
-        test.mainQueue.run();
-    }
-    void open() { view = std::make_unique<HistoryView>(test.platform, history); }
-    QVariant value(int row, const QByteArray &role) const { return rowValue(view->rows(), row, role); }
-    QString textOf(int row, const QByteArray &role) const { return value(row, role).toString(); }
-    QString titles() const { return columnTexts(view->rows(), "entryTitle").join(u' '); }
-
-    const LocaleGuard berlin{"de_DE", "Europe/Berlin"};
-    TestPlatform test;
-    HistoryService history{test.platform};
-    std::unique_ptr<HistoryView> view;
-};
-
+using HistoryViewTest = HistorySheet;
 } // namespace
 
 TEST_F(HistoryViewTest, anEmptyLogShowsNoActivityAndOffersNoClear)
@@ -343,63 +316,4 @@ TEST_F(HistoryViewTest, noticesAtTheClickThatTheFileHasGone)
     EXPECT_TRUE(test.workspace.calls.isEmpty());
     EXPECT_EQ(changes.count(), 1);
     EXPECT_FALSE(view->canReveal());
-}
-
-TEST_F(HistoryViewTest, clearsTheLogOnlyAfterItsQuestion)
-{
-    record(samples::entry(u"a"_s));
-    open();
-    EXPECT_TRUE(view->canClear());
-    view->confirmClear();
-    test.mainQueue.run();
-    EXPECT_EQ(titles(), u"a"_s);
-    view->askToClear();
-    EXPECT_TRUE(view->showClearConfirm());
-    view->cancelClear();
-    EXPECT_FALSE(view->showClearConfirm());
-    test.mainQueue.run();
-    EXPECT_EQ(titles(), u"a"_s);
-    view->askToClear();
-    view->confirmClear();
-    EXPECT_FALSE(view->showClearConfirm());
-    test.mainQueue.run();
-    EXPECT_EQ(view->rows()->rowCount(), 0);
-    EXPECT_EQ(view->emptyText(), u"No activity yet."_s);
-    EXPECT_FALSE(view->canClear());
-    EXPECT_TRUE(view->canReveal());
-}
-
-TEST_F(HistoryViewTest, takesTheQuestionBackWhenTheLogChangesUnderIt)
-{
-    record(samples::entry(u"a"_s));
-    open();
-    view->askToClear();
-    record(samples::entry(u"b"_s));
-    EXPECT_FALSE(view->showClearConfirm());
-    view->confirmClear(); // the click that was on its way
-    test.mainQueue.run();
-    EXPECT_EQ(titles(), u"b a"_s);
-}
-
-TEST_F(HistoryViewTest, keepsTheQuestionUpWhileOnlyTheViewOfTheLogChanges)
-{
-    record(samples::entry(Kind::organize, u"a"_s, 1));
-    open();
-    view->askToClear();
-    view->toggleRow(0);
-    view->chooseFilter(undoChip);
-    test.mainQueue.run();
-    EXPECT_TRUE(view->showClearConfirm());
-}
-
-TEST_F(HistoryViewTest, asksWithItsOwnWords)
-{
-    open();
-    const HistoryTexts texts = view->texts();
-    EXPECT_EQ(texts.confirmTitle, u"Clear all history?"_s);
-    EXPECT_EQ(texts.confirmText,
-              u"Deletes the activity log. Files already moved to Trash stay there. This can't be undone."_s);
-    EXPECT_EQ(texts.cancel, u"Cancel"_s);
-    EXPECT_EQ(texts.clear, u"Clear"_s);
-    EXPECT_EQ(texts.clearTip, u"Wipe all entries (files already trashed stay trashed)"_s);
 }

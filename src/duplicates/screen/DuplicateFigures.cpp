@@ -1,6 +1,12 @@
 #include "duplicates/screen/DuplicateFigures.h"
 
 #include "base/Sums.h"
+#include "common/Formatters.h"
+
+QString DuplicateFigures::amountText(const QString &pattern) const
+{
+    return pattern.arg(QString::number(filesToDelete), sizeText(bytesToDelete));
+}
 
 DuplicateFigures figuresOf(const std::vector<DuplicateFileGroup> &groups, const std::vector<size_t> &shown)
 {

@@ -218,20 +218,14 @@ QString DuplicateFinderView::wastedFigure() const
     return sizeText(figures_.wasted);
 }
 
-/// A pattern with the number of files set to go in the place of %1 and their size in that of %2.
-QString DuplicateFinderView::amountText(const QString &pattern) const
-{
-    return pattern.arg(QString::number(filesToDelete()), sizeText(bytesToDelete()));
-}
-
 QString DuplicateFinderView::toDeleteFigure() const
 {
-    return filesToDelete() == 0 ? QString() : amountText(QStringLiteral("%1 files (%2)"));
+    return filesToDelete() == 0 ? QString() : figures_.amountText(QStringLiteral("%1 files (%2)"));
 }
 
 QString DuplicateFinderView::footText() const
 {
-    return amountText(QStringLiteral("%1 files marked for deletion (%2)"));
+    return figures_.amountText(QStringLiteral("%1 files marked for deletion (%2)"));
 }
 
 QString DuplicateFinderView::deletingText() const
@@ -296,8 +290,8 @@ void DuplicateFinderView::askToDelete()
 {
     if (!canDelete())
         return;
-    confirmation_.ask(
-        amountText(QStringLiteral("Move %1 files (%2) to Trash? This can be undone from the Trash.")));
+    confirmation_.ask(figures_.amountText(
+        QStringLiteral("Move %1 files (%2) to Trash? This can be undone from the Trash.")));
     const DeleteNote note = deletenotes::fromGroups(service_.groups(), filteredGroups_);
     confirmation_.setNote(note.text());
     addKeptOtherwise(note);

@@ -166,7 +166,6 @@ private:
     void addKeptOtherwise(DeleteNote note);
     void runDelete();
     const DuplicateFileEntry *fileAt(int row) const;
-    QString amountText(const QString &pattern) const;
 
     const Platform &platform_;
     DuplicateService &service_;
