@@ -113,14 +113,15 @@ QStringList brokenIncludes(const std::vector<SourceFile> &files, const QStringLi
 
 QStringList brokenOuterIncludes(const std::vector<SourceFile> &files, const QStringList &tools)
 {
-    std::set<QString> ownNames;
-    for (const SourceFile &file : files)
-        ownNames.insert(file.path.section(u'/', -1));
+    const auto isOwn = [&files](const QString &path) {
+        return std::ranges::any_of(
+            files, [end = u'/' + path](const SourceFile &file) { return (u'/' + file.path).endsWith(end); });
+    };
     QStringList broken;
     for (const SourceFile &file : files) {
         for (const SourceFile::Include &include : file.includes()) {
             const std::optional<Room> room = roomOf(include.path, tools);
-            if (!room && !ownNames.contains(include.path))
+            if (!room && !isOwn(include.path))
                 broken << told(file, include) + u": no folder of the plan"_s;
             else if (room && adapters.contains(room->folder) && !file.isEntry())
                 broken << told(file, include) + u": a system's adapters"_s;

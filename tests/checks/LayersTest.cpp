@@ -229,6 +229,15 @@ TEST(LayerRules, letProgramsBesideTheTreeIncludeAllOfItButAdaptersOutsideTheirEn
     EXPECT_EQ(layers::brokenOuterIncludes(SourceFile::allBelow(temp.path()), {}), expected);
 }
 
+TEST(LayerRules, letProgramsBesideTheTreeIncludeWhatIsTheirsFromItsFolder)
+{
+    const TempHome temp;
+    temp.file(u"demo/main.cpp"_s, "#include \"gallery/Own.h\"\n#include \"gallery/Gone.h\"\n");
+    temp.file(u"demo/gallery/Own.h"_s, "");
+    const QStringList expected = {u"demo/main.cpp:2 includes gallery/Gone.h: no folder of the plan"_s};
+    EXPECT_EQ(layers::brokenOuterIncludes(SourceFile::allBelow(temp.path()), {}), expected);
+}
+
 TEST(LayerRules, refuseAServicesOneInstanceOutsideTheComposition)
 {
     const TempHome temp;
