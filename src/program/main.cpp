@@ -1,4 +1,5 @@
 #include "platform/Appearance.h"
+#include "platform/linux/AccessibilityBus.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxSingleInstance.h"
 #include "platform/linux/PortalAppearance.h"
@@ -53,6 +54,7 @@ QByteArray activationToken()
 
 int main(int argc, char *argv[])
 {
+    accessibilitybus::outlive();
     rendering::choose(rendernode::isThere());
     const QtMessageHandler usual = qInstallMessageHandler(tellMissingDisplay);
     QGuiApplication application(argc, argv);
@@ -67,6 +69,7 @@ int main(int argc, char *argv[])
         return EXIT_SUCCESS;
     }
 
+    accessibilitybus::passOverSilentOne(bus);
     FallbackPanel panel; // gets its window further down; nobody asks for a panel before
     LinuxPlatform linuxPlatform({bus, QString::fromLocal8Bit(qgetenv("PATH")).split(u':', Qt::SkipEmptyParts),
                                  std::bind_front(&FallbackPanel::chooseFolder, &panel),

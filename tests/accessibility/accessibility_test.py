@@ -9,6 +9,7 @@ reader must hear. Keys come from the display's keyboard, presses through the acc
 
 import os
 import signal
+import subprocess
 import sys
 import unittest
 
@@ -227,6 +228,21 @@ class BrokenBusTest(unittest.TestCase):
             self.assert_works(self.desktop.start([DEMO]))
         finally:
             os.kill(launcher.pid, signal.SIGCONT)
+
+    def test_a_bus_that_takes_connections_and_never_speaks_stops_nothing(self):
+        bus = self.desktop.accessibility_bus()
+        os.kill(bus, signal.SIGSTOP)
+        try:
+            self.assert_works(self.desktop.start([DEMO], stderr=subprocess.DEVNULL))
+        finally:
+            os.kill(bus, signal.SIGCONT)
+
+    def test_a_bus_that_ends_takes_nothing_with_it(self):
+        demo = self.desktop.start([DEMO], stderr=subprocess.DEVNULL)
+        self.desktop.give_window_the_keyboard()
+        os.kill(self.desktop.accessibility_bus(), signal.SIGKILL)  # the toolkit is about to ask it, or just asking
+        self.desktop.press("F10", "Escape")
+        self.assert_works(demo)
 
 
 def main():

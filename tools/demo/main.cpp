@@ -6,6 +6,7 @@
 #include "DemoOptions.h"
 #include "gallery/Gallery.h"
 #include "platform/Appearance.h"
+#include "platform/linux/AccessibilityBus.h"
 #include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
 #include "platform/linux/LinuxSystemLog.h"
@@ -101,6 +102,7 @@ void savePictureWhenReady(Composition &composition, const QString &file, const s
 int runDemo(DemoHome &demo, const DemoOptions &options)
 {
     DemoDesktop desktop(demo);
+    accessibilitybus::passOverSilentOne(desktop.bus);
     Appearance appearance;
     appearance.setDark(!options.isLight);
     const auto exitNow = [&demo] {
@@ -155,6 +157,7 @@ int main(int argc, char *argv[])
     try {
         const DemoOptions options = optionsFrom(argc, argv);
         if (options.isGallery) {
+            accessibilitybus::outlive();
             rendering::choose(rendernode::isThere());
             const QGuiApplication application(argc, argv);
             program::describe();
@@ -163,6 +166,7 @@ int main(int argc, char *argv[])
         DemoHome demo;
         // What goes to the Trash stays inside the demo as well; set before the desktop's library first looks.
         qputenv("XDG_DATA_HOME", paths::toBytes(demo.home() + QStringLiteral("/.local/share")));
+        accessibilitybus::outlive();
         rendering::choose(rendernode::isThere());
         QGuiApplication application(argc, argv);
         demo.fill(); // not before: without a display the line above ends the program
