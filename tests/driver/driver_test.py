@@ -479,7 +479,10 @@ class DriverTest(DriverCase):
         for number, folder in enumerate((home, other)):
             os.mkdir(folder)
             CopyMaker(SEED).folder(folder, 2) # the same twice
-            self.write(os.path.join(folder, b"Library", b"copy"), b"a copy")
+            library = os.path.join(folder, b"Library")
+            if os.path.lexists(library) and not os.path.isdir(library):
+                os.unlink(library) # a name that the maker gives to files and links too
+            self.write(os.path.join(library, b"copy"), b"a copy")
             self.write(os.path.join(folder, b"Library %d" % number, b"copy"), b"a copy")
         for roots in ((other, home), (home, other), (home, other, home + b"/Library"), (home + b"/Library", home),
                       (other, self.at(b"missing")), (home, home + b"/Library 0", home + b"/Library 0/copy")):
