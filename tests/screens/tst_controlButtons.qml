@@ -14,6 +14,13 @@ Item {
         ActionButton { text: "Clean" }
     }
     Component {
+        id: primary
+        ActionButton {
+            text: "Scan"
+            isPrimary: true
+        }
+    }
+    Component {
         id: icon
         IconButton { symbol: "trash"; label: "Remove rule"; tip: "Removes it" }
     }
@@ -115,6 +122,23 @@ Item {
             stage.forceActiveFocus();
             button.forceActiveFocus(Qt.TabFocusReason);
             verify(button.background.hasRing);
+        }
+
+        function test_ringIsSeenOnEveryGround_data() {
+            return kinds().concat([{ tag: "primary", kind: primary }]);
+        }
+
+        // Below the upper edge, where no word stands.
+        function test_ringIsSeenOnEveryGround(row) {
+            const button = make(row.kind);
+            const edge = () => {
+                const picture = grabImage(button);
+                return Array.from([0, 1, 2, 3], y => String(picture.pixel(Math.round(button.width / 2), y)));
+            };
+            const before = edge();
+            button.forceActiveFocus(Qt.TabFocusReason);
+            verify(button.background.hasRing);
+            verify(edge().some((colour, y) => colour !== before[y]), edge());
         }
 
         function test_longTextIsCutAndToldByTheTooltip_data() {
