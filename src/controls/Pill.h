@@ -1,13 +1,17 @@
 #pragma once
 
 #include <QColor>
-#include <QQuickPaintedItem>
+#include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
+
+class QImage;
 
 /// A bar, pill or ring with round ends, whole at every scale. Qt Quick's own rectangle is put together of corners and sides
 /// that each take whole points where it is drawn in software: at a scale of 1.5 they stand out by a pixel against each
-/// other. This one is painted as one shape on the pixels of the device. Main thread.
-class Pill : public QQuickPaintedItem
+/// other. This one is painted as one shape on the pixels of the device. It may stand between two of them, as each second
+/// point does at that scale: then it is drawn on the next one, whole, since its picture ends beyond it on all sides.
+/// Main thread.
+class Pill : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
@@ -31,15 +35,20 @@ public:
     double radius() const { return radius_; } ///< points; at most half of the height and the width
     void setRadius(double radius);
 
-    void paint(QPainter *painter) override;
-
 signals:
     void colorChanged();
     void borderColorChanged();
     void borderWidthChanged();
     void radiusChanged();
 
+protected:
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
+
 private:
+    void paint(QImage &picture, double ratio) const;
+
     template<typename Value>
     void change(Value &value, const Value &next, void (Pill::*told)());
 

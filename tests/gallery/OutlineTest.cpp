@@ -127,6 +127,28 @@ TEST_F(GalleryTest, drawsAPillEvenlyWhereverItStands)
     }
 }
 
+TEST_F(GalleryTest, drawsAPillTheSameBetweenThePixels)
+{
+    for (const QSizeF &size : {QSizeF(82, 24), QSizeF(81, 23), QSizeF(6, 60)}) {
+        std::vector<std::unique_ptr<Pill>> pills;
+        for (const QPointF &place :
+             {QPointF(800, 10), QPointF(901, 10), QPointF(1000, 11), QPointF(1101, 11)}) {
+            auto pill = std::make_unique<Pill>();
+            pill->setParentItem(gallery->window().contentItem());
+            pill->setPosition(place);
+            pill->setSize(size);
+            pill->setBorderColor(Qt::white);
+            pills.push_back(std::move(pill));
+        }
+        const QImage window = gallery->window().grabWindow();
+        const QImage first = cropped(part(window, *pills.front()), ground());
+        for (const auto &pill : pills) {
+            EXPECT_EQ(cropped(part(window, *pill), ground()), first)
+                << size.width() << " x " << size.height() << " at " << pill->x() << ", " << pill->y();
+        }
+    }
+}
+
 TEST_F(GalleryTest, drawsEachRoundControlEvenly)
 {
     const QImage window = gallery->window().grabWindow();
