@@ -76,6 +76,8 @@ CleanupCase {
         press(Qt.Key_Tab);
         press(Qt.Key_Return);
         tryVerify(() => Cleanup.names("Library/Logs") === "", patience, "the logs are gone");
+        tryVerify(() => !Cleanup.isCleaning() && !foot(), patience, "the cleaning has ended, and its scan");
+        verify(list().activeFocus, `the keyboard goes on in the list, not at ${Program.focusPath()}`);
     }
 
     function test_trashGoesForGood() {

@@ -9,6 +9,11 @@ FocusScope {
 
     required property SmartCleanupView view
 
+    // The button that had the keyboard rests during a run, and is gone after it: the keyboard goes on in the list.
+    readonly property bool isCleaning: view.isCleaning
+
+    onIsCleaningChanged: if (isCleaning && activeFocus) list.forceActiveFocus()
+
     CleanupHeader {
         id: header
         anchors.left: parent.left
@@ -36,6 +41,7 @@ FocusScope {
         anchors.bottomMargin: Theme.unit * 5 + (screen.view.hasList ? foot.implicitHeight + Theme.unit * 3 : 0)
 
         CleanupList {
+            id: list
             anchors.fill: parent
             anchors.rightMargin: -Theme.unit * 3 // its scroll bar stands in the margin, and the cards end where all else does
             visible: screen.view.hasList
