@@ -2,7 +2,7 @@ import QtQuick
 import Quillmere
 
 // What a button, a picker or a field stands on: its ground, the wash of the pointer and the ring of the keyboard.
-Rectangle {
+Pill {
     id: face
 
     property color outline: "transparent"
@@ -11,11 +11,9 @@ Rectangle {
     property bool hasRing: false
 
     radius: Theme.controlRadius
-    color: "transparent"
-    border.color: outline
-    border.width: outline.a > 0 ? 1 : 0
+    borderColor: outline
 
-    Rectangle {
+    Pill {
         anchors.fill: parent
         visible: face.isHovered || face.isDown
         radius: parent.radius

@@ -3,7 +3,7 @@ import Quillmere
 
 // What lies under a row: a wash where it is the current one, pressed or under the pointer, and an outline of its own while its
 // menu is open, so that nobody takes the current row for the one that the menu is about.
-Rectangle {
+Pill {
     property bool isCurrent: false
     property bool isDown: false
     property bool isHovered: false
@@ -11,6 +11,5 @@ Rectangle {
 
     radius: Theme.controlRadius
     color: isCurrent ? Theme.selected : isDown ? Theme.pressed : isHovered ? Theme.hover : "transparent"
-    border.width: isMenuTarget ? 1 : 0
-    border.color: Theme.text
+    borderColor: isMenuTarget ? Theme.text : "transparent"
 }

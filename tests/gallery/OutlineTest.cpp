@@ -96,6 +96,23 @@ QImage part(const QImage &window, const QQuickItem &item)
     return window.copy(QRectF(seen.topLeft() * ratio, seen.size() * ratio).toAlignedRect());
 }
 
+/// How many pixels of a line are met on the way through the middle, from the left, the right, the top and the bottom.
+std::vector<int> lineWidths(const QImage &picture, QRgb ground)
+{
+    const QPoint middle = picture.rect().center();
+    const auto width = [&](QPoint from, QPoint step) {
+        int pixels = 0;
+        for (QPoint at = from; at != middle && (pixels == 0 || !isGround(picture.pixel(at), ground));
+             at += step)
+            pixels += isGround(picture.pixel(at), ground) ? 0 : 1;
+        return pixels;
+    };
+    const QPoint across(1, 0);
+    const QPoint down(0, 1);
+    return {width({0, middle.y()}, across), width({picture.width() - 1, middle.y()}, -across),
+            width({middle.x(), 0}, down), width({middle.x(), picture.height() - 1}, -down)};
+}
+
 QRgb ground()
 {
     return GalleryTest::gallery->window().color().rgb();
@@ -162,4 +179,21 @@ TEST_F(GalleryTest, drawsEachRoundControlEvenly)
     });
     seen.removeDuplicates();
     EXPECT_EQ(seen.size(), roundControls.size());
+}
+
+TEST_F(GalleryTest, drawsTheMarkOfARowEvenly)
+{
+    const QImage window = gallery->window().grabWindow();
+    int seen = 0;
+    forEachCell([&](const QQuickItem *section, QQuickItem *cell) {
+        if (GalleryTest::told(section, "control") != "RowBackground"
+            || GalleryTest::told(cell, "pose") != "its menu is open")
+            return;
+        ++seen;
+        const std::vector<int> widths = lineWidths(
+            part(window, *qobject_cast<QQuickItem *>(GalleryTest::control(section, cell))), ground());
+        EXPECT_GT(widths.front(), 0);
+        EXPECT_EQ(widths, std::vector<int>(4, widths.front()));
+    });
+    EXPECT_EQ(seen, 1);
 }
