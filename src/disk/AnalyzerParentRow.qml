@@ -24,8 +24,11 @@ T.ItemDelegate {
             size: 14
         }
         BodyText {
+            id: label
             anchors.left: icon.right
             anchors.leftMargin: Theme.unit * 2.5
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.unit * 2.5
             anchors.verticalCenter: parent.verticalCenter
             text: row.text
             color: Theme.secondText
@@ -37,5 +40,10 @@ T.ItemDelegate {
         FocusRing {
             visible: row.visualFocus
         }
+    }
+    Tip {
+        control: row
+        isDue: row.hovered && !row.down
+        text: label.truncated ? row.text : ""
     }
 }

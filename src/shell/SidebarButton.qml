@@ -36,13 +36,17 @@ T.ItemDelegate {
             color: button.isSelected ? Theme.accent : Theme.secondText
         }
         BodyText {
+            id: label
             anchors.left: icon.right
             anchors.leftMargin: Theme.unit * 2.5
+            anchors.right: badgePill.visible ? badgePill.left : parent.right
+            anchors.rightMargin: badgePill.visible ? Theme.unit : 0
             anchors.verticalCenter: parent.verticalCenter
             text: button.itemTitle
             font.weight: button.isSelected ? Font.DemiBold : Font.Normal
         }
         Badge {
+            id: badgePill
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: button.badge
@@ -57,5 +61,10 @@ T.ItemDelegate {
         FocusRing {
             visible: button.isCurrent
         }
+    }
+    Tip {
+        control: button
+        isDue: button.hovered && !button.down
+        text: label.truncated ? button.itemTitle : ""
     }
 }

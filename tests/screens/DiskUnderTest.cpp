@@ -13,7 +13,9 @@ void makeOddNames(const TempHome &temp)
     temp.sparseFile(QStringLiteral("odd/line\nbreak/inside"), 9 * megabyte);
     temp.sparseFile(QStringLiteral("odd/\"quoted\" & <b>bold/inside"), 8 * megabyte);
     temp.sparseFile(QStringLiteral("odd/emoji \U0001F980/inside"), 7 * megabyte);
-    temp.sparseFile(QStringLiteral("odd/") + QString(255, u'w') + QStringLiteral("/inside"), 6 * megabyte);
+    const QString longest = QStringLiteral("odd/") + QString(255, u'w');
+    temp.sparseFile(longest + QStringLiteral("/inside"), 6 * megabyte);
+    temp.sparseFile(longest + QStringLiteral("/deeper/last"), 1);
     const QString notUtf8 = paths::fromBytes("bytes \xff\xfe");
     temp.sparseFile(QStringLiteral("odd/") + notUtf8 + QStringLiteral("/inside"), 5 * megabyte);
     temp.sparseFile(QStringLiteral("odd/") + notUtf8 + QStringLiteral("/") + notUtf8, megabyte);

@@ -14,7 +14,7 @@ AnalyzerCase {
             { tag: "markup", shown: "\"quoted\" & <b>bold", bytes: "%22quoted%22%20%26%20%3Cb%3Ebold",
               size: "8.0 MB", items: 1 },
             { tag: "emoji", shown: "emoji \u{1F980}", bytes: "emoji%20%F0%9F%A6%80", size: "7.0 MB", items: 1 },
-            { tag: "255 bytes", shown: "w".repeat(255), bytes: "w".repeat(255), size: "6.0 MB", items: 1 },
+            { tag: "255 bytes", shown: "w".repeat(255), bytes: "w".repeat(255), size: "6.0 MB", items: 2 },
             { tag: "invalid UTF-8", shown: "bytes \uFFFD\uFFFD", bytes: "bytes%20%FF%FE", size: "6.0 MB", items: 2 },
         ];
     }
@@ -87,6 +87,20 @@ AnalyzerCase {
         find("CONTENTS (7 items)");
         drill(data.shown, data.items);
         verify(row("inside"));
+    }
+
+    function test_longParentRowIsCutAndToldByItsTooltip() {
+        const name = "w".repeat(255);
+        analyze(odd);
+        drill(name, 2);
+        drill("deeper", 1);
+        const parentRow = Program.named("parentRow");
+        const line = `..  ${name}`;
+        const label = Program.textItem(line, parentRow);
+        verify(label.mapToItem(parentRow, label.width, 0).x < parentRow.width);
+        compare(Program.texts().split("\n").filter(text => text === line).length, 1);
+        mouseMove(parentRow);
+        tryVerify(() => Program.texts().split("\n").filter(text => text === line).length === 2, patience, "a tooltip tells it");
     }
 
     function test_brokenAndCircularLinksAreRowsOfTheirOwn() {

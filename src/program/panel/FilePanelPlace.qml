@@ -12,6 +12,7 @@ ListRow {
 
     text: name
     spoken: hereText
+    tip: hovered && label.truncated ? name : ""
 
     contentItem: Item {
         Symbol {
@@ -22,6 +23,7 @@ ListRow {
             color: row.isHere ? Theme.accent : Theme.secondText
         }
         BodyText {
+            id: label
             anchors.left: icon.right
             anchors.leftMargin: Theme.unit * 2
             anchors.right: parent.right
