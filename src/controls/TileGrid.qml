@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Quillmere
 
-// A grid of cells: the keys that walk it and act on its cells, the right button. It follows its current cell at once. What is
-// selected is its screen's to know and its cells' to draw; a cell that is pressed calls `take`.
+// A grid of cells: the keys that walk it and act on its cells, the right button, as a RowList has them; like that it follows its
+// current cell at once. What is selected is its screen's to know and its cells' to draw; a cell that is pressed calls `take`.
 GridView {
     id: grid
 
@@ -19,8 +19,15 @@ GridView {
 
     // Makes that cell the current one and brings the keyboard to it.
     function take(cell) {
-        currentIndex = cell;
+        goTo(cell);
         forceActiveFocus();
+    }
+
+    // Makes that cell the current one and shows it whole.
+    function goTo(cell) {
+        currentIndex = cell;
+        forceLayout();
+        positionViewAtIndex(cell, GridView.Contain);
     }
 
     function goToTop() {
@@ -28,12 +35,18 @@ GridView {
         positionViewAtBeginning();
     }
 
+    function scrollBy(distance) {
+        cancelFlick();
+        contentY += distance;
+        returnToBounds();
+    }
+
     function walk(key, modifiers) {
         const from = currentIndex;
         const to = GridSteps.target(isMirrored ? GridSteps.mirrored(key) : key, modifiers, from, count, columns, height / cellHeight);
         if (to < 0)
             return false;
-        currentIndex = to;
+        goTo(to);
         if (modifiers & Qt.ShiftModifier)
             selectionExtended(from, to);
         return true;
@@ -66,7 +79,7 @@ GridView {
     cacheBuffer: 0 // or cells that nobody sees would be told of to assistive technology
     currentIndex: -1
     keyNavigationEnabled: false // its own keys know neither pages nor the ends
-    highlightMoveDuration: 0
+    highlightFollowsCurrentItem: false // a frame late, and more keys may come before; goTo is not
 
     // Whoever comes by key sees where they are.
     onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
@@ -82,6 +95,11 @@ GridView {
 
     T.ScrollBar.vertical: ScrollHandle { }
 
+    // A notch goes its way at once: as a movement it would paint the grid a dozen times. What a touchpad tells is the view's.
+    WheelHandler {
+        acceptedDevices: PointerDevice.Mouse
+        onWheel: event => grid.scrollBy(RowSteps.wheelDistance(event.angleDelta.y))
+    }
     // One for all cells. No TapHandler: it would make a cell take the right button for a click of its own.
     MouseArea {
         parent: grid

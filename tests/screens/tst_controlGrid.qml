@@ -50,6 +50,24 @@ Item {
             compare(grid.currentIndex, 19);
         }
 
+        // A held key comes faster than frames do.
+        function test_gridShowsItsCurrentCellBeforeTheNextFrame() {
+            const grid = make(grids);
+            grid.walk(Qt.Key_End, Qt.NoModifier);
+            compare(grid.contentY, 440);
+            grid.walk(Qt.Key_Home, Qt.NoModifier);
+            compare(grid.contentY, 0);
+        }
+
+        function test_gridGoesOnAtOnceWithTheWheel() {
+            const grid = make(grids);
+            mouseWheel(grid, 50, 50, 0, -120);
+            compare(grid.contentY, RowSteps.wheelDistance(-120));
+            for (let i = 0; i < 20; ++i)
+                mouseWheel(grid, 50, 50, 0, -120);
+            compare(grid.contentY, 440);
+        }
+
         function test_gridsKeysAreTurnedAroundWhereOneReadsFromTheRight() {
             const grid = make(grids);
             grid.LayoutMirroring.enabled = true;
