@@ -31,7 +31,7 @@ T.Popup {
         spacing: Theme.unit * 2
         Accessible.role: Accessible.AlertMessage
         Accessible.name: dialog.title
-        Accessible.description: dialog.note.length > 0 ? dialog.text + " " + dialog.note : dialog.text
+        Accessible.description: RowTexts.inARow([dialog.text, dialog.note])
         Keys.onUpPressed: words.scroll(-words.line)
         Keys.onDownPressed: words.scroll(words.line)
 

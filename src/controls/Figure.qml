@@ -13,7 +13,7 @@ Item {
     implicitWidth: Math.max(Math.ceil(Math.max(caption.implicitWidth, amount.implicitWidth)), leastWidth)
     implicitHeight: amount.y + amount.height
     Accessible.role: Accessible.StaticText
-    Accessible.name: label + ": " + value
+    Accessible.name: RowTexts.figure(label, value)
 
     CaptionText {
         id: caption

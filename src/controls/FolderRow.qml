@@ -77,6 +77,6 @@ T.ItemDelegate {
     Tip {
         control: row
         isDue: row.hovered && !row.down && !remove.hovered
-        text: path.truncated ? row.text + "\n" + row.tip : row.tip
+        text: RowTexts.lines([path.truncated ? row.text : "", row.tip])
     }
 }

@@ -1,5 +1,16 @@
 #include "controls/RowTexts.h"
 
+namespace {
+
+QString joined(const QStringList &texts, QChar separator)
+{
+    QStringList shown = texts;
+    shown.removeAll(QString());
+    return shown.join(separator);
+}
+
+} // namespace
+
 QString RowTexts::place(int row, int count)
 {
     return QStringLiteral("%1 of %2").arg(row + 1).arg(count);
@@ -17,7 +28,15 @@ QString RowTexts::menuName()
 
 QString RowTexts::lines(const QStringList &lines)
 {
-    QStringList shown = lines;
-    shown.removeAll(QString());
-    return shown.join(u'\n');
+    return joined(lines, u'\n');
+}
+
+QString RowTexts::inARow(const QStringList &texts)
+{
+    return joined(texts, u' ');
+}
+
+QString RowTexts::figure(const QString &label, const QString &value)
+{
+    return QStringLiteral("%1: %2").arg(label, value);
 }

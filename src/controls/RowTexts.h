@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
-/// Texts that a row of any list has. Pure.
+/// Texts that a row of any list has, and what controls put together of the texts that they are given. Pure.
 class RowTexts final : public QObject
 {
     Q_OBJECT
@@ -24,4 +24,10 @@ public:
 
     /// The lines of a tooltip; those that are empty are left out.
     Q_INVOKABLE static QString lines(const QStringList &lines);
+
+    /// One text after the other on a line; those that are empty are left out.
+    Q_INVOKABLE static QString inARow(const QStringList &texts);
+
+    /// What assistive technology is told of a figure: "Total size: 4 GB".
+    Q_INVOKABLE static QString figure(const QString &label, const QString &value);
 };

@@ -19,7 +19,7 @@ Item {
 
     implicitHeight: Theme.controlHeight
     Accessible.role: Accessible.ListItem
-    Accessible.name: suffix.length > 0 ? text + " " + suffix : text
+    Accessible.name: RowTexts.inARow([text, suffix])
     Accessible.description: tip
 
     Rectangle {
@@ -71,6 +71,6 @@ Item {
     Tip {
         control: row
         isDue: pointer.hovered && !remove.hovered
-        text: !rule.truncated ? row.tip : row.tip.length > 0 ? row.text + "\n" + row.tip : row.text
+        text: RowTexts.lines([rule.truncated ? row.text : "", row.tip])
     }
 }

@@ -11,7 +11,7 @@ Rectangle {
     id: bar
 
     required property MenuBarView commands
-    readonly property var keysInForce: commands.shortcuts
+    readonly property var inForce: commands.commandsInForce
     property int shownIndex: -1 // the title whose menu is open
 
     function show(index, isByKey) {
@@ -65,7 +65,7 @@ Rectangle {
             required property var modelData
             sequence: modelData.sequence
             autoRepeat: false
-            enabled: bar.keysInForce.some(key => key.command === modelData.command)
+            enabled: bar.inForce.includes(modelData.command)
             onActivated: bar.commands.perform(modelData.command)
         }
     }

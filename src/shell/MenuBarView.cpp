@@ -112,7 +112,7 @@ MenuBarView::MenuBarView(const Platform &platform, const MainContentView &main, 
     , quit_(std::move(quit))
     , commands_(allCommands())
 {
-    connect(&main_, &MainContentView::screenChanged, this, &MenuBarView::shortcutsChanged);
+    connect(&main_, &MainContentView::screenChanged, this, &MenuBarView::commandsInForceChanged);
 }
 
 QVariantMap MenuBarView::item(size_t index) const
@@ -152,30 +152,25 @@ bool MenuBarView::hasShortcut(const Command &command)
     return !command.keys.isEmpty() && command.isEnabled && !isWatchedElsewhere;
 }
 
-QVariantMap MenuBarView::shortcut(size_t index) const
-{
-    return {{QStringLiteral("sequence"), keysigns::sequence(commands_[index].keys)},
-            {QStringLiteral("command"), static_cast<int>(index)}};
-}
-
 QVariantList MenuBarView::keys() const
 {
     QVariantList keys;
     for (size_t i = 0; i < commands_.size(); ++i) {
         if (hasShortcut(commands_[i]))
-            keys.append(shortcut(i));
+            keys.append(QVariantMap{{QStringLiteral("sequence"), keysigns::sequence(commands_[i].keys)},
+                                    {QStringLiteral("command"), static_cast<int>(i)}});
     }
     return keys;
 }
 
-QVariantList MenuBarView::shortcuts() const
+QList<int> MenuBarView::commandsInForce() const
 {
-    QVariantList shortcuts;
+    QList<int> commands;
     for (size_t i = 0; i < commands_.size(); ++i) {
         if (hasShortcut(commands_[i]) && !main_.claimsKey(commands_[i].keys))
-            shortcuts.append(shortcut(i));
+            commands.append(static_cast<int>(i));
     }
-    return shortcuts;
+    return commands;
 }
 
 void MenuBarView::perform(int command)

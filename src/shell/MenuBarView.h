@@ -17,7 +17,7 @@ class MenuBarView final : public QObject
     Q_PROPERTY(QVariantList menus READ menus CONSTANT)
     Q_PROPERTY(bool hasText READ hasText NOTIFY hasTextChanged)
     Q_PROPERTY(QVariantList keys READ keys CONSTANT)
-    Q_PROPERTY(QVariantList shortcuts READ shortcuts NOTIFY shortcutsChanged)
+    Q_PROPERTY(QList<int> commandsInForce READ commandsInForce NOTIFY commandsInForceChanged)
 
 public:
     /// One line of a menu. A line without a title is a divider.
@@ -43,11 +43,11 @@ public:
     /// isText, command}. The sequence, Alt with the letter, opens the menu. Items with `isText` are enabled only while `hasText` is set.
     QVariantList menus() const;
 
-    /// Every key that may be in force, as `shortcuts` has them. Unlike that list it never changes.
+    /// Every key that may be in force: {sequence, command} for each command that is enabled. It never changes.
     QVariantList keys() const;
 
-    /// The keys in force: {sequence, command} for each command that is enabled and whose key no screen claims.
-    QVariantList shortcuts() const;
+    /// The commands of `keys` whose key is in force: no screen claims it.
+    QList<int> commandsInForce() const;
 
     /// Does what the command with that index does, unless it is disabled.
     Q_INVOKABLE void perform(int command);
@@ -59,12 +59,11 @@ public:
 signals:
     void hasTextChanged();
     void textCommandChosen(const QString &textCommand);
-    void shortcutsChanged();
+    void commandsInForceChanged();
 
 private:
     QVariantMap item(size_t index) const;
     static bool hasShortcut(const Command &command);
-    QVariantMap shortcut(size_t index) const;
 
     const Platform &platform_;
     const MainContentView &main_;

@@ -9,6 +9,13 @@ ListView {
 
     required property SidebarView sidebar
 
+    function walk(key, modifiers) {
+        const row = RowSteps.target(key, modifiers, currentIndex, count, height / Theme.rowHeight);
+        if (row >= 0)
+            currentIndex = row;
+        return row >= 0;
+    }
+
     function goBackToSelected() {
         currentIndex = sidebar.selectedRow;
     }
@@ -17,17 +24,12 @@ ListView {
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     activeFocusOnTab: true
-    keyNavigationEnabled: true
+    keyNavigationEnabled: false // its own keys know neither pages nor the ends
     highlightMoveDuration: 0
     Accessible.role: Accessible.List
     Accessible.name: sidebar.listName
     onActiveFocusChanged: goBackToSelected()
-    Keys.onPressed: event => {
-        if (event.key === Qt.Key_Home || event.key === Qt.Key_End) {
-            currentIndex = event.key === Qt.Key_Home ? 0 : count - 1;
-            event.accepted = true;
-        }
-    }
+    Keys.onPressed: event => event.accepted = walk(event.key, event.modifiers)
 
     section.property: "sectionTitle"
     section.delegate: CaptionText {

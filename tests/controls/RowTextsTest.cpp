@@ -15,3 +15,16 @@ TEST(RowTexts, leaveEmptyLinesOutOfATooltip)
               QStringLiteral("name\nwhat a click does"));
     EXPECT_EQ(RowTexts::lines({QString(), QString()}), QString());
 }
+
+TEST(RowTexts, leaveEmptyTextsOutOfALine)
+{
+    EXPECT_EQ(RowTexts::inARow({QStringLiteral("/proc"), QStringLiteral("(overridden)")}),
+              QStringLiteral("/proc (overridden)"));
+    EXPECT_EQ(RowTexts::inARow({QStringLiteral("/proc"), QString()}), QStringLiteral("/proc"));
+}
+
+TEST(RowTexts, tellAFigureWithItsLabel)
+{
+    EXPECT_EQ(RowTexts::figure(QStringLiteral("Total %2"), QStringLiteral("4 GB")),
+              QStringLiteral("Total %2: 4 GB"));
+}

@@ -62,22 +62,20 @@ protected:
                          [&title](const MenuBarView::Command &command) { return command.title == title; });
         return found == commands.end() ? -1 : static_cast<int>(found - commands.begin());
     }
-    QStringList sequences() const
+    /// The keys in force, with their commands.
+    QMap<QString, int> keys() const
     {
-        QStringList sequences;
-        for (const QVariant &shortcut : menuBar.shortcuts())
-            sequences << shortcut.toMap().value(QStringLiteral("sequence")).toString();
-        return sequences;
-    }
-    /// The command of a key in force; -1 of any other.
-    int commandOf(const QString &sequence) const
-    {
-        for (const QVariant &shortcut : menuBar.shortcuts()) {
-            if (shortcut.toMap().value(QStringLiteral("sequence")).toString() == sequence)
-                return shortcut.toMap().value(QStringLiteral("command")).toInt();
+        QMap<QString, int> keys;
+        for (const QVariant &key : menuBar.keys()) {
+            const int command = key.toMap().value(QStringLiteral("command")).toInt();
+            if (menuBar.commandsInForce().contains(command))
+                keys.insert(key.toMap().value(QStringLiteral("sequence")).toString(), command);
         }
-        return -1;
+        return keys;
     }
+    QStringList sequences() const { return keys().keys(); }
+    /// The command of a key in force; -1 of any other.
+    int commandOf(const QString &sequence) const { return keys().value(sequence, -1); }
 
     TestPlatform test;
     ContentView content{test.platform, {}};
@@ -241,7 +239,7 @@ TEST_F(MenuBarViewTest, leavesTheQuitKeyToWhoWatchesForItAheadOfAllElse)
 
 TEST_F(MenuBarViewTest, leavesOutTheKeyThatTheScreenOnViewClaims)
 {
-    const QSignalSpy changes(&menuBar, &MenuBarView::shortcutsChanged);
+    const QSignalSpy changes(&menuBar, &MenuBarView::commandsInForceChanged);
     content.setSelectedItem(SidebarItem::diskAnalyzer);
     EXPECT_EQ(changes.count(), 1);
     EXPECT_FALSE(sequences().contains(QStringLiteral("Ctrl+R")));
