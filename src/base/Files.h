@@ -167,7 +167,7 @@ enum class Operation {
     write, ///< of `writeAtomically`, whose path this and the next two get
     sync,
     rename,
-    move, ///< of `move`, with the path that it leaves; EINVAL is a file system without an exclusive rename
+    move,   ///< of `move`, with the path that it leaves; EINVAL is a file system without an exclusive rename
     remove, ///< of `removeTree`, of each entry
 };
 
