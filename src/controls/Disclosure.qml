@@ -17,8 +17,6 @@ ButtonBase {
     rightPadding: Theme.unit * 2
     isCut: title.isCut
     Accessible.name: label
-    Accessible.checkable: true // of what the toolkit's assistive technology knows, the nearest to expanded
-    Accessible.checked: isExpanded
 
     contentItem: Item {
         implicitWidth: chevron.width + (title.implicitWidth > 0 ? Theme.unit * 2 + title.implicitWidth : 0)

@@ -10,6 +10,9 @@ Column {
     property string detail
 
     spacing: Theme.unit * 2
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+    Accessible.description: detail
 
     Symbol {
         anchors.horizontalCenter: parent.horizontalCenter

@@ -32,6 +32,7 @@ T.ItemDelegate {
     contentItem: Item {
         Symbol {
             id: icon
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             name: row.symbol
             size: 14
@@ -42,7 +43,7 @@ T.ItemDelegate {
             anchors.left: icon.right
             anchors.leftMargin: Theme.unit * 2
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, detailText.x - x - Theme.unit * 2)
+            width: Math.min(implicitWidth, parent.width - icon.width - detailText.width - remove.width - Theme.unit * 4)
             text: row.text
             elide: Text.ElideMiddle
         }

@@ -21,7 +21,8 @@ Card {
 
     Symbol {
         id: icon
-        x: Theme.unit * 4
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.unit * 4
         anchors.verticalCenter: parent.verticalCenter
         visible: !bar.isBusy
         name: bar.symbol

@@ -12,7 +12,8 @@ ButtonBase {
     property bool isOn: false
 
     implicitWidth: Theme.controlHeight
-    fill: isToggle && isOn ? Theme.selected : "transparent"
+    fill: isToggle && isOn && enabled ? Theme.selected : "transparent"
+    outline: isToggle && isOn && !enabled ? Theme.line : "transparent"
     Accessible.name: label
     Accessible.checkable: isToggle
     Accessible.checked: isToggle && isOn

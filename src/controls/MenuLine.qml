@@ -25,7 +25,7 @@ T.MenuItem {
         BodyText {
             id: title
             anchors.left: parent.left
-            width: Math.min(implicitWidth, keys.x - Theme.unit * 2)
+            width: Math.min(implicitWidth, parent.width - keys.width - Theme.unit * 2)
             anchors.verticalCenter: parent.verticalCenter
             visible: !line.isDivider
             text: line.text

@@ -29,7 +29,8 @@ Item {
     }
     Symbol {
         id: icon
-        x: Theme.unit * 2
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.unit * 2
         anchors.verticalCenter: parent.verticalCenter
         name: row.symbol
         size: 13
@@ -40,7 +41,7 @@ Item {
         anchors.left: icon.right
         anchors.leftMargin: Theme.unit * 2
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, row.width - x - remove.width - suffixText.implicitWidth - Theme.unit * 2)
+        width: Math.min(implicitWidth, row.width - icon.width - remove.width - suffixText.implicitWidth - Theme.unit * 6)
         text: row.text
         color: row.inkColor
         elide: Text.ElideMiddle

@@ -23,13 +23,14 @@ FocusRow {
     Accessible.role: Accessible.Grouping
     Accessible.name: label
 
-    ButtonFace {
+    Rectangle {
         z: -1
         anchors.left: parent.left
         width: segments.implicitWidth
         height: parent.height
+        radius: Theme.controlRadius
         color: Theme.raised
-        outline: Theme.line
+        border.color: Theme.line
     }
     delegate: ButtonBase {
         id: segment
@@ -58,7 +59,7 @@ FocusRow {
             id: label
             symbol: segments.symbols[segment.index] ?? ""
             text: segments.areTextsShown ? segment.text : ""
-            color: !segment.enabled ? Theme.disabledText : segment.isChosen ? Theme.accent : Theme.text
+            color: !segment.enabled ? Theme.disabledText : segment.isChosen && !segment.down ? Theme.accent : Theme.text
             font.pixelSize: Theme.smallSize
         }
     }

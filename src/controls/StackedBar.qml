@@ -44,7 +44,7 @@ Item {
             focusPolicy: !isLink ? Qt.NoFocus : index === row.stop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             tip: modelData.tip ?? ""
             corner: Theme.tileRadius
-            Accessible.role: isLink ? Accessible.Button : Accessible.StaticText
+            toldRole: isLink ? Accessible.Button : Accessible.StaticText
             Accessible.name: modelData.label ?? ""
             onClicked: if (isLink) bar.chosen(index)
 

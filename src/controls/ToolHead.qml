@@ -23,6 +23,7 @@ Item {
 
     Row {
         id: titleRow
+        anchors.left: parent.left
         height: head.lineHeight
         spacing: Theme.unit * 2.5
         Symbol {
@@ -52,7 +53,8 @@ Item {
     }
     Row {
         id: figureRow
-        x: head.isNarrow ? 0 : titleRow.width + Theme.unit * 8
+        anchors.left: parent.left
+        anchors.leftMargin: head.isNarrow ? 0 : titleRow.width + Theme.unit * 8
         y: head.isNarrow ? head.figuresTop : Math.round((head.lineHeight - height) / 2)
         spacing: Theme.unit * 6
     }

@@ -106,10 +106,11 @@ int AccessibleItem::indexOfChild(const QAccessibleInterface *child) const
 QString AccessibleItem::text(QAccessible::Text kind) const
 {
     const QString text = inner() ? inner()->text(kind) : QString();
-    // A menu's title is known to the menu, not to the item that draws it.
-    if (text.isEmpty() && kind == QAccessible::Name && item_ && item_->parent())
-        return item_->parent()->property("title").toString();
-    return text;
+    if (!text.isEmpty() || kind != QAccessible::Name || !item_ || !item_->parent())
+        return text;
+    // A menu's title and a tooltip's text are known to these, not to the item that draws them.
+    const QObject &owner = *item_->parent();
+    return owner.property(owner.inherits("QQuickToolTip") ? "text" : "title").toString();
 }
 
 void AccessibleItem::setText(QAccessible::Text kind, const QString &text)

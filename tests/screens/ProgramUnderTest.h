@@ -2,6 +2,7 @@
 
 #include "program/Composition.h"
 #include "program/FallbackPanel.h"
+#include "screens/Spoken.h"
 #include "screens/Surroundings.h"
 
 #include <QObject>
@@ -57,6 +58,8 @@ public:
     Q_INVOKABLE bool settle() const;
     /// The texts on view that can't be told well enough from what is behind them, a line each.
     Q_INVOKABLE QString faintTexts() const;
+    /// What assistive technology is told of the item (spoken::of).
+    Q_INVOKABLE QVariantMap spoken(QQuickItem *item) const { return spoken::of(item); }
     /// Saves a picture of the window where QUILLMERE_PICTURES names a folder.
     Q_INVOKABLE void picture(const QString &name) const;
 

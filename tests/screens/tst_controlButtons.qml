@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Quillmere
+import Quillmere.Screens
 
 // What is pressed: by mouse, by Space, by Return and by the keypad's Enter.
 Item {
@@ -62,9 +63,12 @@ Item {
                 { tag: "action", kind: action, role: Accessible.Button, name: "Clean" },
                 { tag: "icon", kind: icon, role: Accessible.Button, name: "Remove rule" },
                 { tag: "link", kind: link, role: Accessible.Link, name: "View Details" },
-                { tag: "tick", kind: tick, role: Accessible.CheckBox, name: "notes.txt" },
-                { tag: "switch", kind: toggle, role: Accessible.CheckBox, name: "Show hidden files" },
-                { tag: "disclosure", kind: disclosure, role: Accessible.Button, name: "ADVANCED" },
+                { tag: "tick", kind: tick, role: Accessible.CheckBox, name: "notes.txt", states: "checkable",
+                  pressedStates: "checkable checked" },
+                { tag: "switch", kind: toggle, role: Accessible.CheckBox, name: "Show hidden files", states: "checkable",
+                  pressedStates: "checkable checked" },
+                { tag: "disclosure", kind: disclosure, role: Accessible.Button, name: "ADVANCED", states: "collapsed expandable",
+                  pressedStates: "expandable expanded" },
             ];
         }
 
@@ -100,14 +104,20 @@ Item {
             verify(!button.activeFocus);
         }
 
-        function test_tellsRoleAndName_data() {
+        function test_tellsRoleNameAndState_data() {
             return kinds();
         }
 
-        function test_tellsRoleAndName(row) {
+        function test_tellsRoleNameAndState(row) {
             const button = make(row.kind);
-            compare(button.Accessible.role, row.role);
-            compare(button.Accessible.name, row.name);
+            const told = Program.spoken(button);
+            compare(told.role, row.role);
+            compare(told.name, row.name);
+            compare(told.states, row.states ?? "");
+            button.clicked();
+            compare(Program.spoken(button).states, row.pressedStates ?? "");
+            button.enabled = false;
+            verify(Program.spoken(button).states.includes("disabled"));
         }
 
         function test_ringIsShownForTheKeyboardAlone_data() {

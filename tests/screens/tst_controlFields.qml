@@ -148,7 +148,7 @@ Item {
         function test_wrongTextIsToldByColourAndWord() {
             const input = make(inputs, { isWrong: true, wrongText: "No such folder" });
             const line = inputIn(input);
-            compare(line.Accessible.description, "No such folder");
+            compare(Program.spoken(line).description, "No such folder");
             mouseMove(input, 20, 10);
             tryVerify(() => onView().includes("No such folder"), patience);
         }
@@ -159,9 +159,9 @@ Item {
 
         function test_tellsWhatItIs() {
             const line = inputIn(make(searches));
-            compare(line.Accessible.role, Accessible.EditableText);
-            compare(line.Accessible.name, "Search apps...");
-            verify(line.Accessible.searchEdit);
+            compare(Program.spoken(line).role, Accessible.EditableText);
+            compare(Program.spoken(line).name, "Search apps...");
+            compare(Program.spoken(line).states, "editable searchEdit");
         }
 
         function test_tenThousandSignsStayInside() {
@@ -177,7 +177,7 @@ Item {
             compare(crossIn(search), null);
             write("a");
             verify(onView().includes("3 of 120"));
-            compare(crossIn(search).Accessible.name, "Clear search");
+            compare(Program.spoken(crossIn(search)).name, "Clear search");
         }
 
         function crossIn(search) {

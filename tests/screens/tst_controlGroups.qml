@@ -131,15 +131,15 @@ Item {
         function test_chosenOneIsToldAsAState() {
             const group = make(segments, { currentIndex: 1 });
             press(Qt.Key_Tab);
-            compare(focusItem().Accessible.role, Accessible.RadioButton);
-            verify(focusItem().Accessible.checked);
+            compare(Program.spoken(focusItem()).role, Accessible.RadioButton);
+            compare(Program.spoken(focusItem()).states, "checkable checked");
             const strip = make(tabs);
             strip.forceActiveFocus(Qt.TabFocusReason);
             press(Qt.Key_Tab);
             const tab = Program.itemWith("isChosen", strip, true);
-            compare(tab.Accessible.role, Accessible.PageTab);
-            verify(tab.Accessible.selected);
-            compare(group.Accessible.name, "Sort");
+            compare(Program.spoken(tab).role, Accessible.PageTab);
+            compare(Program.spoken(tab).states, "selectable selected");
+            compare(Program.spoken(group).name, "Sort");
         }
 
         function test_segmentsOfSymbolsAloneHaveNames() {
@@ -147,7 +147,7 @@ Item {
                                            areTextsShown: false });
             verify(!onView().includes("List view"));
             const first = Program.itemWith("isChosen", group);
-            compare(first.Accessible.name, "List view");
+            compare(Program.spoken(first).name, "List view");
             mouseMove(first, 5, 5);
             tryVerify(() => onView().includes("List view"), patience);
         }
