@@ -3,9 +3,11 @@
 #include "gallery/GalleryPoses.h"
 #include "program/ProgramInfo.h"
 #include "screens/Scene.h"
+#include "screens/Spoken.h"
 #include "screens/Warnings.h"
 
 #include <QAccessible>
+#include <QAccessibleInterface>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QtQuickTest/quicktest.h>
@@ -30,6 +32,26 @@ bool tooltipsAreUp()
         }
     }
     return count > 0;
+}
+
+/// The items that a control is made of, the outermost one first: it, or what it opens over the window.
+std::vector<QQuickItem *> partsOf(QObject *control)
+{
+    QObjectList roots = control->findChildren<QObject *>();
+    roots.prepend(control);
+    std::vector<QQuickItem *> parts;
+    for (QObject *root : roots) {
+        auto *item = qobject_cast<QQuickItem *>(root == control ? root : nullptr);
+        if (root->inherits("QQuickPopup")) {
+            const auto *content = root->property("contentItem").value<QQuickItem *>();
+            item = content ? content->parentItem() : nullptr;
+        }
+        if (!item)
+            continue;
+        for (QQuickItem *part : scene::items(item, [](QQuickItem *) { return true; }))
+            parts.push_back(part);
+    }
+    return parts;
 }
 
 } // namespace
@@ -91,6 +113,19 @@ QObject *GalleryTest::control(const QQuickItem *section, QQuickItem *cell)
             return object;
     }
     return nullptr;
+}
+
+QVariantMap GalleryTest::spokenIn(const QQuickItem *section, QQuickItem *cell)
+{
+    QObject *made = control(section, cell);
+    for (QQuickItem *part : made ? partsOf(made) : std::vector<QQuickItem *>()) {
+        const QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(part);
+        if (!spoken || spoken->role() != section->property("role").toInt())
+            continue;
+        if (const QVariantMap heard = spoken::of(part); !heard.isEmpty())
+            return heard;
+    }
+    return {};
 }
 
 void GalleryTest::forEachCell(const std::function<void(QQuickItem *, QQuickItem *)> &check)

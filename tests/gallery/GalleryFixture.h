@@ -3,6 +3,7 @@
 #include "gallery/Gallery.h"
 
 #include <QString>
+#include <QVariantMap>
 
 #include <functional>
 #include <memory>
@@ -31,6 +32,10 @@ struct GalleryTest : ::testing::Test
 
     /// The control that a cell shows: an item, or a popup that opens over the window; null for none.
     static QObject *control(const QQuickItem *section, QQuickItem *cell);
+
+    /// What assistive technology is told of the control in that cell (spoken::of): of the first item of it, from the outermost
+    /// one, in the role that the section names. Empty where there is none.
+    static QVariantMap spokenIn(const QQuickItem *section, QQuickItem *cell);
 
     /// For each cell of each section.
     static void forEachCell(const std::function<void(QQuickItem *section, QQuickItem *cell)> &check);

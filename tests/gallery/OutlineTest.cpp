@@ -1,5 +1,6 @@
 #include "controls/Pill.h"
 #include "gallery/GalleryFixture.h"
+#include "screens/Scene.h"
 
 #include <QColor>
 #include <QImage>
@@ -16,7 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList roundControls = {u"FilterChip"_s, u"Badge"_s, u"AgePill"_s, u"ShareBar"_s};
+const QStringList roundControls = {u"FilterChip"_s, u"Badge"_s,        u"AgePill"_s,
+                                   u"ShareBar"_s,   u"ToggleSwitch"_s, u"ScrollHandle"_s};
 
 bool isGround(QRgb pixel, QRgb ground)
 {
@@ -172,10 +174,16 @@ TEST_F(GalleryTest, drawsEachRoundControlEvenly)
     QStringList seen;
     forEachCell([&](const QQuickItem *section, QQuickItem *cell) {
         const QString type = GalleryTest::told(section, "control");
-        if (!roundControls.contains(type))
+        const bool isLit = QStringList{u"hovered"_s, u"pressed"_s, u"focused"_s}.contains(told(cell, "pose"));
+        if (!roundControls.contains(type)
+            || (isLit && type == u"ToggleSwitch"_s)) // what lights that lies behind it
             return;
         seen << type;
-        expectPill(part(window, *qobject_cast<QQuickItem *>(GalleryTest::control(section, cell))), ground());
+        const std::vector<QQuickItem *> pills =
+            scene::items(qobject_cast<QQuickItem *>(GalleryTest::control(section, cell)),
+                         [](QQuickItem *item) { return qobject_cast<Pill *>(item) != nullptr; });
+        ASSERT_FALSE(pills.empty());
+        expectPill(part(window, *pills.front()), ground());
     });
     seen.removeDuplicates();
     EXPECT_EQ(seen.size(), roundControls.size());

@@ -1,6 +1,7 @@
 #include "gallery/Gallery.h"
 
 #include "gallery/GalleryPoses.h"
+#include "program/AccessibleItems.h"
 
 #include <QFontDatabase>
 #include <QQuickWindow>
@@ -13,6 +14,7 @@ Q_IMPORT_QML_PLUGIN(Quillmere_GalleryPlugin)
 
 Gallery::Gallery(bool isDark)
 {
+    accessibleitems::install();
     QFontDatabase::addApplicationFont(
         QStringLiteral(":/qt/qml/Quillmere/controls/symbols/QuillmereSymbols.ttf"));
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));

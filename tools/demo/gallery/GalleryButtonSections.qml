@@ -60,6 +60,21 @@ Column {
         }
     }
     GallerySection {
+        control: "ActionButton"
+        variant: "busy"
+        role: Accessible.Button
+        poses: ["normal", "disabled"]
+        GalleryCell {
+            id: busy
+            ActionButton {
+                width: Math.min(implicitWidth, busy.room)
+                text: busy.word
+                symbol: "trash"
+                isBusy: true
+            }
+        }
+    }
+    GallerySection {
         control: "IconButton"
         role: Accessible.Button
         GalleryCell {
@@ -72,7 +87,43 @@ Column {
         }
     }
     GallerySection {
+        control: "IconButton"
+        variant: "off"
+        role: Accessible.Button
+        toldStates: ["checkable"]
+        poses: ["normal", "hovered", "pressed", "focused", "disabled"]
+        GalleryCell {
+            id: iconOff
+            IconButton {
+                symbol: "eye.fill"
+                label: iconOff.word
+                tip: ""
+                isToggle: true
+            }
+        }
+    }
+    GallerySection {
+        control: "IconButton"
+        variant: "on"
+        role: Accessible.Button
+        toldStates: ["checkable", "checked"]
+        poses: ["normal", "hovered", "pressed", "focused", "disabled"]
+        GalleryCell {
+            id: iconOn
+            IconButton {
+                symbol: "eye.fill"
+                label: iconOn.word
+                tip: ""
+                isToggle: true
+                isOn: true
+            }
+        }
+    }
+    GallerySection {
         control: "FilterChip"
+        role: Accessible.RadioButton
+        toldStates: ["checkable"]
+        poses: ["normal", "hovered", "pressed", "disabled", "long text", "right to left"]
         GalleryCell {
             id: chip
             usual: "Images"
@@ -87,6 +138,8 @@ Column {
     GallerySection {
         control: "FilterChip"
         variant: "selected"
+        role: Accessible.RadioButton
+        toldStates: ["checkable", "checked"]
         GalleryCell {
             id: selectedChip
             usual: "Images"
@@ -101,6 +154,7 @@ Column {
     GallerySection {
         control: "Picker"
         role: Accessible.ComboBox
+        toldStates: ["expandable", "collapsed"]
         GalleryCell {
             id: choice
             usual: "100 KB"

@@ -10,8 +10,13 @@ Column {
     readonly property string pose: modelData
     property string usual: "Move to Trash"
     readonly property string word: GalleryPoses.word(pose, usual, GalleryPoses.sample)
+    property string spoken: word // its name for assistive technology
     property int room: 160 // the widest that it may get
     default property alias content: stage.data
+
+    function strike() {
+        GalleryPoses.strike(stage, pose);
+    }
 
     spacing: Theme.unit * 1.5
 
@@ -24,6 +29,15 @@ Column {
         width: childrenRect.width
         height: childrenRect.height
         enabled: cell.pose !== "disabled"
+        LayoutMirroring.enabled: cell.pose === "right to left"
+        LayoutMirroring.childrenInherit: true
     }
-    Component.onCompleted: GalleryPoses.strike(stage, pose)
+    // Parts that a new palette has made anew are without the pose.
+    Connections {
+        target: Theme
+        function onIsDarkChanged() {
+            cell.strike();
+        }
+    }
+    Component.onCompleted: strike()
 }

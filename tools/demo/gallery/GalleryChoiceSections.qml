@@ -9,6 +9,7 @@ Column {
 
     GallerySection {
         control: "LinkButton"
+        role: Accessible.Link
         GalleryCell {
             id: link
             LinkButton {
@@ -19,6 +20,8 @@ Column {
     }
     GallerySection {
         control: "Disclosure"
+        role: Accessible.Button
+        toldStates: ["expandable", "collapsed"]
         GalleryCell {
             id: disclosure
             Disclosure {
@@ -29,7 +32,23 @@ Column {
         }
     }
     GallerySection {
+        control: "Disclosure"
+        variant: "expanded"
+        role: Accessible.Button
+        toldStates: ["expandable", "expanded"]
+        GalleryCell {
+            id: open
+            Disclosure {
+                width: Math.min(implicitWidth, open.room)
+                text: open.word
+                isExpanded: true
+            }
+        }
+    }
+    GallerySection {
         control: "TickBox"
+        role: Accessible.CheckBox
+        toldStates: ["checkable"]
         GalleryCell {
             id: box
             TickBox {
@@ -42,6 +61,8 @@ Column {
     GallerySection {
         control: "TickBox"
         variant: "ticked"
+        role: Accessible.CheckBox
+        toldStates: ["checkable", "checked"]
         GalleryCell {
             id: tickedBox
             TickBox {
@@ -53,6 +74,8 @@ Column {
     }
     GallerySection {
         control: "ToggleSwitch"
+        role: Accessible.CheckBox
+        toldStates: ["checkable"]
         GalleryCell {
             id: toggle
             ToggleSwitch {
@@ -65,6 +88,8 @@ Column {
     GallerySection {
         control: "ToggleSwitch"
         variant: "on"
+        role: Accessible.CheckBox
+        toldStates: ["checkable", "checked"]
         GalleryCell {
             id: toggleOn
             ToggleSwitch {
@@ -77,27 +102,42 @@ Column {
     GallerySection {
         control: "Segments"
         role: Accessible.Grouping
-        poses: ["normal", "hovered", "disabled", "right to left"]
         GalleryCell {
             id: segments
             usual: "Lines"
             Segments {
                 label: segments.word
-                labels: [segments.word.slice(0, 12), "Columns", "Gallery"]
+                labels: [segments.word, "Columns", "Gallery"]
                 currentIndex: 1
+            }
+        }
+    }
+    GallerySection {
+        control: "Segments"
+        variant: "of symbols"
+        role: Accessible.Grouping
+        poses: ["normal", "hovered", "pressed", "focused", "disabled"]
+        GalleryCell {
+            id: signs
+            usual: "View"
+            Segments {
+                label: signs.word
+                labels: ["List", "Grid"]
+                symbols: ["list.bullet", "square.grid.2x2"]
+                areTextsShown: false
+                currentIndex: 0
             }
         }
     }
     GallerySection {
         control: "TabStrip"
         role: Accessible.PageTabList
-        poses: ["normal", "hovered", "disabled", "right to left"]
         GalleryCell {
             id: tabs
             usual: "Rules"
             TabStrip {
                 label: tabs.word
-                labels: [tabs.word.slice(0, 12), "Preview", "History"]
+                labels: [tabs.word, "Preview", "History"]
                 currentIndex: 0
             }
         }
@@ -105,7 +145,6 @@ Column {
     GallerySection {
         control: "Breadcrumbs"
         role: Accessible.Grouping
-        poses: ["normal", "disabled", "long text", "right to left"]
         GalleryCell {
             id: way
             usual: "Documents"
@@ -114,50 +153,6 @@ Column {
                 height: Theme.controlHeight
                 label: way.word
                 model: ["Home", way.word, "Invoices"]
-            }
-        }
-    }
-    GallerySection {
-        control: "ProgressRing"
-        role: Accessible.ProgressBar
-        poses: ["normal", "disabled"]
-        GalleryCell {
-            id: ring
-            ProgressRing {
-                label: ring.word
-                value: 0.4
-            }
-        }
-    }
-    GallerySection {
-        control: "StackedBar"
-        role: Accessible.Grouping
-        poses: ["normal", "hovered", "disabled"]
-        GalleryCell {
-            id: stack
-            StackedBar {
-                width: 300
-                height: Theme.unit * 4
-                label: stack.word
-                parts: [{ share: 0.4, fill: Theme.accent, label: "Documents", tip: "", isLink: true },
-                        { share: 0.001, fill: Theme.amber, label: "Caches", tip: "" },
-                        { share: 0.2, fill: Theme.green, label: "Movies", tip: "" }]
-            }
-        }
-    }
-    GallerySection {
-        control: "ResultLine"
-        role: Accessible.AlertMessage
-        poses: GalleryPoses.still
-        GalleryCell {
-            id: result
-            ResultLine {
-                text: result.word
-                detail: result.word
-                dismissLabel: "Dismiss"
-                ActionButton {
-                    text: "Undo"
-                }
             }
         }
     }

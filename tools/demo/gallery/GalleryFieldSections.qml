@@ -9,8 +9,11 @@ Column {
 
     GallerySection {
         control: "InputField"
+        role: Accessible.EditableText
+        toldStates: ["editable"]
         GalleryCell {
             id: field
+            spoken: "Name"
             InputField {
                 text: field.word
                 label: "Name"
@@ -21,6 +24,8 @@ Column {
     GallerySection {
         control: "InputField"
         variant: "empty"
+        role: Accessible.EditableText
+        toldStates: ["editable"]
         poses: ["normal", "hovered", "focused", "disabled", "long text", "right to left"]
         GalleryCell {
             id: emptyField
@@ -32,9 +37,12 @@ Column {
     GallerySection {
         control: "InputField"
         variant: "with a wrong text"
+        role: Accessible.EditableText
+        toldStates: ["editable"]
         poses: ["normal", "focused", "disabled"]
         GalleryCell {
             id: wrongField
+            spoken: "Name"
             InputField {
                 text: wrongField.word
                 label: "Name"
@@ -45,8 +53,11 @@ Column {
     }
     GallerySection {
         control: "SearchField"
+        role: Accessible.EditableText
+        toldStates: ["editable", "searchEdit"]
         GalleryCell {
             id: search
+            spoken: "Search"
             SearchField {
                 text: search.word
                 placeholder: "Search"
@@ -57,8 +68,11 @@ Column {
     }
     GallerySection {
         control: "NumberField"
-        poses: ["normal", "hovered", "focused", "disabled"]
+        role: Accessible.EditableText
+        toldStates: ["editable"]
+        poses: ["normal", "hovered", "focused", "disabled", "right to left"]
         GalleryCell {
+            spoken: "Days"
             NumberField {
                 label: "Days"
                 value: 30

@@ -70,6 +70,7 @@ Column {
     GallerySection {
         control: "Badge"
         role: Accessible.StaticText
+        toldStates: ["readOnly"]
         poses: GalleryPoses.still
         GalleryCell {
             id: badge
@@ -86,6 +87,7 @@ Column {
         control: "Badge"
         variant: "without a symbol"
         role: Accessible.StaticText
+        toldStates: ["readOnly"]
         poses: GalleryPoses.still
         GalleryCell {
             id: plainBadge
@@ -101,13 +103,14 @@ Column {
         control: "Badge"
         variant: "of a warning"
         role: Accessible.StaticText
+        toldStates: ["readOnly"]
         poses: GalleryPoses.still
         GalleryCell {
-            id: warning
+            id: warningBadge
             usual: "SAME FILE"
             Badge {
-                width: Math.min(implicitWidth, warning.room)
-                text: warning.word
+                width: Math.min(implicitWidth, warningBadge.room)
+                text: warningBadge.word
                 tint: Theme.amber
             }
         }
@@ -115,6 +118,7 @@ Column {
     GallerySection {
         control: "AgePill"
         role: Accessible.StaticText
+        toldStates: ["readOnly"]
         poses: GalleryPoses.still
         GalleryCell {
             id: age
@@ -127,14 +131,110 @@ Column {
     }
     GallerySection {
         control: "Figure"
+        role: Accessible.StaticText
+        toldStates: ["readOnly"]
         poses: GalleryPoses.still
         GalleryCell {
             id: figure
             usual: "12.4 GB"
+            spoken: "RECLAIMABLE: " + word
             Figure {
                 width: figure.room
                 label: "RECLAIMABLE"
                 value: figure.word
+            }
+        }
+    }
+    GallerySection {
+        control: "ProgressRing"
+        role: Accessible.ProgressBar
+        poses: ["normal", "disabled"]
+        GalleryCell {
+            id: ring
+            ProgressRing {
+                label: ring.word
+                value: 0.4
+            }
+        }
+    }
+    GallerySection {
+        control: "ProgressRing"
+        variant: "turning"
+        role: Accessible.ProgressBar
+        poses: ["normal", "disabled"]
+        GalleryCell {
+            id: turningRing
+            ProgressRing {
+                label: turningRing.word
+                isTurning: true
+            }
+        }
+    }
+    GallerySection {
+        control: "StackedBar"
+        role: Accessible.Grouping
+        poses: ["normal", "hovered", "pressed", "focused", "disabled", "right to left"]
+        GalleryCell {
+            id: stack
+            StackedBar {
+                width: 300
+                height: Theme.unit * 4
+                label: stack.word
+                parts: [{ share: 0.4, fill: Theme.accent, label: "Documents", tip: "", isLink: true },
+                        { share: 0.001, fill: Theme.amber, label: "Caches", tip: "" },
+                        { share: 0.2, fill: Theme.green, label: "Movies", tip: "" }]
+            }
+        }
+    }
+    GallerySection {
+        control: "ResultLine"
+        role: Accessible.AlertMessage
+        poses: GalleryPoses.still
+        GalleryCell {
+            id: result
+            ResultLine {
+                text: result.word
+                detail: result.word
+                dismissLabel: "Dismiss"
+                ActionButton {
+                    text: "Undo"
+                }
+            }
+        }
+    }
+    GallerySection {
+        control: "ResultLine"
+        variant: "of a warning"
+        role: Accessible.AlertMessage
+        poses: ["normal", "disabled"]
+        GalleryCell {
+            id: warning
+            ResultLine {
+                text: warning.word
+                tone: ResultLine.Warning
+                detail: warning.word
+                dismissLabel: "Dismiss"
+                ActionButton {
+                    text: "Undo"
+                }
+            }
+        }
+    }
+    GallerySection {
+        control: "ResultLine"
+        variant: "of a failure"
+        role: Accessible.AlertMessage
+        poses: ["normal", "disabled"]
+        GalleryCell {
+            id: failure
+            ResultLine {
+                text: failure.word
+                tone: ResultLine.Failure
+                detail: failure.word
+                dismissLabel: "Dismiss"
+                ActionButton {
+                    text: "Undo"
+                }
             }
         }
     }

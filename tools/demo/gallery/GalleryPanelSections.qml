@@ -18,7 +18,22 @@ Column {
         }
     }
     GallerySection {
+        control: "CardSlice"
+        poses: ["first", "between", "last", "alone"]
+        GalleryCell {
+            id: slice
+            CardSlice {
+                width: 160
+                height: Theme.rowHeight
+                isFirst: slice.pose === "first" || slice.pose === "alone"
+                isLast: slice.pose === "last" || slice.pose === "alone"
+            }
+        }
+    }
+    GallerySection {
         control: "EmptyState"
+        role: Accessible.StaticText
+        toldStates: ["readOnly"]
         poses: GalleryPoses.still
         GalleryCell {
             id: empty
@@ -33,6 +48,7 @@ Column {
     }
     GallerySection {
         control: "ToolHead"
+        role: Accessible.Heading
         poses: ["normal", "disabled", "right to left"]
         GalleryCell {
             id: head
@@ -58,10 +74,12 @@ Column {
     }
     GallerySection {
         control: "ScanCommands"
+        role: Accessible.Button
         poses: ["normal", "while it scans", "disabled", "right to left"]
         GalleryCell {
             id: commands
             usual: "Start Scan"
+            spoken: pose === "while it scans" ? "Stop" : word
             ScanCommands {
                 isScanning: commands.pose === "while it scans"
                 canScan: !isScanning
@@ -93,6 +111,8 @@ Column {
     }
     GallerySection {
         control: "FootBar"
+        role: Accessible.StaticText
+        toldStates: ["readOnly"]
         poses: GalleryPoses.still
         GalleryCell {
             id: foot

@@ -10,7 +10,8 @@ Column {
 
     GallerySection {
         control: "PopupMenu"
-        poses: ["normal", "disabled", "long text", "right to left"]
+        role: Accessible.PopupMenu
+        poses: ["normal", "long text", "right to left"]
         GalleryCell {
             id: lines
             Item {
@@ -19,6 +20,7 @@ Column {
                 height: menu.height
                 PopupMenu {
                     id: menu
+                    title: lines.word
                     parent: menuPlace
                     visible: true
                     focus: false
@@ -41,6 +43,7 @@ Column {
     }
     GallerySection {
         control: "TipPopup"
+        role: Accessible.ToolTip
         poses: ["normal", "long text", "right to left"]
         GalleryCell {
             id: tipped
@@ -58,6 +61,7 @@ Column {
     }
     GallerySection {
         control: "ConfirmDialog"
+        role: Accessible.AlertMessage
         poses: ["normal", "long text", "right to left"]
         GalleryCell {
             id: question
@@ -82,7 +86,35 @@ Column {
         }
     }
     GallerySection {
+        control: "ConfirmDialog"
+        variant: "plain"
+        role: Accessible.AlertMessage
+        poses: ["normal"]
+        GalleryCell {
+            id: plainQuestion
+            Item {
+                id: plainQuestionPlace
+                width: plainDialog.width
+                height: plainDialog.implicitHeight
+                ConfirmDialog {
+                    id: plainDialog
+                    parent: plainQuestionPlace
+                    modal: false
+                    focus: false
+                    margins: -1
+                    closePolicy: T.Popup.NoAutoClose
+                    title: plainQuestion.word
+                    text: plainQuestion.word
+                    cancelLabel: "Cancel"
+                    actionLabel: "Clean"
+                    isDestructive: false
+                }
+            }
+        }
+    }
+    GallerySection {
         control: "SheetFrame"
+        role: Accessible.Dialog
         poses: ["normal", "long text", "right to left"]
         GalleryCell {
             id: sheetCell
@@ -106,6 +138,7 @@ Column {
     }
     GallerySection {
         control: "PlainAlert"
+        role: Accessible.AlertMessage
         poses: ["normal", "long text", "right to left"]
         GalleryCell {
             id: news
@@ -129,6 +162,7 @@ Column {
     }
     GallerySection {
         control: "TextPrompt"
+        role: Accessible.AlertMessage
         poses: ["normal", "long text", "right to left"]
         GalleryCell {
             id: asked

@@ -7,7 +7,9 @@
 #include <QQuickItem>
 #include <QUrl>
 
+#include <algorithm>
 #include <functional>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -61,11 +63,25 @@ void dragOver(QQuickItem *item)
     QCoreApplication::sendEvent(item, &event);
 }
 
+/// Whether the ring is that of where the Tab key comes to first: not of a row's choices but one, nor of a button within
+/// another stop.
+bool isOfTheStop(const QQuickItem *ring)
+{
+    QList<int> policies; // of what is around it, from within
+    for (const QQuickItem *around = ring; around; around = around->parentItem()) {
+        if (const QVariant policy = around->property("focusPolicy"); policy.isValid())
+            policies << policy.toInt();
+    }
+    const auto stops =
+        std::count_if(policies.begin(), policies.end(), [](int policy) { return policy & Qt::TabFocus; });
+    return policies.isEmpty() || (stops == 1 && (policies.front() & Qt::TabFocus));
+}
+
 /// One item of a window has the keyboard. So that the gallery can show the look of each that could have it, only its ring
 /// is shown; what has the keyboard in truth is seen by going there with the Tab key.
 void showRing(QQuickItem *item)
 {
-    if (item->objectName() == "focusRing"_L1)
+    if (item->objectName() == "focusRing"_L1 && isOfTheStop(item))
         item->setVisible(true);
 }
 
@@ -100,12 +116,11 @@ QString GalleryPoses::word(const QString &pose, const QString &usual, const QStr
 
 void GalleryPoses::strike(QQuickItem *stage, const QString &pose)
 {
-    if (pose == hovered)
-        forEachBelow(stage, hover);
-    else if (pose == pressed)
-        forEachBelow(stage, press);
-    else if (pose == dragged)
-        forEachBelow(stage, dragOver);
-    else if (pose == focused)
-        forEachBelow(stage, showRing);
+    static const std::map<QString, void (*)(QQuickItem *)> acts = {
+        {hovered, hover}, {pressed, press}, {dragged, dragOver}, {focused, showRing}};
+    const auto act = acts.find(pose);
+    if (act == acts.end())
+        return;
+    QMetaObject::invokeMethod(
+        stage, [stage, act] { forEachBelow(stage, act->second); }, Qt::QueuedConnection);
 }

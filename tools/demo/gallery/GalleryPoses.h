@@ -29,7 +29,7 @@ public:
     /// The word for a control in that pose, in place of `usual` where the pose has one of its own.
     Q_INVOKABLE static QString word(const QString &pose, const QString &usual, const QString &sample);
 
-    /// Puts the controls below that item into the pose, with what a pointer would send them.
+    /// Puts the controls below that item into the pose, with what a pointer would send them, as soon as all of them are made.
     Q_INVOKABLE static void strike(QQuickItem *stage, const QString &pose);
 
 signals:

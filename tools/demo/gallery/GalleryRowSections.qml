@@ -89,6 +89,7 @@ Column {
     GallerySection {
         control: "ListRow"
         role: Accessible.ListItem
+        toldStates: ["selectable"]
         poses: ["normal", "hovered", "pressed", "its menu is open", "disabled", "long text", "right to left"]
         GalleryCell {
             id: rowCell
@@ -135,6 +136,7 @@ Column {
     }
     GallerySection {
         control: "TileGrid"
+        role: Accessible.List
         poses: ["normal", "disabled"]
         GalleryCell {
             id: gridCell

@@ -8,7 +8,8 @@ Column {
 
     required property string control // the name of its file
     property string variant
-    property int role: Accessible.NoRole // which its cells tell to assistive technology; none for a part of something else
+    property int role: Accessible.NoRole // in which its cells speak to assistive technology; none for what is only drawn
+    property var toldStates: []          // with these states, by the toolkit's names, besides those of the pose
     property var poses: GalleryPoses.all
     default property Component cell
 
