@@ -39,7 +39,8 @@ Pill {
         }
         CaptionText {
             id: label
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.baseline: parent.verticalCenter
+            anchors.baselineOffset: TextRuler.baselineOffset(font)
             width: Math.min(implicitWidth, badge.width - badge.rest)
             text: badge.text
             color: badge.tint

@@ -30,7 +30,8 @@ T.RadioButton {
         implicitHeight: word.implicitHeight
         BodyText {
             id: word
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.baseline: parent.verticalCenter
+            anchors.baselineOffset: TextRuler.baselineOffset(font)
             width: Math.min(implicitWidth, parent.width - count.room)
             text: chip.label
             color: !chip.enabled ? Theme.disabledText : chip.isSelected ? Theme.accent : Theme.text
@@ -40,7 +41,7 @@ T.RadioButton {
             id: count
             readonly property int room: visible ? Math.ceil(implicitWidth) + Theme.unit * 1.5 : 0
             anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.baseline: word.baseline
             visible: text.length > 0
             text: chip.countText
             color: chip.enabled ? Theme.secondText : Theme.disabledText

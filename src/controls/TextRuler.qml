@@ -2,7 +2,7 @@ pragma Singleton
 
 import QtQuick
 
-// How much room words take: for what keeps its width while its word changes.
+// How much room words take: for what keeps its width while its word changes, and what has them in its middle.
 QtObject {
     id: ruler
 
@@ -15,5 +15,13 @@ QtObject {
         for (const word of words)
             most = Math.max(most, metrics.advanceWidth(word));
         return Math.ceil(most);
+    }
+
+    // How far below the middle a line of that font begins its letters, for its capitals and digits to stand in the middle. The
+    // box around a text has more room above them than below, or less, as the font likes it.
+    function baselineOffset(font) {
+        const scale = 16; // whole pixels of a small letter would be too coarse
+        metrics.font = Qt.font({ family: font.family, weight: font.weight, pixelSize: font.pixelSize * scale });
+        return -metrics.tightBoundingRect("H").y / scale / 2;
     }
 }
