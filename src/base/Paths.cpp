@@ -99,19 +99,19 @@ QString display(const QString &text)
 
 QString inOneLine(const QString &text)
 {
-    constexpr char16_t controlPictures = 0x2400; // plus the control character
-    QString line = display(text);
+    // Signs that most fonts of text have; they lack the pictures of control characters.
+    constexpr QChar turn = u'\u21B5';
+    constexpr QChar control = u'\u2327';
+    QString line = display(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     for (QChar &character : line) {
         const char16_t code = character.unicode();
         const bool isDirection = (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
-        if (code == u'\n')
-            character = QChar(u'\u21B5'); // these two have signs in most fonts of text, unlike the pictures
+        if (code == u'\n' || code == u'\r')
+            character = turn;
         else if (code == u'\t')
             character = QChar(u'\u21E5');
-        else if (code < 0x20)
-            character = QChar(static_cast<char16_t>(controlPictures + code));
-        else if (code == 0x7F)
-            character = QChar(u'\u2421');
+        else if (code < 0x20 || code == 0x7F)
+            character = control;
         else if ((code >= 0x80 && code < 0xA0) || code == 0x2028 || code == 0x2029 || isDirection)
             character = QChar::ReplacementCharacter;
     }

@@ -346,7 +346,8 @@ TEST(FileUrls, giveNoPathForOtherAddresses)
 
 TEST(Paths, showWhatWouldBreakALineAsSignsOfItsOwn)
 {
-    EXPECT_EQ(paths::inOneLine(u"a\nb\tc\x1B[31m\x7F"_s), u"a\u21B5b\u21E5c\u241B[31m\u2421"_s);
+    EXPECT_EQ(paths::inOneLine(u"a\nb\tc\x1B[31m\x7F"_s), u"a\u21B5b\u21E5c\u2327[31m\u2327"_s);
+    EXPECT_EQ(paths::inOneLine(u"a\rb\r\nc\n\rd"_s), u"a\u21B5b\u21B5c\u21B5\u21B5d"_s); // a pair is one turn
     EXPECT_EQ(paths::inOneLine(u"a\u2028b\u2029c\u0085d"_s), u"a\uFFFDb\uFFFDc\uFFFDd"_s);
     EXPECT_EQ(paths::inOneLine(paths::fromBytes("bytes \xff")), u"bytes \uFFFD"_s);
     EXPECT_EQ(paths::inOneLine(u"plain \u05E9\u05DC\u05D5\u05DD \U0001F980"_s),
