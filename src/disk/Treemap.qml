@@ -17,9 +17,14 @@ Item {
     Accessible.role: Accessible.Graphic
     Accessible.name: label
     Accessible.description: summary
-    onWidthChanged: map.resize(width, height)
-    onHeightChanged: map.resize(width, height)
-    Component.onCompleted: map.resize(width, height)
+    onWidthChanged: fit()
+    onHeightChanged: fit()
+    Screen.onDevicePixelRatioChanged: fit()
+    Component.onCompleted: fit()
+
+    function fit() {
+        map.resize(width, height, Screen.devicePixelRatio);
+    }
 
     Repeater {
         model: view.map.tiles

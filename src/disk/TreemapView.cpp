@@ -8,29 +8,39 @@
 
 namespace {
 
-constexpr double gap = 2; // points between neighbours, half of it on each side of a tile
+constexpr double gap = 2; // points between neighbours
+constexpr double opacityUnderPointer = 0.8;
 constexpr double leastLabelWidth = 55;
 constexpr double leastLabelHeight = 28;
 
 const QString darkLabel = QStringLiteral("#0d1117");
 const QString lightLabel = QStringLiteral("#ffffff");
 
-/// Near-black on light tiles and white on dark ones, by the relative luminance of sRGB.
-QString labelColor(const QString &tileColor)
+double luminance(const Color &color)
 {
-    const Color color = colorFromHex(tileColor);
     const auto linear = [](double component) {
         return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
     };
-    const double luminance =
-        0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
-    return luminance > 0.18 ? darkLabel : lightLabel; // equal contrast at 0.18
+    return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
 }
 
-/// The other of the two, so that a tile that lets it through reads better, not worse, whatever the card below is.
+/// Near-black on light tiles and white on dark ones, by the relative luminance of sRGB.
+QString labelColor(const QString &tileColor)
+{
+    return luminance(colorFromHex(tileColor)) > 0.18 ? darkLabel : lightLabel; // equal contrast at 0.18
+}
+
+/// White, so that every tile lightens as it lets it through, except where a white label would not read well then.
 QString groundColor(const QString &tileColor)
 {
-    return labelColor(tileColor) == darkLabel ? lightLabel : darkLabel;
+    constexpr double mostBelowWhite = 1.05 / 4.5 - 0.05; // the luminance that white has a contrast of 4.5 on
+    if (labelColor(tileColor) == darkLabel)
+        return lightLabel;
+    const Color tile = colorFromHex(tileColor);
+    const auto hovered = [](double part) { return part * opacityUnderPointer + 1 - opacityUnderPointer; };
+    return luminance({hovered(tile.red), hovered(tile.green), hovered(tile.blue)}) <= mostBelowWhite
+               ? lightLabel
+               : darkLabel;
 }
 
 QString tileSizeText(double bytes)
@@ -45,6 +55,23 @@ QString tipText(const TreemapItem &item)
     return QStringLiteral("%1 · %2").arg(paths::inOneLine(item.name), tileSizeText(item.size));
 }
 
+/// Where a tile begins and how far it reaches between two edges, in points. The edges are laid on pixels before the gap is
+/// taken off, so that it is as wide everywhere.
+struct Stretch
+{
+    Stretch(double begin, double end, double pixelRatio)
+    {
+        const double gapPixels = std::round(gap * pixelRatio);
+        const double ahead = std::floor(gapPixels / 2);
+        const double first = std::round(begin * pixelRatio);
+        start = (first + ahead) / pixelRatio;
+        length = std::max(std::round(end * pixelRatio) - first - gapPixels, 0.) / pixelRatio;
+    }
+
+    double start;
+    double length;
+};
+
 bool hasLabel(const TreemapItem &item)
 {
     return item.rect.width() > leastLabelWidth && item.rect.height() > leastLabelHeight;
@@ -54,6 +81,7 @@ bool hasLabel(const TreemapItem &item)
 
 TreemapView::TreemapView(QObject *parent)
     : QObject(parent)
+    , hoveredOpacity(opacityUnderPointer)
     , tiles_({
           {"tileName", [](const TreemapItem &item) { return paths::inOneLine(item.name); }},
           {"sizeText", [](const TreemapItem &item) { return tileSizeText(item.size); }},
@@ -61,10 +89,10 @@ TreemapView::TreemapView(QObject *parent)
           {"tileColor", [](const TreemapItem &item) { return colorText(item.color); }},
           {"labelColor", [](const TreemapItem &item) { return labelColor(item.color); }},
           {"groundColor", [](const TreemapItem &item) { return groundColor(item.color); }},
-          {"tileX", [](const TreemapItem &item) { return item.rect.x() + gap / 2; }},
-          {"tileY", [](const TreemapItem &item) { return item.rect.y() + gap / 2; }},
-          {"tileWidth", [](const TreemapItem &item) { return std::max(item.rect.width() - gap, 0.0); }},
-          {"tileHeight", [](const TreemapItem &item) { return std::max(item.rect.height() - gap, 0.0); }},
+          {"tileX", [this](const TreemapItem &item) { return drawn(item.rect).x(); }},
+          {"tileY", [this](const TreemapItem &item) { return drawn(item.rect).y(); }},
+          {"tileWidth", [this](const TreemapItem &item) { return drawn(item.rect).width(); }},
+          {"tileHeight", [this](const TreemapItem &item) { return drawn(item.rect).height(); }},
           {"hasLabel", hasLabel},
       })
 {
@@ -77,11 +105,19 @@ void TreemapView::setCategories(std::vector<StorageCategory> categories)
     layOut();
 }
 
-void TreemapView::resize(double width, double height)
+void TreemapView::resize(double width, double height, double pixelRatio)
 {
     width_ = width;
     height_ = height;
+    pixelRatio_ = pixelRatio;
     layOut();
+}
+
+QRectF TreemapView::drawn(const QRectF &rect) const
+{
+    const Stretch across(rect.left(), rect.right(), pixelRatio_);
+    const Stretch down(rect.top(), rect.bottom(), pixelRatio_);
+    return {across.start, down.start, across.length, down.length};
 }
 
 void TreemapView::layOut()

@@ -22,7 +22,7 @@ public:
     /// pointer is on it), tileX, tileY, tileWidth, tileHeight (points), hasLabel.
     QAbstractItemModel *tiles() { return &tiles_; }
 
-    const double hoveredOpacity = 0.8; ///< of the tile under the pointer
+    const double hoveredOpacity; ///< of the tile under the pointer
 
     void setCategories(std::vector<StorageCategory> categories);
 
@@ -31,7 +31,8 @@ public:
 
     int hoveredIndex() const { return hoveredIndex_; } ///< -1 for none
 
-    Q_INVOKABLE void resize(double width, double height);
+    /// In points. The tiles stand on whole pixels, of which a point has `pixelRatio`.
+    Q_INVOKABLE void resize(double width, double height, double pixelRatio = 1);
     Q_INVOKABLE void hover(int index);
     Q_INVOKABLE void leave(int index);
     Q_INVOKABLE void tap(int index);
@@ -41,11 +42,13 @@ signals:
 
 private:
     void layOut();
+    QRectF drawn(const QRectF &rect) const;
     void setHoveredIndex(int index);
 
     std::vector<StorageCategory> sorted_;
     RecordListModel<TreemapItem> tiles_;
     double width_ = 0;
     double height_ = 0;
+    double pixelRatio_ = 1;
     int hoveredIndex_ = -1;
 };

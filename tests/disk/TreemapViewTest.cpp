@@ -112,6 +112,26 @@ TEST_F(TreemapViewTest, drawsATileTwoPointsSmallerThanItsRectangleAndCentredOnIt
     EXPECT_DOUBLE_EQ(number(1, "tileHeight"), 73);
 }
 
+TEST_F(TreemapViewTest, drawsTilesOnWholePixelsWithGapsOfOneWidth)
+{
+    map.setCategories({category(QStringLiteral("left"), 577), category(QStringLiteral("top"), 311),
+                       category(QStringLiteral("bottom"), 101)});
+    for (const double ratio : {1., 1.25, 1.5, 2.}) {
+        map.resize(501, 333, ratio);
+        ASSERT_EQ(map.tiles()->rowCount(), 3);
+        for (int row = 0; row < 3; ++row) {
+            for (const char *role : {"tileX", "tileY", "tileWidth", "tileHeight"}) {
+                const double pixels = number(row, role) * ratio;
+                EXPECT_NEAR(pixels, std::round(pixels), 1e-6) << role << " at " << ratio;
+            }
+        }
+        const double gap = std::round(2 * ratio) / ratio;
+        EXPECT_NEAR(number(1, "tileX") - number(0, "tileX") - number(0, "tileWidth"), gap, 1e-6);
+        EXPECT_NEAR(number(2, "tileX") - number(0, "tileX") - number(0, "tileWidth"), gap, 1e-6);
+        EXPECT_NEAR(number(2, "tileY") - number(1, "tileY") - number(1, "tileHeight"), gap, 1e-6);
+    }
+}
+
 TEST_F(TreemapViewTest, drawsNoTileOfNegativeExtent)
 {
     map.setCategories({category(QStringLiteral("all"), 100)});
@@ -173,8 +193,22 @@ TEST_F(TreemapViewTest, labelsReadWellOnEveryColourUnderThePointerToo)
         const Color label = readColor(text(row, "labelColor"));
         const Color hovered = mixed(tile, readColor(text(row, "groundColor")), map.hoveredOpacity);
         EXPECT_GE(contrast(tile, label), 4.5) << qPrintable(text(row, "tileColor"));
-        EXPECT_GE(contrast(hovered, label), contrast(tile, label)) << qPrintable(text(row, "tileColor"));
+        EXPECT_GE(contrast(hovered, label), 4.5) << qPrintable(text(row, "tileColor"));
+        const Color lighter = mixed(tile, {1, 1, 1}, map.hoveredOpacity);
+        EXPECT_EQ(luminance(hovered) > luminance(tile), contrast(lighter, label) >= 4.5)
+            << qPrintable(text(row, "tileColor"));
     }
+}
+
+TEST_F(TreemapViewTest, lightensATileUnderThePointerUnlessItsWhiteLabelWouldFade)
+{
+    map.setCategories({category(QStringLiteral("middle"), 2, QStringLiteral("757575")),
+                       category(QStringLiteral("dark"), 1, QStringLiteral("484f58"))});
+    map.resize(100, 100);
+    EXPECT_EQ(text(0, "labelColor"), QStringLiteral("#ffffff"));
+    EXPECT_EQ(text(0, "groundColor"), QStringLiteral("#0d1117"));
+    EXPECT_EQ(text(1, "labelColor"), QStringLiteral("#ffffff"));
+    EXPECT_EQ(text(1, "groundColor"), QStringLiteral("#ffffff"));
 }
 
 TEST_F(TreemapViewTest, showsBytesOfANameThatAreNoTextAndHandsTheNameOnAsItIs)
