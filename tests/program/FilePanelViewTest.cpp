@@ -131,7 +131,10 @@ TEST_F(FilePanelViewTest, goesInAndUpAndByTheCrumbs)
 
 TEST_F(FilePanelViewTest, goesToTheUsualPlaces)
 {
-    folder(u"Movies/films"_s);
+    for (const auto &name :
+         {u"Desktop"_s, u"Documents"_s, u"Downloads"_s, u"Pictures"_s, u"Music"_s, u"Movies/films"_s})
+        folder(name);
+    platform_.temp.folder(u"Applications"_s);
     chooseFolder({});
     EXPECT_EQ(column(*view_->places(), "name"),
               QStringList({u"Home"_s, u"Desktop"_s, u"Documents"_s, u"Downloads"_s, u"Pictures"_s, u"Music"_s,
@@ -146,6 +149,19 @@ TEST_F(FilePanelViewTest, goesToTheUsualPlaces)
     view_->openPlace(9);
     view_->openPlace(-1);
     EXPECT_EQ(view_->folder(), u"/"_s);
+}
+
+TEST_F(FilePanelViewTest, leavesOutPlacesThatDoNotExist)
+{
+    folder(u"Music"_s);
+    chooseFolder({});
+    const QStringList places = column(*view_->places(), "name");
+    EXPECT_TRUE(places.contains(u"Music"_s));
+    EXPECT_FALSE(places.contains(u"Pictures"_s));
+    EXPECT_EQ(currentPlace(), u"Home"_s);
+    view_->openPlace(1);
+    settle();
+    EXPECT_EQ(currentPlace(), u"Music"_s);
 }
 
 TEST_F(FilePanelViewTest, leavesOutPlacesThatAreSwitchedOff)
@@ -221,7 +237,7 @@ TEST_F(FilePanelViewTest, leavesAFolderThatDoesNotAnswer)
     folder(u"other/deep"_s);
     make({u"Choose"_s, at(u"start"_s), false, {}});
     view_->goUp();
-    EXPECT_EQ(platform_.workQueue.waiting(), 2U);
+    EXPECT_EQ(platform_.workQueue.waiting(), 3U); // the places are asked about as well
     platform_.workQueue.step();
     platform_.mainQueue.run();
     EXPECT_EQ(names(), QStringList()) << "It answers after it was left.";

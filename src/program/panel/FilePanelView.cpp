@@ -1,5 +1,6 @@
 #include "program/panel/FilePanelView.h"
 
+#include "base/Files.h"
 #include "base/Paths.h"
 #include "filesystem/FileItem.h"
 
@@ -32,32 +33,48 @@ FilePanelView::FilePanelView(const Platform &platform, Request request, Workspac
     : platform_(platform)
     , request_(std::move(request))
     , chosen_(std::move(chosen))
-    , places_({{"name", [](const Place &place) { return place.name; }},
-               {"symbol", [](const Place &place) { return place.symbol; }},
-               {"isHere", [](const Place &place) { return place.isHere; }},
+    , places_({{"name", [](const panelplaces::Place &place) { return place.name; }},
+               {"symbol", [](const panelplaces::Place &place) { return place.symbol; }},
+               {"isHere", [](const panelplaces::Place &place) { return place.isHere; }},
                {"hereText",
-                [](const Place &place) { return place.isHere ? QStringLiteral("On view") : QString(); }}})
+                [](const panelplaces::Place &place) {
+                    return place.isHere ? QStringLiteral("On view") : QString();
+                }}})
     , rows_({{"name", [](const auto &entry) { return paths::inOneLine(entry.name); }},
              {"symbol", [](const auto &entry) { return symbolOf(entry); }},
              {"isFolder", [](const auto &entry) { return entry.isFolder; }}})
     , wish_{{}, request_.showsHidden, isForSaving()}
     , replaceQuestion_([this] { finish(replacedPath_); })
 {
-    places_.reset(placesOf(*platform_.locations));
+    places_.reset(panelplaces::usual(*platform_.locations));
     offerName(request_.suggestedName.value_or(QString()));
     open(request_.start.isEmpty() ? platform_.home : request_.start);
+    leaveOutMissingPlaces();
 }
 
-std::vector<FilePanelView::Place> FilePanelView::placesOf(const Locations &locations)
+void FilePanelView::leaveOutMissingPlaces()
 {
-    std::vector<Place> places;
-    for (const Locations::SidebarPlace &place : locations.sidebarPlaces) {
-        if (!place.path.isEmpty() && !place.onlyWhenExists)
-            places.push_back({place.name, place.icon, place.path});
-    }
-    places.push_back(
-        {QStringLiteral("File System"), QStringLiteral("internaldrive.fill"), QStringLiteral("/")});
-    return places;
+    QStringList asked;
+    for (const panelplaces::Place &place : places_.records())
+        asked << place.path;
+    // Places may lie on another disk, which may never answer: until it does they are shown.
+    platform_.workQueue.post(
+        WorkPriority::userInitiated,
+        [asked, token = lookForPlaces_.ask(), self = QPointer(this), &main = platform_.mainQueue] {
+            for (const QString &path : asked) {
+                if (!files::exists(path))
+                    token.answer(main, self, [path](FilePanelView &view) { view.leaveOut(path); });
+            }
+        });
+}
+
+void FilePanelView::leaveOut(const QString &missing)
+{
+    std::vector<panelplaces::Place> left = places_.records();
+    std::erase_if(left, [&](const panelplaces::Place &place) { return place.path == missing; });
+    places_.update(std::move(left), [](const panelplaces::Place &one, const panelplaces::Place &other) {
+        return one.path == other.path;
+    });
 }
 
 QString FilePanelView::title() const
@@ -313,7 +330,7 @@ void FilePanelView::takeRows(const std::vector<folderlisting::Entry> &entries)
 void FilePanelView::markPlaces()
 {
     for (int row = 0; row < places_.rowCount(); ++row) {
-        Place place = places_.records()[static_cast<size_t>(row)];
+        panelplaces::Place place = places_.records()[static_cast<size_t>(row)];
         const bool isHere = place.path == folder_;
         if (std::exchange(place.isHere, isHere) != isHere)
             places_.replace(row, place);

@@ -6,6 +6,7 @@
 #include "platform/Platform.h"
 #include "program/panel/FilePanelTexts.h"
 #include "program/panel/FolderListing.h"
+#include "program/panel/PanelPlaces.h"
 #include "program/panel/PanelQuestions.h"
 
 #include <QObject>
@@ -118,15 +119,8 @@ signals:
     void found(int row);
 
 private:
-    struct Place
-    {
-        QString name;
-        QString symbol;
-        QString path;
-        bool isHere = false;
-    };
-
-    static std::vector<Place> placesOf(const Locations &locations);
+    void leaveOutMissingPlaces();
+    void leaveOut(const QString &missing);
     void open(const QString &folder);
     void list();
     void take(const std::optional<std::vector<folderlisting::Entry>> &entries);
@@ -143,7 +137,7 @@ private:
     const Platform &platform_;
     const Request request_;
     Workspace::PathChosen chosen_;
-    RecordListModel<Place> places_;
+    RecordListModel<panelplaces::Place> places_;
     RecordListModel<folderlisting::Entry> rows_;
     QString folder_;
     folderlisting::Wish wish_;
@@ -159,6 +153,7 @@ private:
     double lastTyped_ = 0; // steady seconds
     QString replacedPath_;
     Confirmation replaceQuestion_;
+    LatestQuestion lookForPlaces_;
     LatestQuestion listing_;
     LatestQuestion deed_; // the look before a file is saved, or a folder that is being made
 };
