@@ -18,6 +18,7 @@ class AgePillView final : public QObject
     Q_PROPERTY(bool isShown READ isShown NOTIFY changed)
     Q_PROPERTY(bool isStale READ isStale NOTIFY changed)
     Q_PROPERTY(QString text READ text NOTIFY changed)
+    Q_PROPERTY(QList<QString> widestTexts READ widestTexts CONSTANT)
     Q_PROPERTY(QString tooltip READ tooltip NOTIFY changed)
 
 public:
@@ -31,6 +32,7 @@ public:
     bool isShown() const { return pill().isShown() && !isScanning_; }
     bool isStale() const { return pill().isStale(); } ///< the result is no longer reused
     QString text() const { return pill().text(); }
+    QList<QString> widestTexts() const { return LastScannedPill::widestTexts(); }
     QString tooltip() const { return pill().tooltip(); }
 
 signals:

@@ -25,6 +25,17 @@ QString ageText(double age)
                              : QStringLiteral("%1 days ago").arg(seconds / day);
 }
 
+namespace {
+
+const QString staleText = QStringLiteral("Stale · refreshing soon");
+
+QString cachedText(double age)
+{
+    return QStringLiteral("Cached · %1").arg(ageText(age));
+}
+
+} // namespace
+
 double LastScannedPill::age() const
 {
     return date ? dates::secondsBetween(*date, now) : 0;
@@ -39,8 +50,15 @@ QString LastScannedPill::text() const
 {
     if (!isShown())
         return {};
-    return isStale() ? QStringLiteral("Stale · refreshing soon")
-                     : QStringLiteral("Cached · %1").arg(ageText(age()));
+    return isStale() ? staleText : cachedText(age());
+}
+
+QStringList LastScannedPill::widestTexts()
+{
+    QStringList texts{staleText};
+    for (const qint64 age : {qint64(0), qint64(44), 44 * minute, 20 * hour, day, 44 * day})
+        texts << cachedText(static_cast<double>(age));
+    return texts;
 }
 
 QString LastScannedPill::tooltip() const

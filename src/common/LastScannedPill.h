@@ -2,7 +2,7 @@
 
 #include "base/Date.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -19,6 +19,8 @@ struct LastScannedPill
     /// "Cached · 3 min ago" or "Stale · refreshing soon"; empty without a date.
     QString text() const;
     QString tooltip() const; ///< empty without a date
+    /// All that `text` may be, each with numbers as wide as they get: for what keeps its width while the age goes on.
+    static QStringList widestTexts();
 
 private:
     double age() const;

@@ -7,10 +7,12 @@ Pill {
 
     required property string text
     property string tip
+    property list<string> labels // all that it may read in its place: it keeps the room of the widest
 
     readonly property int rest: icon.width + row.spacing + Theme.unit * 5 // beside the word
+    readonly property int heldWidth: labels.length > 0 ? TextRuler.widest(labels, label.font) : 0
 
-    implicitWidth: Math.ceil(label.implicitWidth) + rest
+    implicitWidth: Math.max(Math.ceil(label.implicitWidth), heldWidth) + rest
     implicitHeight: 22
     color: Theme.raised
     borderColor: Theme.line

@@ -32,6 +32,7 @@ ToolHead {
         AgePill {
             visible: header.view.pill.isShown
             text: header.view.pill.text
+            labels: header.view.pill.widestTexts
             tip: header.view.pill.tooltip
         }
     }

@@ -1,5 +1,7 @@
 #include "common/LastScannedPill.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -58,6 +60,18 @@ TEST(LastScannedPill, ageTextChangesAtItsBounds)
     };
     for (const auto &[age, text] : rows)
         EXPECT_EQ(ageText(age), text) << age;
+}
+
+TEST(LastScannedPill, tellsAllItsTextsForWhatKeepsTheirRoom)
+{
+    const QStringList texts = LastScannedPill::widestTexts();
+    const auto hasFormOf = [&](QString text) {
+        const QString form = text.replace(QRegularExpression("\\d+"), "\\d\\d?");
+        return !texts.filter(QRegularExpression(QRegularExpression::anchoredPattern(form))).isEmpty();
+    };
+    for (const double age : {0., 5., 59., 60., 3599., 3600., day - 1, day, 2 * day, 30 * day})
+        EXPECT_TRUE(hasFormOf(pillAt(age, 40 * day).text())) << age;
+    EXPECT_TRUE(hasFormOf(pillAt(300).text()));
 }
 
 TEST(LastScannedPill, isStaleFromTheLifetimeOn)
