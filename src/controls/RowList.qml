@@ -8,7 +8,7 @@ ListView {
     id: list
 
     // The scroll handle stands beside the rows, not over them: a list reaches this much further than they do.
-    readonly property int gutter: Theme.unit * 3
+    property int gutter: Theme.unit * 3
     readonly property real rowWidth: width - gutter
 
     property int menuRow: -1 // the row whose context menu is open (RowMenu's `shownRow`)

@@ -6,16 +6,16 @@ import Quillmere
 T.ScrollBar {
     id: bar
 
-    implicitWidth: Theme.unit * 2
-    implicitHeight: Theme.unit * 2
+    implicitWidth: Theme.unit * 2 - 1
+    implicitHeight: Theme.unit * 2 - 1
     padding: 1
     minimumSize: 0.08
     Accessible.ignored: true // who sees no list needs no handle: the list follows the keys
     visible: policy !== T.ScrollBar.AlwaysOff && size < 1
 
     contentItem: Pill {
-        implicitWidth: 6
-        implicitHeight: 6
-        color: bar.pressed ? Theme.secondText : bar.hovered ? Theme.disabledText : Theme.line
+        implicitWidth: 5
+        implicitHeight: 5
+        color: bar.pressed ? Theme.text : bar.hovered ? Theme.secondText : Theme.disabledText
     }
 }

@@ -10,7 +10,7 @@ Pill {
     property color fill: Theme.accent
 
     implicitHeight: 6
-    color: Theme.free
+    color: Theme.line // and not a wash's, or it would be gone under the pointer
     Accessible.ignored: true
 
     Pill {

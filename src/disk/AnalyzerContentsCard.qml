@@ -45,7 +45,8 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: Theme.unit * 2
         anchors.right: parent.right
-        anchors.rightMargin: Theme.unit * 2 - gutter
+        anchors.rightMargin: 1 // the scroll handle stands inside of the card's outline
+        gutter: Theme.unit * 2 - anchors.rightMargin
         visible: !card.view.isScanningDeeper
         model: card.view.contents
         menuRow: menu.shownRow
