@@ -8,7 +8,7 @@ ScreenCase {
 
     readonly property int usualWidth: 1280
     readonly property int usualHeight: 800
-    readonly property int ampleHeight: 1250
+    readonly property int ampleHeight: 1300
     readonly property int usualMinSize: 100 * 1024
 
     // The first of each group stays at first.

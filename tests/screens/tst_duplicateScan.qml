@@ -134,7 +134,8 @@ DuplicatesCase {
 
     function test_nothingMovesWhenAScanBeginsOrEnds() {
         const before = places();
-        const top = list().mapToItem(null, 0, 0).y;
+        const card = () => rows()[0].mapToItem(null, 0, rows()[0].gap).y;
+        const top = card();
         holdScan("b");
         compare(places(), before);
         const stop = stopButton().mapToItem(null, 0, 0).x;

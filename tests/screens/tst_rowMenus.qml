@@ -88,6 +88,14 @@ DuplicatesCase {
         verify(row.width < list().width);
     }
 
+    function test_headHasAsMuchAirAboveAsBeside() {
+        const one = head("film.mov");
+        const title = Program.textItem("film.mov", one);
+        const place = title.mapToItem(one, 0, 0);
+        const capitals = title.baselineOffset - 0.73 * title.font.pixelSize; // where their tops are
+        verify(Math.abs(place.y + capitals - one.gap - place.x) <= 2, `${place.y + capitals - one.gap} above, ${place.x} beside`);
+    }
+
     function test_rowsOfAGroupHaveOneRhythm() {
         const centre = name => {
             const label = Program.textItem(Program.texts(file(name)).split("\n").find(text => /film/.test(text)), file(name));

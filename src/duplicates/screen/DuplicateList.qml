@@ -19,6 +19,7 @@ FocusScope {
         id: list
         objectName: "duplicateList"
         anchors.fill: parent
+        anchors.topMargin: -Theme.unit * 1.5 // the gap above the first card, which begins where all else does
         model: holder.view.rows
         menuRow: Math.max(fileMenu.shownRow, groupMenu.shownRow)
         onRowOpened: row => holder.view.toggleKeep(row)

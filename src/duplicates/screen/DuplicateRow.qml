@@ -22,10 +22,11 @@ ListRow {
     required spoken
     required property DuplicateFinderView view
 
-    readonly property int gap: isHead ? Theme.unit * 2 : 0 // between the cards
+    readonly property int gap: isHead ? Theme.unit * 1.5 : 0 // between the cards
 
-    implicitHeight: 52
-    padding: 0
+    implicitHeight: 54
+    leftPadding: 0
+    rightPadding: 0
     text: title
     checkable: !isHead && view.canChoose
     checked: !isHead && isKept
