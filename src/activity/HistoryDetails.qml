@@ -12,6 +12,7 @@ Column {
     required property list<string> shownPaths
     required property string moreText
 
+    topPadding: Theme.unit * 1.5
     leftPadding: 32 + Theme.unit * 3
     bottomPadding: Theme.unit
     spacing: Theme.unit

@@ -50,6 +50,7 @@ T.ItemDelegate {
         BodyText {
             id: detailText
             anchors.right: remove.left
+            anchors.rightMargin: Theme.unit * 2
             anchors.verticalCenter: parent.verticalCenter
             text: row.detail
             color: Theme.secondText

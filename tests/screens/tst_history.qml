@@ -49,6 +49,16 @@ HistoryCase {
         Program.picture("history-entries");
     }
 
+    function test_headingOfTheFilesStandsApartFromTheLitHead() {
+        fill();
+        openSheet();
+        const entry = row("Moved 2 files");
+        clickOn(entry);
+        const heading = find("Files (2)", entry);
+        const lit = Program.itemsWith("isMenuTarget", entry).find(item => item !== entry);
+        verify(heading.mapToItem(entry, 0, 0).y >= lit.mapToItem(entry, 0, lit.height).y + 6);
+    }
+
     function test_entryThatComesMeanwhileStandsAtTheTop() {
         fill();
         openSheet();
