@@ -22,6 +22,7 @@ public:
     /// a click did, and where a popup or another window has given it back. Told before the item learns that it has the focus.
     bool isFocusByKey() const { return isFocusByKey_; }
     Q_INVOKABLE bool isButtonDown() const { return isButtonDown_; } ///< of the mouse
+    Q_INVOKABLE bool wasKeyLast() const { return wasKeyLast_; } ///< rather than a click: what was used last
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -11,6 +11,7 @@ ListView {
     property int gutter: Theme.unit * 3
     readonly property real rowWidth: width - gutter
 
+    property bool beginsByKey: true // whoever uses keys has a current row at once when other rows have come
     property int menuRow: -1 // the row whose context menu is open (RowMenu's `shownRow`)
 
     signal rowOpened(int row)  // by Return or Enter
@@ -40,9 +41,21 @@ ListView {
         currentIndex = isCut ? row + 1 : row;
     }
 
+    // Other rows are about to come. A row that waits to be used again must not keep the keyboard.
     function goToTop() {
+        if (currentItem)
+            currentItem.focus = false;
         currentIndex = -1;
         positionViewAtBeginning();
+        Qt.callLater(list.beginByKey);
+    }
+
+    // Where the rows have changed under the keyboard it goes on at the first of them.
+    function beginByKey() {
+        if (!activeFocus || !beginsByKey || !InputWatch.wasKeyLast())
+            return;
+        forceLayout();
+        takeFirstInView();
     }
 
     // Keeps the current row and the place of the view while the rows are made anew; all are as high as each other.
@@ -102,6 +115,8 @@ ListView {
     // Whoever comes by key sees where they are. A menu that closes gives the focus back, and changes nothing else.
     readonly property bool isFocusByKey: InputWatch.isFocusByKey
     onActiveFocusChanged: if (activeFocus && isFocusByKey) takeFirstInView()
+
+    onCountChanged: Qt.callLater(list.beginByKey)
 
     // A list that is out of sight keeps the focus for its return, but takes no keys.
     Keys.enabled: visible

@@ -94,6 +94,7 @@ CleanupCase {
     function test_rowsWithoutCommandsHaveNoMenu() {
         openPreview("Log Files");
         list().forceActiveFocus();
+        press(Qt.Key_Home);
         goTo("Showing all 3 files, sorted by size.");
         press(Qt.Key_Menu);
         compare(Program.menuLines(), "");

@@ -20,6 +20,7 @@ DuplicatesCase {
     // The list has the keyboard by a click, no current row, and is some rows further down; the first one is cut.
     function init() {
         clearAway();
+        clickOn(Program.named("screenTitle"));
         list().goToTop();
         mouseMove(list(), 60, 60);
         scanButton().forceActiveFocus(Qt.MouseFocusReason);

@@ -17,6 +17,7 @@ FocusScope {
         anchors.fill: parent
         anchors.leftMargin: Theme.unit * 2
         focus: true
+        beginsByKey: false // a row that is current is chosen, and until then it is the folder on view
         model: area.view.rows
         onCurrentIndexChanged: area.view.select(currentIndex)
         onRowOpened: row => area.view.openRow(row)
