@@ -58,6 +58,12 @@ ListView {
         takeFirstInView();
     }
 
+    // The same at a row of its own: the one that whoever comes back had left by. A click is answered with no current row.
+    function goOnAt(row) {
+        if (InputWatch.wasKeyLast())
+            goTo(row);
+    }
+
     // Keeps the current row and the place of the view while the rows are made anew; all are as high as each other.
     // `rowNow` tells where a row of before stands.
     function holdPlace() {

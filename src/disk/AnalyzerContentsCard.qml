@@ -69,6 +69,9 @@ FocusScope {
         function onEntryWillChange() {
             list.goToTop();
         }
+        function onWentBack(row) {
+            list.goOnAt(row);
+        }
     }
     AnalyzerContentsMenu {
         id: menu

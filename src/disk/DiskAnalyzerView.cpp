@@ -208,14 +208,21 @@ void DiskAnalyzerView::goBack()
 
 void DiskAnalyzerView::goHome()
 {
-    setBreadcrumb({});
+    goTo(-1);
 }
 
 void DiskAnalyzerView::goTo(int index)
 {
     if (index < -1 || index >= static_cast<int>(breadcrumb_.size()))
         return;
-    setBreadcrumb({breadcrumb_.begin(), breadcrumb_.begin() + index + 1});
+    const auto firstLeft = breadcrumb_.begin() + index + 1;
+    const QString left = firstLeft == breadcrumb_.end() ? QString() : (*firstLeft)->name;
+    setBreadcrumb({breadcrumb_.begin(), firstLeft});
+    const Entry entry = currentEntry();
+    for (size_t i = 0; i < childCount(entry); ++i) {
+        if ((*entry->children)[i].name == left)
+            return emit wentBack(static_cast<int>(i));
+    }
 }
 
 void DiskAnalyzerView::openInFinder()

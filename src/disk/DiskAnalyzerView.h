@@ -118,6 +118,7 @@ signals:
     void scanChanged();
     void contentChanged();
     void entryWillChange(); ///< the table is about to show another entry, from its top
+    void wentBack(int row); ///< from what is in that row now
 
 private:
     /// A cancelled scan unwinds at once unless the disk does not answer, and then nobody knows when it will.
