@@ -22,7 +22,7 @@ T.ComboBox {
     focusPolicy: Qt.StrongFocus
     displayText: shownText
     Accessible.name: label
-    Accessible.description: shownText
+    Accessible.description: isExpanded && highlightedIndex >= 0 ? textAt(highlightedIndex) : shownText
 
     font.pixelSize: Theme.bodySize
     contentItem: BodyText {
@@ -56,6 +56,11 @@ T.ComboBox {
         hoverEnabled: true
         highlighted: picker.highlightedIndex === index
         text: modelData
+        Accessible.description: RowTexts.place(index, picker.count)
+        Accessible.selectable: true
+        Accessible.selected: highlighted
+        Accessible.checkable: true
+        Accessible.checked: picker.currentIndex === index
         contentItem: Row {
             spacing: Theme.unit * 1.5
             Symbol {
@@ -76,6 +81,7 @@ T.ComboBox {
         }
     }
     popup: T.Popup {
+        readonly property string title: picker.label // for assistive technology
         y: picker.height + Theme.unit
         width: Math.max(picker.width, 120)
         padding: Theme.unit
@@ -86,6 +92,8 @@ T.ComboBox {
             implicitHeight: contentHeight
             model: picker.popup.visible ? picker.delegateModel : null
             currentIndex: picker.highlightedIndex
+            Accessible.role: Accessible.List
+            Accessible.name: picker.label
         }
         background: Rectangle {
             color: Theme.raised

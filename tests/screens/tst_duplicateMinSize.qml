@@ -51,6 +51,24 @@ ScopeCase {
         compare(picker().displayText, "100 KB");
     }
 
+    function test_choicesAreToldOneByOne() {
+        const option = text => Program.itemWith("text", picker().popup.contentItem, text);
+        tabTo("the picker", item => item === picker());
+        compare(picker().Accessible.description, "100 KB");
+        press(Qt.Key_Space);
+        tryVerify(() => picker().popup.visible, patience, "the choices open");
+        press(Qt.Key_Up);
+        compare(picker().Accessible.description, "10 KB");
+        verify(option("10 KB").Accessible.selected);
+        verify(!option("10 KB").Accessible.checked);
+        verify(!option("100 KB").Accessible.selected);
+        verify(option("100 KB").Accessible.checked);
+        compare(picker().popup.contentItem.Accessible.name, "Min file size:");
+        press(Qt.Key_Escape);
+        tryVerify(() => !picker().popup.visible, patience, "the choices close");
+        compare(picker().Accessible.description, "100 KB");
+    }
+
     function test_minSizeOutlivesTheScreenAndNamesAnyValue() {
         clickOn(picker());
         click("10 MB", picker().popup.contentItem);

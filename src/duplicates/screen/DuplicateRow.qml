@@ -32,7 +32,6 @@ ListRow {
     checked: !isHead && isKept
     tip: !hovered ? "" : isHead ? head.tip : file.tip
     onClicked: view.toggleKeep(index)
-    Accessible.role: isHead ? Accessible.Heading : Accessible.ListItem
 
     contentItem: Item {
         DuplicateGroupHead {
