@@ -20,6 +20,7 @@ Row {
     property bool showsSpinner: false // where no other is on view
     property int leastRoom: 0 // at the left of the start, for all that may stand there
     property bool isPrimary: false
+    property alias startButton: start
     default property alias rest: restRow.data // in the room of Stop while no scan runs
 
     signal started
@@ -67,6 +68,7 @@ Row {
         }
     }
     ActionButton {
+        id: start
         objectName: "scanButton"
         width: Math.max(implicitWidth, Theme.unit * 28) // the same for all the words that tools have for it
         enabled: commands.canScan

@@ -15,6 +15,15 @@ ScopeCase {
             verify(!Program.itemWith("text", screen(), text).enabled, text);
     }
 
+    function test_startScanHasTheKeyboardAtFirst() {
+        open("Dashboard");
+        press(Qt.Key_5, Qt.ControlModifier);
+        compare(Program.selectedScreen(), "Duplicates");
+        tryVerify(() => scanButton()?.activeFocus && scanButton().visualFocus, patience, "Start Scan has the keyboard");
+        press(Qt.Key_Tab);
+        verify(!scanButton().activeFocus);
+    }
+
     function panel() {
         return Program.named("scopeDrop").parent;
     }

@@ -54,6 +54,31 @@ DuplicatesCase {
         compare(gone(), ["b/photo.jpg"]);
     }
 
+    // The button rests while the files go, and its bar is gone afterwards.
+    function test_theListHasTheKeyboardAfterARun() {
+        onlyPhoto();
+        tabTo("the button", item => item === Program.named("trashButton"));
+        press(Qt.Key_Return);
+        tryVerify(() => Program.named("confirmCancel")?.activeFocus, patience, "the keyboard is on Cancel");
+        press(Qt.Key_Tab);
+        press(Qt.Key_Return);
+        tryVerify(() => gone().length === 1 && !foot(), patience, "the file is gone");
+        tryVerify(() => list().activeFocus && list().currentItem?.isCurrent, patience, "a row has the keyboard");
+        const row = list().currentIndex;
+        press(Qt.Key_Down);
+        compare(list().currentIndex, row + 1);
+    }
+
+    function test_startScanHasTheKeyboardWhereTheRunLeavesNoGroup() {
+        tabTo("the button", item => item === Program.named("trashButton"));
+        press(Qt.Key_Return);
+        tryVerify(() => Program.named("confirmCancel")?.activeFocus, patience, "the keyboard is on Cancel");
+        press(Qt.Key_Tab);
+        press(Qt.Key_Return);
+        tryVerify(() => !foot() && scanButton()?.enabled, patience, "the files are gone");
+        tryVerify(() => scanButton().activeFocus && scanButton().visualFocus, patience, "Start Scan has the keyboard");
+    }
+
     function test_groupOfThreeStaysAsGroupOfTwo() {
         onlyPhoto();
         moveToTrash();

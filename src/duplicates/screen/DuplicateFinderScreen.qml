@@ -9,6 +9,16 @@ FocusScope {
 
     required property DuplicateFinderView view
 
+    // What had the keyboard may go or rest: Move to Trash when its run begins. Then the list has it, or what starts a scan.
+    readonly property Item heirOfKeyboard: Window.activeFocusItem !== screen || view.isScanning ? null
+                                           : groups.visible && groups.count > 0 ? groups
+                                           : header.startButton.enabled ? header.startButton : null
+    onHeirOfKeyboardChanged: Qt.callLater(screen.passKeyboardOn)
+
+    function passKeyboardOn() {
+        heirOfKeyboard?.forceActiveFocus(InputWatch.wasKeyLast() ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    }
+
     DuplicateHeader {
         id: header
         anchors.left: parent.left
@@ -55,6 +65,7 @@ FocusScope {
         anchors.bottomMargin: Theme.unit * 5 + (screen.view.hasFigures ? foot.implicitHeight + Theme.unit * 3 : 0)
 
         DuplicateList {
+            id: groups
             anchors.fill: parent
             anchors.rightMargin: -Theme.unit * 3 // its scroll bar stands in the margin, and the cards end where all else does
             visible: !screen.view.isScanning && screen.view.hasFigures

@@ -6,6 +6,7 @@ ToolHead {
     id: header
 
     required property DuplicateFinderView view
+    readonly property Item startButton: scan.startButton
 
     title: view.title
     symbol: view.symbol
@@ -48,6 +49,7 @@ ToolHead {
         onClicked: header.view.toggleSettings()
     }
     ScanCommands {
+        id: scan
         isScanning: header.view.isScanning
         canScan: header.view.canScan
         canStop: header.view.canStop
