@@ -59,8 +59,8 @@ T.ComboBox {
         Accessible.description: RowTexts.place(index, picker.count)
         Accessible.selectable: true
         Accessible.selected: highlighted
-        Accessible.checkable: true
-        Accessible.checked: picker.currentIndex === index
+        checkable: true
+        checked: picker.currentIndex === index
         contentItem: Row {
             spacing: Theme.unit * 1.5
             Symbol {

@@ -47,7 +47,7 @@ ListView {
             currentItem.focus = false;
         currentIndex = -1;
         positionViewAtBeginning();
-        Qt.callLater(list.beginByKey);
+        beginning.restart();
     }
 
     // Where the rows have changed under the keyboard it goes on at the first of them.
@@ -122,7 +122,14 @@ ListView {
     readonly property bool isFocusByKey: InputWatch.isFocusByKey
     onActiveFocusChanged: if (activeFocus && isFocusByKey) takeFirstInView()
 
-    onCountChanged: Qt.callLater(list.beginByKey)
+    onCountChanged: beginning.restart()
+
+    // Rows go and come one after the other: it begins when all is done.
+    Timer {
+        id: beginning
+        interval: 0
+        onTriggered: list.beginByKey()
+    }
 
     // A list that is out of sight keeps the focus for its return, but takes no keys.
     Keys.enabled: visible

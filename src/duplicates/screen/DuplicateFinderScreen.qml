@@ -13,10 +13,16 @@ FocusScope {
     readonly property Item heirOfKeyboard: Window.activeFocusItem !== screen || view.isScanning ? null
                                            : groups.visible && groups.count > 0 ? groups
                                            : header.startButton.enabled ? header.startButton : null
-    onHeirOfKeyboardChanged: Qt.callLater(screen.passKeyboardOn)
+    onHeirOfKeyboardChanged: passing.restart()
 
     function passKeyboardOn() {
         heirOfKeyboard?.forceActiveFocus(InputWatch.wasKeyLast() ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    }
+
+    Timer {
+        id: passing
+        interval: 0
+        onTriggered: screen.passKeyboardOn()
     }
 
     DuplicateHeader {
