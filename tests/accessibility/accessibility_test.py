@@ -143,7 +143,7 @@ class DiskAnalyzerTest(ScreenTest):
 
     def test_the_rows_are_walked_and_a_menu_is_told(self):
         self.window_with("list", self.LIST)
-        self.assert_walks(self.LIST, ("Downloads", "1 of 8"), ("Movies", "2 of 8"))
+        self.assert_walks(self.LIST, ("Library", "1 of 8"), ("Downloads", "2 of 8"))
         DESKTOP.press("Menu")
         window = self.window_with("popup menu")
         self.assert_sound(window)
