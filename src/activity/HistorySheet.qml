@@ -41,6 +41,7 @@ SheetFrame {
         x: Theme.unit * 5
         y: Theme.unit * 3
         width: parent.width - Theme.unit * 10
+        doesWrap: true
         label: sheet.view.texts.filters
         model: sheet.view.filters
         onChosen: index => sheet.view.chooseFilter(index)

@@ -1,29 +1,25 @@
 import QtQuick
-import QtQuick.Templates as T
 import Quillmere
 
-// One choice out of a row of them, with a count where one is told. The Tab key stops at the chosen one alone (see ChipRow).
-T.RadioButton {
+// One choice out of a row of them (ChipRow), with a count where one is told.
+ButtonBase {
     id: chip
 
     required property string label
     required property string countText
     required property bool isSelected
+    property bool isStop: isSelected // of the Tab key
 
-    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: 24
     leftPadding: Theme.unit * 2.5
     rightPadding: Theme.unit * 2.5
-    hoverEnabled: true
-    focusPolicy: isSelected ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isStop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     text: label
-    checked: isSelected
-    checkable: false // a click asks the model, which decides what is chosen
-    Accessible.role: Accessible.RadioButton
-    Accessible.name: label
+    isCut: word.truncated
+    toldRole: Accessible.RadioButton
     Accessible.description: countText
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Accessible.checkable: true
+    Accessible.checked: isSelected
 
     contentItem: Item {
         implicitWidth: word.implicitWidth + count.room

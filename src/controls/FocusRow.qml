@@ -7,6 +7,7 @@ FocusScope {
     id: row
 
     property int stop: 0
+    property bool doesWrap: false // what its width has no room for goes on in a second line
     property alias model: repeater.model
     property alias delegate: repeater.delegate
     property alias spacing: line.spacing
@@ -54,10 +55,11 @@ FocusScope {
         repeater.itemAt(Math.min(stop, count - 1)).forceActiveFocus(Qt.TabFocusReason);
     }
 
-    Row {
+    Flow {
         id: line
         anchors.left: parent.left
-        height: parent.height
+        width: row.doesWrap ? row.width : undefined
+        height: row.doesWrap ? undefined : row.height
         Repeater {
             id: repeater
         }

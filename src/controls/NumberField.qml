@@ -11,7 +11,7 @@ InputField {
     property double to: 1e15
     property double step: 1
 
-    signal valueEdited(double value)
+    signal chosen(double value)
 
     function read() {
         return WholeNumbers.read(text, from, to);
@@ -25,13 +25,13 @@ InputField {
     function take() {
         const number = read();
         if (!isNaN(number) && number !== value)
-            valueEdited(number);
+            chosen(number);
     }
 
     function stepBy(count) {
         const next = WholeNumbers.stepped(value, count * step, from, to);
         if (next !== value)
-            valueEdited(next);
+            chosen(next);
         show();
     }
 

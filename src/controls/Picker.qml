@@ -4,12 +4,17 @@ import QtQuick
 import QtQuick.Templates as T
 import Quillmere
 
-// One choice out of a short list that opens below it, as wide as its widest. `shownText` stands on it also when it is none of the choices.
+// One choice out of a short list that opens below it, as wide as its widest. `shownText` stands on it also when it is none of the
+// choices.
 T.ComboBox {
     id: picker
 
     required property string label
     required property string shownText
+    required property int chosenIndex // -1 where it is none of the choices
+
+    signal chosen(int index)
+
     readonly property bool isExpanded: popup.visible
 
     readonly property int heldWidth: TextRuler.widest(model, font)
@@ -21,8 +26,16 @@ T.ComboBox {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     displayText: shownText
+    currentIndex: chosenIndex
+    onActivated: index => ask(index)
     Accessible.name: label
     Accessible.description: isExpanded && highlightedIndex >= 0 ? textAt(highlightedIndex) : shownText
+
+    // The toolkit's own has gone to the choice already.
+    function ask(index) {
+        currentIndex = Qt.binding(() => chosenIndex);
+        chosen(index);
+    }
 
     font.pixelSize: Theme.bodySize
     contentItem: BodyText {
@@ -94,6 +107,7 @@ T.ComboBox {
             currentIndex: picker.highlightedIndex
             Accessible.role: Accessible.List
             Accessible.name: picker.label
+            highlightMoveDuration: 0
         }
         background: Rectangle {
             color: Theme.raised

@@ -17,7 +17,7 @@ Item {
             value: 5
             from: -100
             to: 100
-            onValueEdited: number => value = number
+            onChosen: number => value = number
         }
     }
 

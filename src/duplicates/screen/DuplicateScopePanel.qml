@@ -114,8 +114,8 @@ Card {
                 label: panel.view.texts.minFileSize
                 shownText: panel.scope.minSizeText
                 model: panel.scope.minSizeLabels
-                currentIndex: panel.scope.minSizeIndex
-                onActivated: index => panel.scope.chooseMinSize(index)
+                chosenIndex: panel.scope.minSizeIndex
+                onChosen: index => panel.scope.chooseMinSize(index)
             }
             ActionButton {
                 objectName: "resetScope"

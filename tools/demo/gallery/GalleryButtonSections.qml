@@ -162,6 +162,7 @@ Column {
                 width: Math.min(implicitWidth, choice.room)
                 label: choice.word
                 shownText: choice.word
+                chosenIndex: 0
                 model: [choice.word, "1 MB"]
             }
         }

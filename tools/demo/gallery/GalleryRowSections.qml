@@ -18,6 +18,7 @@ Column {
             usual: "Type"
             ChipRow {
                 width: 320
+                doesWrap: true
                 label: chips.word
                 model: ListModel {
                     ListElement {
