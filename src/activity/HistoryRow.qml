@@ -14,6 +14,7 @@ ListRow {
     required property bool isFailed
     required property bool isExpandable
     required property bool isExpanded
+    required property string toggleLabel
     required property string detail
     required property string filesHeading
     required property list<string> shownPaths
@@ -79,16 +80,16 @@ ListRow {
                 text: row.view.texts.failed
                 tint: Theme.red
             }
-            IconButton {
+            Disclosure {
                 id: toggle
                 objectName: "historyToggle"
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 visible: row.isExpandable
-                symbol: row.isExpanded ? "chevron.up" : "chevron.down"
-                symbolSize: 12
-                label: row.isExpanded ? row.view.texts.hideDetails : row.view.texts.showDetails
-                tip: ""
+                isExpanded: row.isExpanded
+                closedSymbol: "chevron.down"
+                openSymbol: "chevron.up"
+                label: row.toggleLabel
                 focusPolicy: Qt.NoFocus
                 onClicked: row.detailsToggled()
             }

@@ -13,8 +13,6 @@ class HistoryTexts
     Q_PROPERTY(QString close MEMBER close CONSTANT)
     Q_PROPERTY(QString filters MEMBER filters CONSTANT)
     Q_PROPERTY(QString failed MEMBER failed CONSTANT)
-    Q_PROPERTY(QString showDetails MEMBER showDetails CONSTANT)
-    Q_PROPERTY(QString hideDetails MEMBER hideDetails CONSTANT)
     Q_PROPERTY(QString confirmTitle MEMBER confirmTitle CONSTANT)
     Q_PROPERTY(QString confirmText MEMBER confirmText CONSTANT)
     Q_PROPERTY(QString cancel MEMBER cancel CONSTANT)
@@ -26,8 +24,6 @@ public:
     QString close = QStringLiteral("Close");
     QString filters = QStringLiteral("Kinds of entries");
     QString failed = QStringLiteral("FAILED");
-    QString showDetails = QStringLiteral("Show details");
-    QString hideDetails = QStringLiteral("Hide details");
     QString confirmTitle = QStringLiteral("Clear all history?");
     QString confirmText = QStringLiteral(
         "Deletes the activity log. Files already moved to Trash stay there. This can't be undone.");

@@ -124,6 +124,10 @@ std::vector<RecordListModel<HistoryView::Row>::Role> HistoryView::entryRoles()
         {"isFailed", [](const Row &row) { return !row->entry.success; }},
         {"isExpandable", [](const Row &row) { return isExpandable(row->entry); }},
         {"isExpanded", [](const Row &row) { return row->isExpanded; }},
+        {"toggleLabel",
+         [](const Row &row) {
+             return row->isExpanded ? QStringLiteral("Hide details") : QStringLiteral("Show details");
+         }},
         {"detail",
          [](const Row &row) {
              return row->isExpanded ? paths::display(row->entry.detail.value_or(QString())) : QString();

@@ -48,7 +48,7 @@ public:
 
     /// The chips, "All" first. Rows: label, countText (of "All" alone), isSelected.
     QAbstractItemModel *filters() { return &filterRows_; }
-    /// Rows: symbol, tint, headline, spokenText, entryTitle, isFailed, isExpandable, isExpanded; and of an expanded one, empty on
+    /// Rows: symbol, tint, headline, spokenText, entryTitle, isFailed, isExpandable, isExpanded, toggleLabel; and of an expanded one, empty on
     /// others: detail, filesHeading, shownPaths, moreText.
     QAbstractItemModel *rows() { return &entryRows_; }
 

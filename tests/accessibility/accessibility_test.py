@@ -137,7 +137,8 @@ class DiskAnalyzerTest(ScreenTest):
     def test_the_screen_is_told(self):
         window = self.window_with("list", self.LIST)
         self.assert_sound(window)
-        self.assert_tells(window, ("heading", "Disk Analyzer"), ("heading", "VISUAL MAP"), ("push button", "Home"),
+        self.assert_tells(window, ("heading", "Disk Analyzer"), ("heading", "VISUAL MAP"), ("heading", self.LIST),
+                          ("push button", "Home"),
                           ("image", "Map of what takes the most space"))
         self.assertNotIn("enabled", window.find("push button", "Go back")[0].states)
 
@@ -150,6 +151,16 @@ class DiskAnalyzerTest(ScreenTest):
         self.assert_tells(window, ("menu item", "Reveal in Finder"), ("menu item", "Move to Trash"))
         DESKTOP.press("Escape")
         self.settle(lambda told: not told.find("popup menu"), "the menu closed")
+
+
+class DuplicateFinderAtRestTest(ScreenTest):
+    """The Duplicate Finder before its first scan."""
+
+    arguments = ["--screen", "duplicates"]
+
+    def test_what_is_to_be_done_is_told(self):
+        window = self.window_with("label", "Configure scan directories above and click Start Scan")
+        self.assert_sound(window)
 
 
 class DuplicateFinderTest(ScreenTest):
