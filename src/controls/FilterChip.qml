@@ -18,8 +18,8 @@ ButtonBase {
     isCut: word.truncated
     toldRole: Accessible.RadioButton
     Accessible.description: countText
-    Accessible.checkable: true
-    Accessible.checked: isSelected
+    checked: isSelected // the toolkit tells this over what is given to `Accessible`
+    checkable: false    // a click asks the model, which decides what is chosen
 
     contentItem: Item {
         implicitWidth: word.implicitWidth + count.room

@@ -111,7 +111,7 @@ Item {
             const second = Program.itemWith("label", row, "Images");
             mouseClick(second);
             verify(!second.isSelected);
-            verify(!second.Accessible.checked);
+            verify(!second.checked);
         }
 
         function test_chipsTakeASecondLineWhereTheyMay() {
