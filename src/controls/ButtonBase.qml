@@ -13,6 +13,7 @@ T.Button {
     property color outline: "transparent"
     property int corner: Theme.controlRadius
     property int toldRole: Accessible.Button // the toolkit gives a button of its own no other role than that
+    property var toldChecked // true or false where it has a tick or is one of several; the toolkit tells its own state alone
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
@@ -20,6 +21,8 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     Accessible.role: toldRole
     Accessible.name: text
+    Accessible.checkable: toldChecked !== undefined
+    Accessible.checked: toldChecked === true
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 

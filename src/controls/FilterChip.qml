@@ -18,8 +18,7 @@ ButtonBase {
     isCut: word.truncated
     toldRole: Accessible.RadioButton
     Accessible.description: countText
-    checked: isSelected // the toolkit tells this over what is given to `Accessible`
-    checkable: false    // a click asks the model, which decides what is chosen
+    toldChecked: isSelected
 
     contentItem: Item {
         implicitWidth: word.implicitWidth + count.room

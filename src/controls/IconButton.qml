@@ -15,8 +15,7 @@ ButtonBase {
     fill: isToggle && isOn && enabled ? Theme.selected : "transparent"
     outline: isToggle && isOn && !enabled ? Theme.line : "transparent"
     Accessible.name: label
-    Accessible.checkable: isToggle
-    Accessible.checked: isToggle && isOn
+    toldChecked: isToggle ? isOn : undefined
 
     contentItem: Item {
         Symbol {

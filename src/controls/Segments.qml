@@ -51,8 +51,7 @@ FocusRow {
         fill: isChosen ? Qt.tint(Theme.card, Qt.alpha(Theme.accent, 0.08)) : "transparent"
         outline: !isChosen ? "transparent" : enabled ? Theme.accent : Theme.line
         toldRole: Accessible.RadioButton
-        Accessible.checkable: true
-        Accessible.checked: isChosen
+        toldChecked: isChosen
         onClicked: segments.chosen(index)
 
         contentItem: ButtonLabel {

@@ -18,8 +18,7 @@ ButtonBase {
     isCut: word.truncated
     toldRole: Accessible.CheckBox
     Accessible.name: label
-    Accessible.checkable: true
-    Accessible.checked: isOn
+    toldChecked: isOn
 
     contentItem: Item {
         BodyText {

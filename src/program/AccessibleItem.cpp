@@ -133,7 +133,8 @@ QAccessible::Role AccessibleItem::role() const
     return inner() ? inner()->role() : QAccessible::NoRole;
 }
 
-/// What is expanded is an item's property `isExpanded`; where `isExpandable` stands beside it, that has a say.
+/// What is expanded is an item's property `isExpanded`; where `isExpandable` stands beside it, that has a say. What the toolkit's
+/// controls are told to be checked they overwrite with their own state, so that it stands in a property `toldChecked`.
 QAccessible::State AccessibleItem::state() const
 {
     QAccessible::State state = inner() ? inner()->state() : QAccessible::State();
@@ -141,6 +142,11 @@ QAccessible::State AccessibleItem::state() const
         return state;
     if (!item_->isEnabled())
         state.disabled = true;
+    const QVariant toldChecked = item_->property("toldChecked");
+    if (toldChecked.isValid()) {
+        state.checkable = true;
+        state.checked = toldChecked.toBool();
+    }
     const QVariant isExpanded = item_->property("isExpanded");
     const QVariant isExpandable = item_->property("isExpandable");
     if (isExpanded.isValid() && (!isExpandable.isValid() || isExpandable.toBool())) {

@@ -32,6 +32,7 @@ ListRow {
     readonly property bool isFile: kind === "file"
     readonly property bool hasTick: isCategory && !isLocked || isFile || isReviewable
     readonly property bool answersClicks: isCategory || isFile && view.canChoose
+    readonly property var toldChecked: hasTick && view.canChoose ? isTicked : undefined
     readonly property int gap: isCategory ? Theme.unit * 2 : 0 // between the cards
 
     implicitHeight: 52
@@ -40,8 +41,6 @@ ListRow {
     tip: hovered && isFile ? file.tip : ""
     onClicked: view.activate(index)
     Accessible.role: Accessible.ListItem
-    Accessible.checkable: hasTick && view.canChoose
-    Accessible.checked: hasTick && isTicked
 
     contentItem: Item {
         Loader {
