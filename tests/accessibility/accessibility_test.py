@@ -9,6 +9,7 @@ reader must hear. Keys come from the display's keyboard, presses through the acc
 
 import os
 import signal
+import socket
 import subprocess
 import sys
 import unittest
@@ -251,17 +252,33 @@ class BrokenBusTest(unittest.TestCase):
             os.kill(launcher.pid, signal.SIGCONT)
 
     def test_a_bus_that_takes_connections_and_never_speaks_stops_nothing(self):
-        bus = self.desktop.accessibility_bus()
+        bus = self.desktop.process("accessibility.conf")
         os.kill(bus, signal.SIGSTOP)
         try:
             self.assert_works(self.desktop.start([DEMO], stderr=subprocess.DEVNULL))
         finally:
             os.kill(bus, signal.SIGCONT)
 
+    def test_a_bus_told_by_the_environment_that_never_speaks_stops_nothing(self):
+        path = os.path.join(self.desktop.folder, "silent")
+        with socket.socket(socket.AF_UNIX) as silent:
+            silent.bind(path)
+            silent.listen()
+            self.desktop.environment["AT_SPI_BUS_ADDRESS"] = "unix:path=" + path
+            self.assert_works(self.desktop.start([DEMO], stderr=subprocess.DEVNULL))
+
+    def test_a_registry_that_never_answers_stops_nothing(self):
+        registry = self.desktop.process("at-spi2-registryd")
+        os.kill(registry, signal.SIGSTOP)
+        try:
+            self.assert_works(self.desktop.start([DEMO], stderr=subprocess.DEVNULL))
+        finally:
+            os.kill(registry, signal.SIGCONT)
+
     def test_a_bus_that_ends_takes_nothing_with_it(self):
         demo = self.desktop.start([DEMO], stderr=subprocess.DEVNULL)
         self.desktop.give_window_the_keyboard()
-        os.kill(self.desktop.accessibility_bus(), signal.SIGKILL)  # the toolkit is about to ask it, or just asking
+        os.kill(self.desktop.process("accessibility.conf"), signal.SIGKILL)  # the toolkit is about to ask it, or just asking
         self.desktop.press("F10", "Escape")
         self.assert_works(demo)
 

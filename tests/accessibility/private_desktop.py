@@ -103,18 +103,18 @@ class PrivateDesktop:
                 continue  # another user's, or just gone
         return found
 
-    def accessibility_bus(self):
-        """The id of the process that is the accessibility bus, which its launcher starts."""
+    def process(self, word):
+        """The id of a process of this desktop with that word in its command line, as soon as there is one."""
         def look():
             for process in self.processes():
                 try:
                     with open(f"/proc/{process}/cmdline", "rb") as stream:
-                        if b"accessibility.conf" in stream.read():
+                        if word.encode() in stream.read():
                             return process
                 except OSError:
                     continue
             return None
-        return wait_for(look, "the accessibility bus")
+        return wait_for(look, f"a process '{word}'")
 
     def stop(self, child):
         """Ends one of the programs; gives its exit code, negative for a signal."""

@@ -42,19 +42,50 @@ bool isInUse(const QDBusConnection &session)
            || hasStatus(session, "ScreenReaderEnabled");
 }
 
+/// Where the toolkit is going to connect; empty where it isn't.
+QString addressFrom(const QDBusConnection &session)
+{
+    const QByteArray ofTheEnvironment = qgetenv("AT_SPI_BUS_ADDRESS");
+    if (!ofTheEnvironment.isEmpty())
+        return QString::fromLocal8Bit(ofTheEnvironment);
+    // The name is only looked at, since a call would start its owner.
+    if (!session.isConnected() || !session.interface()->isServiceRegistered(service) || !isInUse(session))
+        return {};
+    return answerOf(session,
+                    QDBusMessage::createMethodCall(service, path, service, QStringLiteral("GetAddress")))
+        .toString();
+}
+
 struct Attempt
 {
+    GCancellable *cancellable = nullptr;
     bool isOver = false;
     bool hasAnswered = false;
 };
 
+/// Any answer will do, also that nobody has that name; none came where we gave up.
+void takeAnswer(GObject *connection, GAsyncResult *result, gpointer data)
+{
+    auto *attempt = static_cast<Attempt *>(data);
+    GVariant *answer = g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, nullptr);
+    g_clear_pointer(&answer, &g_variant_unref);
+    attempt->hasAnswered = !g_cancellable_is_cancelled(attempt->cancellable);
+    attempt->isOver = true;
+}
+
+/// The toolkit asks the registry as soon as it has its connection, and waits for that as well.
 void takeConnection(GObject *, GAsyncResult *result, gpointer data)
 {
     auto *attempt = static_cast<Attempt *>(data);
     GDBusConnection *connection = g_dbus_connection_new_for_address_finish(result, nullptr);
-    attempt->isOver = true;
-    attempt->hasAnswered = connection != nullptr;
-    g_clear_object(&connection);
+    if (!connection) {
+        attempt->isOver = true;
+        return;
+    }
+    g_dbus_connection_call(connection, "org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
+                           "org.freedesktop.DBus.Peer", "Ping", nullptr, nullptr,
+                           G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, attempt->cancellable, &takeAnswer, attempt);
+    g_object_unref(connection); // the call holds it
 }
 
 gboolean giveUp(gpointer cancellable)
@@ -79,7 +110,7 @@ bool answers(const QString &address, int milliseconds)
     g_source_set_callback(timer.get(), &giveUp, cancellable.get(), nullptr);
     g_source_attach(timer.get(), context.get());
 
-    Attempt attempt;
+    Attempt attempt{cancellable.get()};
     g_main_context_push_thread_default(context.get());
     g_dbus_connection_new_for_address(
         address.toUtf8().constData(),
@@ -95,12 +126,7 @@ bool answers(const QString &address, int milliseconds)
 
 void passOverSilentOne(const QDBusConnection &session)
 {
-    // Its name is only looked at, since a call would start it.
-    if (!session.isConnected() || !session.interface()->isServiceRegistered(service) || !isInUse(session))
-        return;
-    const QString address = answerOf(session, QDBusMessage::createMethodCall(service, path, service,
-                                                                             QStringLiteral("GetAddress")))
-                                .toString();
+    const QString address = addressFrom(session);
     if (address.isEmpty() || answers(address, patience))
         return;
     qWarning("The accessibility bus does not answer; assistive technology is left out until the next start.");
