@@ -3,7 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Quillmere
 
-// The way to what is on view, a crumb for each step. Where it is too long for its room it scrolls, its end on view. It is one
+// The way to what is on view, a crumb for each step. Where it is too long for its room it scrolls, its end on view, and shows
+// whole crumbs only: a sign stands for those that it leaves out, and a press on it is for the nearest of them. It is one
 // stop of the Tab key, at its last crumb; the arrows, Home and End go along it. A long name is cut and told by its tooltip.
 ListView {
     id: crumbs
@@ -15,12 +16,25 @@ ListView {
     signal chosen(int index)
 
     readonly property bool isMirrored: LayoutMirroring.enabled
+    readonly property int signRoom: Theme.unit * 6
+    readonly property real leftEnd: contentX > originX + 0.5 ? contentX + signRoom : contentX
+    readonly property real rightEnd: contentX + width - (contentX + width < originX + contentWidth - 0.5 ? signRoom : 0)
 
     function goTo(index) {
         if (index < 0 || index >= count)
             return;
         currentIndex = index;
+        showCurrent();
         (currentItem as Crumb).takeByKey();
+    }
+
+    // Brings it clear of the signs, which are not there at the ends.
+    function showCurrent() {
+        forceLayout();
+        positionViewAtIndex(currentIndex, ListView.Contain);
+        contentX = Math.min(contentX, currentItem.x - signRoom);
+        contentX = Math.max(contentX, currentItem.x + currentItem.width + signRoom - width);
+        returnToBounds();
     }
 
     function showEnd() {
@@ -35,10 +49,11 @@ ListView {
     clip: true
     spacing: Theme.unit
     keyNavigationEnabled: false
-    highlightMoveDuration: 0
+    highlightFollowsCurrentItem: false // it would go below a sign; showCurrent does not
     currentIndex: count - 1
     onCountChanged: showEnd()
     onWidthChanged: positionViewAtEnd()
+    onIsMirroredChanged: positionViewAtEnd()
     Keys.onLeftPressed: goTo(currentIndex + (isMirrored ? 1 : -1))
     Keys.onRightPressed: goTo(currentIndex + (isMirrored ? -1 : 1))
     Keys.onPressed: event => event.accepted = goToEnd(event.key)
@@ -57,11 +72,27 @@ ListView {
         required property var model
 
         height: crumbs.height
-        room: crumbs.width
+        room: crumbs.width - crumbs.signRoom * 2
+        opacity: x >= crumbs.leftEnd - 0.5 && x + width <= crumbs.rightEnd + 0.5 ? 1 : 0
         isMirrored: crumbs.isMirrored
         hasSign: index > 0 || crumbs.beginsWithSign
         text: model[crumbs.textRole]
         isStop: ListView.isCurrentItem
         onClicked: crumbs.chosen(index)
+    }
+
+    component Sign: Symbol {
+        parent: crumbs // and not what scrolls
+        width: crumbs.signRoom
+        height: crumbs.height
+        name: "ellipsis"
+        size: 13
+    }
+    Sign {
+        visible: crumbs.leftEnd > crumbs.contentX
+    }
+    Sign {
+        x: crumbs.width - width
+        visible: crumbs.rightEnd < crumbs.contentX + crumbs.width
     }
 }

@@ -11,6 +11,14 @@ Item {
     height: 600
 
     Component {
+        id: ways
+        Breadcrumbs {
+            width: 400
+            label: "Path"
+            model: Array.from({ length: 20 }, (none, i) => `folder ${i}`)
+        }
+    }
+    Component {
         id: folders
         FolderRow {
             width: 300
@@ -31,6 +39,45 @@ Item {
     ControlCase {
         name: "ControlRoom"
         stage: stage
+
+        function isOnView(name) {
+            return onView().split("\n").includes(name);
+        }
+
+        function verifyWholeCrumbs(way, signs) {
+            tryVerify(() => Program.itemsWith("name", way).filter(item => item.name === "ellipsis").length === signs, patience,
+                      `there are ${signs} signs`);
+            const shown = Program.itemsWith("isStop", way);
+            verify(shown.length > 0);
+            for (const crumb of shown) {
+                const left = crumb.mapToItem(way, 0, 0).x;
+                verify(left >= 0 && left + crumb.width <= way.width, `${crumb.text} is whole`);
+            }
+        }
+
+        function test_longWayShowsWholeCrumbsAndASignForTheRest_data() {
+            return [{ tag: "from the left", isMirrored: false }, { tag: "from the right", isMirrored: true }];
+        }
+
+        function test_longWayShowsWholeCrumbsAndASignForTheRest(row) {
+            const way = make(ways);
+            way.LayoutMirroring.enabled = row.isMirrored;
+            waitForRendering(stage);
+            verifyWholeCrumbs(way, 1);
+            way.forceActiveFocus(Qt.TabFocusReason);
+            verify(isOnView("folder 19"));
+            for (let i = 0; i < 10; ++i)
+                press(row.isMirrored ? Qt.Key_Right : Qt.Key_Left);
+            compare(focusItem().text, "folder 9");
+            tryVerify(() => isOnView("folder 9"), patience);
+            verifyWholeCrumbs(way, 2);
+            press(Qt.Key_Home);
+            tryVerify(() => isOnView("folder 0"), patience);
+            verifyWholeCrumbs(way, 1);
+            way.model = ["home", "me"];
+            tryVerify(() => isOnView("home") && isOnView("me"), patience);
+            verifyWholeCrumbs(way, 0);
+        }
 
         function test_detailOfAFolderStandsApartFromItsButton() {
             const folder = make(folders);
