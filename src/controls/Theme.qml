@@ -14,7 +14,7 @@ QtObject {
     readonly property color line: isDark ? "#30363d" : "#d0d7de"
     readonly property color text: isDark ? "#e6edf3" : "#1f2328"
     readonly property color secondText: isDark ? "#8b949e" : "#59636e"
-    readonly property color disabledText: isDark ? "#6a727d" : "#848c95"
+    readonly property color disabledText: isDark ? "#707883" : "#7f8790"
     readonly property color accent: isDark ? "#58a6ff" : "#085ec4"
     readonly property color accentText: isDark ? "#0d1117" : "#ffffff"
     readonly property color green: isDark ? "#3fb950" : "#176f30"

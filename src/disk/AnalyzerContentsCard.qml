@@ -17,6 +17,8 @@ FocusScope {
         x: Theme.unit * 4
         height: 36
         text: card.view.contentsHeader
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
     }
     AnalyzerContentsColumns {
         id: titles

@@ -145,7 +145,7 @@ AnalyzerCase {
         mouseMove(find(`Scanning ${folder}`));
         tryVerify(() => count() === 2, patience, "a tooltip tells the path");
         Surroundings.releaseDisk();
-        find("CONTENTS (1 items)");
+        find("CONTENTS (2 items)");
     }
 
     function test_scanThatStoppedBeginsAgain() {

@@ -45,6 +45,8 @@ SheetFrame {
             y: Theme.unit * 3
             height: Theme.controlHeight
             text: panel.view.texts.places
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
         }
         RowList {
             objectName: "panelPlaces"
