@@ -59,7 +59,7 @@ public:
     /// The texts on view that can't be told well enough from what is behind them, a line each.
     Q_INVOKABLE QString faintTexts() const;
     /// What assistive technology is told of the item (spoken::of).
-    Q_INVOKABLE QVariantMap spoken(QQuickItem *item) const { return spoken::of(item); }
+    Q_INVOKABLE QVariant spoken(QQuickItem *item) const { return spoken::of(item); }
     /// Saves a picture of the window where QUILLMERE_PICTURES names a folder.
     Q_INVOKABLE void picture(const QString &name) const;
 

@@ -13,8 +13,9 @@ AnalyzerCase {
     }
 
     function contrast(one, other) {
-        const lights = [luminance(one), luminance(other)].sort((a, b) => a - b);
-        return (lights[1] + 0.05) / (lights[0] + 0.05);
+        const light = Math.max(luminance(one), luminance(other));
+        const dark = Math.min(luminance(one), luminance(other));
+        return (light + 0.05) / (dark + 0.05);
     }
 
     function cleanup() {

@@ -92,7 +92,7 @@ DuplicatesCase {
         const one = head("film.mov");
         const title = Program.textItem("film.mov", one);
         const place = title.mapToItem(one, 0, 0);
-        const capitals = title.baselineOffset - 0.73 * title.font.pixelSize; // where their tops are
+        const capitals = title.baselineOffset - 0.73 * told(title, "font").pixelSize; // where their tops are
         verify(Math.abs(place.y + capitals - one.gap - place.x) <= 2, `${place.y + capitals - one.gap} above, ${place.x} beside`);
     }
 
