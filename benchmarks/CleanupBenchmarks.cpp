@@ -19,7 +19,7 @@ namespace {
 constexpr double mostScanOverhead = 1.05;
 constexpr double mostWalkOverhead = 1.3;
 
-void requireEqual(std::int64_t ours, std::int64_t peers)
+void requireSame(std::int64_t ours, std::int64_t peers)
 {
     if (ours != peers)
         throw std::runtime_error("the two sides found different things");
@@ -66,7 +66,7 @@ void walkFolders()
     const auto bare = [&] { empty = bareloops::emptyFolders(root); };
     const auto comparison = measurement::compare([&] { return measurement::processTime(ours); },
                                                  [&] { return measurement::processTime(bare); });
-    requireEqual(found, empty);
+    requireSame(found, empty);
     measurement::printRatio("cleanup-walk", comparison, mostWalkOverhead, "ms", "bare walk");
 }
 
@@ -99,7 +99,7 @@ void scanHome()
     };
     const auto comparison =
         measurement::compare([&] { return wallTime(ours); }, [&] { return wallTime(bare); });
-    requireEqual(ourSum, bareSum);
+    requireSame(ourSum, bareSum);
     measurement::printRatio("cleanup-scan", comparison, mostScanOverhead, "ms",
                             "its du and find runs and its walk, wall");
 }
@@ -146,7 +146,7 @@ void previewPlaces()
     };
     const auto comparison = measurement::compare([&] { return measurement::processTime(ours); },
                                                  [&] { return measurement::processTime(bare); });
-    requireEqual(ourSize, bareSize);
+    requireSame(ourSize, bareSize);
     measurement::printRatio("cleanup-preview", comparison, mostWalkOverhead, "ms",
                             "bare walk of the files that are listed");
 }

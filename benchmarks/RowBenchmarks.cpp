@@ -15,9 +15,9 @@ constexpr int rows = groups * (copies + 1); // each group with its head
 constexpr double mostRow = 3;               // milliseconds
 constexpr double mostNotch = 5;             // milliseconds
 constexpr double mostIdle = 1;              // milliseconds a second
-constexpr size_t runs = 5;
+constexpr size_t rowRuns = 5;
 
-double median(std::vector<double> values)
+double medianOfRows(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];
@@ -46,7 +46,7 @@ void walk()
     const auto environment = WindowProcess::environment(folder.folder("home"), folder.folder("runtime"));
     fillHome(environment.at("HOME"));
     std::map<std::string, std::vector<double>> figures;
-    for (size_t run = 0; run <= runs; ++run) {
+    for (size_t run = 0; run <= rowRuns; ++run) {
         WindowProcess process({ROWS_WINDOW_PROGRAM, std::to_string(rows)}, environment);
         for (const std::string &line : process.awaitReady()) {
             const size_t space = line.find(' ');
@@ -54,11 +54,11 @@ void walk()
                 figures[line.substr(0, space)].push_back(std::stod(line.substr(space)) * 1e3);
         }
     }
-    measurement::printFigure("rows-key", median(figures.at("row")), mostRow, "ms",
+    measurement::printFigure("rows-key", medianOfRows(figures.at("row")), mostRow, "ms",
                              "CPU time of the process for each row that a held Down key goes on");
-    measurement::printFigure("rows-wheel", median(figures.at("notch")), mostNotch, "ms",
+    measurement::printFigure("rows-wheel", medianOfRows(figures.at("notch")), mostNotch, "ms",
                              "for each notch of the wheel");
-    measurement::printFigure("rows-idle", median(figures.at("idle")), mostIdle, "ms",
+    measurement::printFigure("rows-idle", medianOfRows(figures.at("idle")), mostIdle, "ms",
                              "for each second in which nothing happens");
 }
 

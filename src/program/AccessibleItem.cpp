@@ -105,7 +105,7 @@ int AccessibleItem::indexOfChild(const QAccessibleInterface *child) const
 
 QString AccessibleItem::text(QAccessible::Text kind) const
 {
-    const QString text = inner() ? inner()->text(kind) : QString();
+    QString text = inner() ? inner()->text(kind) : QString();
     if (!text.isEmpty() || kind != QAccessible::Name || !item_ || !item_->parent())
         return text;
     // A menu's title and a tooltip's text are known to these, not to the item that draws them.

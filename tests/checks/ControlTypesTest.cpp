@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString content(const std::filesystem::path &path)
+QString wholeText(const std::filesystem::path &path)
 {
     std::ifstream file(path, std::ios::binary);
     return QString::fromStdString(std::string(std::istreambuf_iterator<char>(file), {}));
@@ -40,7 +40,7 @@ std::set<QString> typesOutsideControls(const std::filesystem::path &root)
         if (path.extension() == ".qml")
             types.insert(QString::fromStdString(path.stem().string()));
         else if (path.filename().string().ends_with("QmlTypes.h"))
-            types.merge(found(content(path), u"QML_FOREIGN\\((\\w+)\\)"_s));
+            types.merge(found(wholeText(path), u"QML_FOREIGN\\((\\w+)\\)"_s));
     }
     return types;
 }
@@ -53,7 +53,7 @@ QStringList strangersInControls(const std::filesystem::path &root)
     for (const auto &entry : std::filesystem::directory_iterator(root / "controls")) {
         if (entry.path().extension() != ".qml")
             continue;
-        const QString code = content(entry.path()).remove(QRegularExpression(u"//[^\n]*"_s));
+        const QString code = wholeText(entry.path()).remove(QRegularExpression(u"//[^\n]*"_s));
         for (const QString &word : found(code, u"\\b([A-Z]\\w*)"_s)) {
             if (strangers.contains(word))
                 uses << QString::fromStdString(entry.path().filename().string()) + u" knows "_s + word;

@@ -23,8 +23,8 @@ protected:
     {
         for (const QString &id : {logs, trash}) {
             for (int number = 1; number <= 3; ++number)
-                selection.previewFiles[id].push_back(
-                    {QString::number(number), number * 10, u'/' + id + u'/' + QString::number(number)});
+                selection.previewFiles[id].push_back({QString::number(number), number * qint64(10),
+                                                      u'/' + id + u'/' + QString::number(number)});
         }
     }
 

@@ -84,7 +84,7 @@ TEST_F(PreviewListTest, listsRegularFilesAloneAndLooksThroughNoLink)
 
 TEST_F(PreviewListTest, listsDownloadsThatAreMoreThanThirtyDaysOld)
 {
-    constexpr qint64 month = 30 * 24 * 60 * 60;
+    constexpr qint64 month = qint64(30) * 24 * 60 * 60;
     oldFile(u"Downloads/older"_s, month + 1);
     oldFile(u"Downloads/exactly"_s, month);
     oldFile(u"Downloads/younger"_s, month - 1);

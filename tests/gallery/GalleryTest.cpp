@@ -198,8 +198,9 @@ TEST_F(GalleryTest, showsOneRingInACellOfWhatHasTheKeyboard)
 
 TEST_F(GalleryTest, keepsTextsOfAllKindsInsideOfTheirControls)
 {
-    for (const auto &[kind, sample] : hostileSamples) {
-        gallery->poses().setSample(sample);
+    for (const auto &hostile : hostileSamples) {
+        const auto &kind = hostile.first;
+        gallery->poses().setSample(hostile.second);
         settle();
         forEachCell([&kind](const QQuickItem *, QQuickItem *cell) {
             const QRectF room = cell->mapRectToScene(QRectF(0, 0, cell->width(), cell->height()));

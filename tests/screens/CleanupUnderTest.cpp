@@ -28,7 +28,7 @@ CleanupUnderTest::CleanupUnderTest(Composition &composition, Surroundings &surro
 
 void CleanupUnderTest::file(const QString &relative, int kilobytes) const
 {
-    temp_.file(QStringLiteral("home/") + relative, QByteArray(kilobytes * 1024, 'c'));
+    temp_.file(QStringLiteral("home/") + relative, QByteArray(qsizetype(kilobytes) * 1024, 'c'));
 }
 
 void CleanupUnderTest::empty() const

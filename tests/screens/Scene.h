@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+class QObject;
 class QQuickItem;
 
 /// What a person sees of a Qt Quick scene: items that are visible, not faded out and not clipped away.

@@ -4,17 +4,20 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 
-#undef signals // the desktop's library has a field of this name
 #include <memory>
 
+// A macro of Qt's, and a member's name in the headers of GIO.
+#pragma push_macro("signals")
+#undef signals
 #include <gio/gio.h>
+#pragma pop_macro("signals")
 
 namespace {
 
 constexpr int patience = 500; // ms, for each of the two that are asked
 
-const QString service = QStringLiteral("org.a11y.Bus");
-const QString path = QStringLiteral("/org/a11y/bus");
+const QString busService = QStringLiteral("org.a11y.Bus");
+const QString busPath = QStringLiteral("/org/a11y/bus");
 
 /// What the toolkit calls its connection to this bus. It takes a connection of that name that is there already.
 const QString toolkitsName = QStringLiteral("a11y");
@@ -30,7 +33,7 @@ QVariant answerOf(const QDBusConnection &session, const QDBusMessage &question)
 bool hasStatus(const QDBusConnection &session, const char *property)
 {
     QDBusMessage question = QDBusMessage::createMethodCall(
-        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+        busService, busPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     question << QStringLiteral("org.a11y.Status") << QString::fromLatin1(property);
     return answerOf(session, question).value<QDBusVariant>().variant().toBool();
 }
@@ -49,10 +52,10 @@ QString addressFrom(const QDBusConnection &session)
     if (!ofTheEnvironment.isEmpty())
         return QString::fromLocal8Bit(ofTheEnvironment);
     // The name is only looked at, since a call would start its owner.
-    if (!session.isConnected() || !session.interface()->isServiceRegistered(service) || !isInUse(session))
+    if (!session.isConnected() || !session.interface()->isServiceRegistered(busService) || !isInUse(session))
         return {};
-    return answerOf(session,
-                    QDBusMessage::createMethodCall(service, path, service, QStringLiteral("GetAddress")))
+    return answerOf(session, QDBusMessage::createMethodCall(busService, busPath, busService,
+                                                            QStringLiteral("GetAddress")))
         .toString();
 }
 

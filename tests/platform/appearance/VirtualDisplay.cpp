@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int patience = 60'000; // milliseconds
-constexpr qsizetype pixels = 1280 * 800;
+constexpr qsizetype pixels = qsizetype(1280) * 800;
 
 } // namespace
 

@@ -16,10 +16,10 @@ constexpr int longEnough = 60000; // ms; a bus that answers does so long before
 constexpr int briefly = 50;
 
 /// Takes connections into its queue, as the kernel does for a process that is held, and says nothing.
-class SilentSocket
+class MuteSocket
 {
 public:
-    explicit SilentSocket(const QString &path)
+    explicit MuteSocket(const QString &path)
         : descriptor_(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
     {
         sockaddr_un address = {};
@@ -28,9 +28,9 @@ public:
         isListening_ = bind(descriptor_, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0
                        && listen(descriptor_, 5) == 0;
     }
-    ~SilentSocket() { close(descriptor_); }
-    SilentSocket(const SilentSocket &) = delete;
-    SilentSocket &operator=(const SilentSocket &) = delete;
+    ~MuteSocket() { close(descriptor_); }
+    MuteSocket(const MuteSocket &) = delete;
+    MuteSocket &operator=(const MuteSocket &) = delete;
 
     bool isListening() const { return isListening_; }
 
@@ -49,7 +49,7 @@ TEST(AccessibilityBus, answersNotWhereConnectionsAreTakenAndNobodySpeaks)
 {
     const TempHome folder;
     const QString path = folder.path() + QStringLiteral("/bus");
-    const SilentSocket silent(path);
+    const MuteSocket silent(path);
     ASSERT_TRUE(silent.isListening());
     EXPECT_FALSE(accessibilitybus::answers(QStringLiteral("unix:path=") + path, briefly));
 }

@@ -7,6 +7,8 @@
 #include <QStandardPaths>
 #include <QUuid>
 
+#include <gtest/gtest.h>
+
 using namespace Qt::StringLiterals;
 
 PrivateBus::PrivateBus()
