@@ -38,7 +38,7 @@ On macOS install these first:
   - the Xcode command line tools (xcode-select --install)
   - cmake 3.25 or later, ninja, pkg-config, ccache
   - Qt 6.4 or later with Qt Quick and Qt Quick Controls
-  - ICU, OpenSSL and xxHash with their headers
+  - ICU, OpenSSL, xxHash and libplist with their headers
   - python3 with fonttools, and the SVG files of Bootstrap Icons
   - for the tests: GoogleTest with GoogleMock
 LIST
