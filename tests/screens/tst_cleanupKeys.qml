@@ -100,6 +100,23 @@ CleanupCase {
         compare(Program.menuLines(), "");
     }
 
+    function test_keyboardGoesOnWhereAScanLeavesIt() {
+        tabTo("Rescan", item => item === scanButton());
+        Surroundings.holdDisk(Surroundings.at("home/Downloads"));
+        press(Qt.Key_Return); // and Rescan rests
+        tryVerify(() => list().activeFocus, patience, `the list has it, not ${Program.focusPath()}`);
+        Surroundings.releaseDisk();
+        waitForScan();
+        tryVerify(() => list().activeFocus && list().currentIndex === 0, patience, "at the first row of the new list");
+        Cleanup.empty();
+        press(Qt.Key_R, Qt.ControlModifier);
+        find("Your system is clean!", screen());
+        tryVerify(() => scanButton().activeFocus, patience, `Rescan has it, not ${Program.focusPath()}`);
+        press(Qt.Key_Return); // nothing can have it until the scan ends
+        waitForScan();
+        tryVerify(() => scanButton().activeFocus, patience, `Rescan has it again, not ${Program.focusPath()}`);
+    }
+
     function test_controlsAreReachedInReadingOrder() {
         tick("Log Files");
         const way = [Program.named("selectAllButton"), Program.named("selectNoneButton"), scanButton(), list(), cleanButton()];

@@ -6,6 +6,7 @@ ToolHead {
     id: header
 
     required property SmartCleanupView view
+    readonly property Item startButton: scan.startButton
 
     title: view.title
     symbol: view.symbol
@@ -44,6 +45,7 @@ ToolHead {
         onClicked: header.view.selectNone()
     }
     ScanCommands {
+        id: scan
         isScanning: header.view.isScanning
         showsSpinner: header.view.hasList
         leastRoom: Theme.unit * 54

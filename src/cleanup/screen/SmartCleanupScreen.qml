@@ -9,11 +9,11 @@ FocusScope {
 
     required property SmartCleanupView view
 
-    // The button that had the keyboard rests during a run, and is gone after it: the keyboard goes on in the list.
-    readonly property bool isCleaning: view.isCleaning
-
-    onIsCleaningChanged: if (isCleaning && activeFocus) list.forceActiveFocus()
-
+    // Clean rests when its run begins, Rescan when a scan does, and a list goes once the system is clean.
+    KeyboardHeir {
+        screen: screen
+        heir: list.visible ? list : header.startButton.enabled ? header.startButton : null
+    }
     CleanupHeader {
         id: header
         anchors.left: parent.left

@@ -9,22 +9,13 @@ FocusScope {
 
     required property DuplicateFinderView view
 
-    // What had the keyboard may go or rest: Move to Trash when its run begins. Then the list has it, or what starts a scan.
-    readonly property Item heirOfKeyboard: Window.activeFocusItem !== screen || view.isScanning ? null
-                                           : groups.visible && groups.count > 0 ? groups
-                                           : header.startButton.enabled ? header.startButton : null
-    onHeirOfKeyboardChanged: passing.restart()
-
-    function passKeyboardOn() {
-        heirOfKeyboard?.forceActiveFocus(InputWatch.wasKeyLast() ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    // Move to Trash rests when its run begins, Start when a scan does.
+    KeyboardHeir {
+        screen: screen
+        heir: screen.view.isScanning ? null
+              : groups.visible && groups.count > 0 ? groups
+              : header.startButton.enabled ? header.startButton : null
     }
-
-    Timer {
-        id: passing
-        interval: 0
-        onTriggered: screen.passKeyboardOn()
-    }
-
     DuplicateHeader {
         id: header
         anchors.left: parent.left
