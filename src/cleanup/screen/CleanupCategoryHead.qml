@@ -35,7 +35,15 @@ Item {
         focusPolicy: Qt.NoFocus
         onClicked: head.ticked()
     }
-    // A click on a tick that rests is none on the row behind it.
+    // A tick that rests says so, and a click on it is none on the row behind it.
+    Symbol {
+        objectName: "categoryLock"
+        anchors.centerIn: tick
+        visible: head.isLocked && !head.isTicked
+        name: "lock.fill"
+        size: 9
+        color: Theme.secondText
+    }
     MouseArea {
         anchors.fill: tick
         enabled: !tick.enabled
@@ -53,7 +61,7 @@ Item {
         id: caption
         anchors.left: icon.right
         anchors.leftMargin: Theme.unit * 3
-        y: Math.round(parent.height / 2) - height
+        y: Math.round(parent.height / 2) - height - 1
         text: head.title
         font.weight: Font.DemiBold
     }
@@ -71,6 +79,7 @@ Item {
         anchors.right: amount.left
         anchors.rightMargin: Theme.unit * 3
         anchors.top: caption.bottom
+        anchors.topMargin: 2
         text: head.detail
         color: Theme.secondText
         font.pixelSize: Theme.smallSize
@@ -89,7 +98,7 @@ Item {
         }
         BodyText {
             anchors.right: parent.right
-            y: caption.y + caption.height
+            y: caption.y + caption.height + 2
             text: head.trailingDetail
             color: Theme.secondText
             font.pixelSize: Theme.smallSize

@@ -18,7 +18,7 @@ Item {
     TickBox {
         id: tick
         objectName: "fileTick"
-        x: Theme.unit * 10
+        x: Theme.unit * 9
         anchors.verticalCenter: parent.verticalCenter
         enabled: file.view.canChoose
         isTicked: file.isTicked
@@ -29,7 +29,7 @@ Item {
     BodyText {
         id: name
         anchors.left: tick.right
-        anchors.leftMargin: Theme.unit * 2
+        anchors.leftMargin: Theme.unit * 2.5
         anchors.right: size.left
         anchors.rightMargin: Theme.unit * 3
         y: Math.round(parent.height / 2) - height

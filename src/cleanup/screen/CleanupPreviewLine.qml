@@ -27,7 +27,7 @@ Item {
     BodyText {
         id: words
         anchors.left: parent.left
-        anchors.leftMargin: Theme.unit * 11
+        anchors.leftMargin: Theme.unit * 10
         anchors.right: commands.left
         anchors.rightMargin: Theme.unit * 3
         y: line.detail.length > 0 ? Math.round(parent.height / 2) - height : Math.round((parent.height - height) / 2)
@@ -49,7 +49,7 @@ Item {
     Row {
         id: commands
         anchors.right: parent.right
-        anchors.rightMargin: Theme.unit * 3
+        anchors.rightMargin: Theme.unit * (line.isReviewable ? 2 : 3) // a switch has room of its own beside it
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.unit * 2
 
