@@ -85,11 +85,13 @@ CleanupCase {
     }
 
     function test_lockedRowIsTickedOnceReviewed() {
-        verify(!tickOf("Trash").enabled);
+        verify(!tickOf("Trash").enabled && Program.named("categoryLock", row("Trash")));
+        verify(!Program.named("categoryLock", row("Log Files")));
         tick("Trash");
         verify(!isTicked("Trash"));
         compare(titlesOf("file"), []); // nor is such a click one on the row
         review("Trash");
+        verify(!Program.named("categoryLock", row("Trash")));
         find("This category may contain personal files. Expand and review the file list before selecting.", list());
         tick("Trash");
         verify(isTicked("Trash"));
@@ -148,6 +150,7 @@ CleanupCase {
     }
 
     function test_stopRestsAtOnceAndTheListStays() {
+        tick("Log Files");
         const top = row("Browser Caches").mapToItem(null, 0, 0).y;
         holdScan();
         find("Scanning...", screen());
@@ -155,6 +158,7 @@ CleanupCase {
         verify(stop.enabled && !scanButton().enabled);
         compare(told(stop, "tip"), "Stop scanning");
         compare(row("Browser Caches").mapToItem(null, 0, 0).y, top);
+        verify(!isTicked("Log Files") && !foot()); // what was chosen goes with the scan's start
         Program.picture("cleanup-scanning");
         clickOn(stop);
         verify(!stop.enabled);

@@ -43,7 +43,8 @@ void SmartCleanupView::observeService()
     connect(&service_, &CleanupViewModel::choicesEmptied, this, [this] {
         confirmation_.cancel(); // it has asked about choices that are gone
         rows_.resizeAll();
-        takeChoice();
+        // A tick that has lost its files would stand for all of its category, even of a locked one.
+        service_.selectNone();
     });
     connect(&service_, &CleanupViewModel::categoryChanged, this, [this](const QString &id) {
         rows_.resizeCategory(id);

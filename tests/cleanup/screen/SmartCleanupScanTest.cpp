@@ -117,6 +117,26 @@ TEST_F(SmartCleanupScanTest, stoppedScanLeavesTheListOfBefore)
     EXPECT_TRUE(view->pill()->isShown());
 }
 
+// It forgets the files and the marks: what is ticked would stand for all of its category, be it locked.
+TEST_F(SmartCleanupScanTest, forgetsTheTicksAtItsStart)
+{
+    appear();
+    unlock(u"Trash"_s);
+    openPreview(u"Trash"_s);
+    view->toggleFile(rowOf(u"three"_s));
+    ASSERT_EQ(view->selectedFigure(), u"3.0 B");
+    view->rescan();
+    EXPECT_FALSE(flag(u"Trash"_s, "isTicked"));
+    EXPECT_EQ(view->selectedFigure(), u"0 B");
+    EXPECT_FALSE(view->hasSelected());
+    view->stop();
+    test.settle();
+    EXPECT_FALSE(view->hasSelected()) << "the list of before stays, and nothing is to go";
+    EXPECT_TRUE(flag(u"Trash"_s, "isLocked"));
+    view->askToClean();
+    EXPECT_FALSE(view->confirmation()->isUp());
+}
+
 TEST_F(SmartCleanupScanTest, tellsHowOldTheResultIs)
 {
     EXPECT_FALSE(view->pill()->isShown());
