@@ -64,7 +64,9 @@ QStringList browserCaches(const QString &home, const QString &cache)
 QList<Locations::CleanupRow> cleanupRows(const Locations &locations, const BaseFolders &base)
 {
     return {
-        {.category = u"browser-cache"_s, .places = browserCaches(locations.home, base.cache)},
+        {.category = u"browser-cache"_s,
+         .places = browserCaches(locations.home, base.cache),
+         .onlyExistingPlaces = true}, // or "Reveal in Finder" would look for a browser that isn't there
         {.category = u"logs"_s,
          .places = {},
          .patterns = {{.parents = {base.state, base.cache}, .names = {u"log"_s, u"logs"_s}}}},

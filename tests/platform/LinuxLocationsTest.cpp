@@ -175,14 +175,16 @@ TEST(LinuxLocations, knowsBrowserCachesOfTheSystemFlatpakAndSnap)
 {
     const Locations::CleanupRow expected = {
         .category = u"browser-cache"_s,
-        .places = {
-            u"/home/ada/.cache/google-chrome"_s, u"/home/ada/.cache/chromium"_s,
-            u"/home/ada/.cache/BraveSoftware"_s, u"/home/ada/.cache/microsoft-edge"_s,
-            u"/home/ada/.cache/mozilla"_s, u"/home/ada/.var/app/com.google.Chrome/cache"_s,
-            u"/home/ada/.var/app/org.chromium.Chromium/cache"_s,
-            u"/home/ada/.var/app/com.brave.Browser/cache"_s, u"/home/ada/.var/app/com.microsoft.Edge/cache"_s,
-            u"/home/ada/.var/app/org.mozilla.firefox/cache"_s, u"/home/ada/snap/chromium/common/.cache"_s,
-            u"/home/ada/snap/brave/common/.cache"_s, u"/home/ada/snap/firefox/common/.cache"_s}};
+        .places = {u"/home/ada/.cache/google-chrome"_s, u"/home/ada/.cache/chromium"_s,
+                   u"/home/ada/.cache/BraveSoftware"_s, u"/home/ada/.cache/microsoft-edge"_s,
+                   u"/home/ada/.cache/mozilla"_s, u"/home/ada/.var/app/com.google.Chrome/cache"_s,
+                   u"/home/ada/.var/app/org.chromium.Chromium/cache"_s,
+                   u"/home/ada/.var/app/com.brave.Browser/cache"_s,
+                   u"/home/ada/.var/app/com.microsoft.Edge/cache"_s,
+                   u"/home/ada/.var/app/org.mozilla.firefox/cache"_s,
+                   u"/home/ada/snap/chromium/common/.cache"_s, u"/home/ada/snap/brave/common/.cache"_s,
+                   u"/home/ada/snap/firefox/common/.cache"_s},
+        .onlyExistingPlaces = true};
     EXPECT_EQ(cleanupRow(plainLinux, u"browser-cache"_s), expected);
 }
 

@@ -151,6 +151,18 @@ TEST_F(SmartCleanupChoiceTest, categoryIsRevealedAtItsFirstPlace)
               QStringList({u"show "_s + at(u"Library/Logs"_s), u"show "_s + at(u"Downloads/Hollow"_s)}));
 }
 
+// Browsers keep their caches at a dozen places there, most of which nobody has.
+TEST_F(SmartCleanupChoiceTest, categoryIsRevealedAtAPlaceThatIsThereOnLinuxToo)
+{
+    CleanupServices linux;
+    linux.test.usesLinuxLocations = true;
+    linux.file(u".cache/mozilla/entry"_s);
+    SmartCleanupView screen(linux.test.platform, *linux.cleanup, linux.fileSystem, linux.test.access);
+    linux.scan();
+    screen.revealCategory(0);
+    EXPECT_EQ(linux.test.workspace.calls, QStringList(u"show "_s + linux.inHome(u".cache/mozilla"_s)));
+}
+
 TEST_F(SmartCleanupChoiceTest, commandsPassOverRowsOfAnotherKind)
 {
     openPreview(u"Trash"_s);
