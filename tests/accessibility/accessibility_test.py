@@ -230,6 +230,79 @@ class DuplicateFinderTest(ScreenTest):
         self.assert_sound(self.window())
 
 
+class SmartCleanupTest(ScreenTest):
+    """Smart Cleanup: its categories, their previews, the review and the question."""
+
+    arguments = ["--screen", "cleanup"]
+    LIST = "Categories"
+    CHECK_STATES = {"checkable", "checked"}
+
+    def row(self, window, name):
+        return window.find("list item", name)[0]
+
+    def with_row(self, name):
+        """The window as soon as the list has that row."""
+        return self.window_with("list item", name)
+
+    def test_the_screen_is_told(self):
+        window = self.window_with("list", self.LIST)
+        self.assert_sound(window)
+        self.assert_tells(window, ("heading", "Smart Cleanup"), ("label", "Categories: 7"),
+                          ("label", "Total Reclaimable: 524 MB"), ("label", "Selected: 0 B"), ("label", "SAFE TO DELETE"),
+                          ("label", "REVIEW REQUIRED"), ("push button", "Select All"), ("push button", "Select None"),
+                          ("push button", "Rescan"))
+        logs = self.row(window, "Log Files")
+        self.assertEqual(logs.description, "SAFE TO DELETE, 3.5 MB, 3 files, System & application logs, 6 of 7")
+        self.assertIn("collapsed", logs.states)
+        self.assertIn("enabled", logs.find("check box", "Log Files")[0].states)
+        locked = self.row(window, "Trash")
+        self.assertNotIn("enabled", locked.find("check box", "Trash")[0].states)
+        self.assertNotIn("checkable", locked.states)
+
+    def test_the_rows_are_walked(self):
+        self.window_with("list", self.LIST)
+        self.assert_walks(self.LIST, ("Old Downloads", "1 of 7"), ("Browser Caches", "2 of 7"))
+
+    def test_a_preview_and_its_picks_are_told(self):
+        self.with_row("Log Files")
+        self.node("list item", "Log Files").do("Press")
+        window = self.with_row("sync.log")
+        self.assert_sound(window)
+        self.assertIn("expanded", self.row(window, "Log Files").states)
+        file = self.row(window, "sync.log")
+        self.assertEqual(file.description, "3.0 MB, ~/Library/Logs, 9 of 13")
+        self.assertNotIn("expandable", file.states)
+        guide = self.row(window, "Select files to delete (largest first)")
+        self.assertEqual(guide.description, "Right-click any file for more actions, 0 selected · 0 B, 8 of 13")
+        self.assertEqual(guide.states & (self.CHECK_STATES | {"expandable"}), set())
+        file.do("Press")
+        window = self.window_with("label", "1 categories selected · 3.0 MB to clean")
+        self.assert_sound(window)
+        self.assert_tells(window, ("label", "Selected: 3.0 MB"), ("push button", "Clean 3.0 MB"))
+        for name in ("Log Files", "sync.log"):
+            self.assertIn("checked", self.row(window, name).states, name)
+        DESKTOP.press("Menu")
+        window = self.window_with("popup menu")
+        self.assert_sound(window)
+        self.assert_tells(window, ("menu item", "Copy Path"), ("menu item", "Exclude from Cleanup"))
+
+    def test_a_lock_is_lifted_and_the_question_is_told(self):
+        self.with_row("Empty Folders")
+        self.node("list item", "Empty Folders").do("Press")
+        self.node("check box", "I've reviewed these files").do("Press")
+        window = self.settle(lambda told: "enabled" in told.find("check box", "Empty Folders")[0].states, "the lock lifted")
+        self.assert_sound(window)
+        window.find("check box", "Empty Folders")[0].do("Press")
+        window = self.window_with("push button", "Clean 4 items")
+        self.assertIn("checked", self.row(window, "Empty Folders").states)
+        window.find("push button", "Clean 4 items")[0].do("Press")
+        window = self.window_with("alert", "Confirm Cleanup")
+        self.assert_sound(window)
+        self.assertIn("Empty Folders", window.find("alert")[0].description)
+        DESKTOP.press("Escape")
+        self.settle(lambda told: not told.find("alert"), "the question gone")
+
+
 class BrokenBusTest(unittest.TestCase):
     """The window matters more than what listens to it."""
 

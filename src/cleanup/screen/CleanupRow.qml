@@ -30,6 +30,7 @@ ListRow {
 
     readonly property bool isCategory: kind === "category"
     readonly property bool isFile: kind === "file"
+    readonly property bool isExpandable: isCategory
     readonly property bool hasTick: isCategory && !isLocked || isFile || isReviewable
     readonly property bool answersClicks: isCategory || isFile && view.canChoose
     readonly property var toldChecked: hasTick && view.canChoose ? isTicked : undefined
