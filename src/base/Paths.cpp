@@ -146,6 +146,19 @@ QString extension(const QString &path)
     return dot <= 0 || name == u".." ? QString() : name.sliced(dot + 1);
 }
 
+QString stem(const QString &path)
+{
+    const QString name = lastComponent(path);
+    const QString ending = extension(name);
+    return ending.isEmpty() ? name : name.chopped(ending.size() + 1);
+}
+
+bool isEntryName(QStringView name)
+{
+    return !name.isEmpty() && name != u"." && name != u".." && !name.contains(u'/')
+           && !name.contains(QChar(0));
+}
+
 QString join(const QString &folder, const QString &name)
 {
     const bool needsSlash = !folder.endsWith(u'/');

@@ -35,6 +35,13 @@ QString lastComponent(const QString &path);
 /// name (".profile", "name.") or when there is none; "..", "." have none.
 QString extension(const QString &path);
 
+/// "c" of "/a/b/c.d" and of "/a/b/c": the last component without its extension and the dot ahead of it.
+QString stem(const QString &path);
+
+/// True when `name` names exactly one entry directly inside whatever folder it is joined to: it is not empty, neither
+/// "." nor "..", and holds no slash and no NUL. To be asked of every name that someone else has chosen.
+bool isEntryName(QStringView name);
+
 /// `folder` + "/" + `name`, with one slash between them.
 QString join(const QString &folder, const QString &name);
 

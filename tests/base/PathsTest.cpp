@@ -360,3 +360,24 @@ TEST(Paths, showNoNameInAnotherOrderThanItIsWritten)
     EXPECT_EQ(paths::inOneLine(u"photo\u202Egpj.exe"_s), u"photo\uFFFDgpj.exe"_s);
     EXPECT_EQ(paths::inOneLine(u"\u2066a\u2069"_s), u"\uFFFDa\uFFFD"_s);
 }
+
+TEST(Paths, tellTheStemOfAName)
+{
+    EXPECT_EQ(paths::stem(u"/a/b/Tide Tables.app"_s), u"Tide Tables");
+    EXPECT_EQ(paths::stem(u"/a/b/Tides 2.1.app/"_s), u"Tides 2.1");
+    EXPECT_EQ(paths::stem(u"Tides"_s), u"Tides");
+    EXPECT_EQ(paths::stem(u"/a.b/.app"_s), u".app");
+    EXPECT_EQ(paths::stem(u"name."_s), u"name.");
+    EXPECT_EQ(paths::stem(u".."_s), u"..");
+    EXPECT_EQ(paths::stem(u"/"_s), u"/");
+}
+
+TEST(Paths, knowWhatNamesOneEntryOfAFolder)
+{
+    for (const QString &name :
+         {u"a"_s, u"..."_s, u".hidden"_s, u" "_s, u"a\\b"_s, u"a\nb"_s, paths::fromBytes("\xff")})
+        EXPECT_TRUE(paths::isEntryName(name)) << name.toStdString();
+    for (const QString &name :
+         {u""_s, u"."_s, u".."_s, u"/"_s, u"a/b"_s, u"a/"_s, u"/a"_s, u"../a"_s, QString(QChar(0))})
+        EXPECT_FALSE(paths::isEntryName(name)) << name.toStdString();
+}
