@@ -7,8 +7,9 @@
 class InstalledWords;
 class KnownIdentifiers;
 
-/// Whether an entry of the Library still has an owner. An entry that is wrongly taken for a ghost's breaks an application, one
-/// that is wrongly spared takes room and nothing more: so every rule leans towards the owner who is still there.
+/// Whether an entry of the Library still has an owner. An entry that is wrongly taken for a ghost's breaks an
+/// application, one that is wrongly spared takes room and nothing more: so every rule leans towards the owner who is
+/// still there.
 namespace ghostrules {
 
 /// True when something installed holds the entry, read as an identifier: the application itself, one that the system

@@ -10,43 +10,31 @@ void InstalledWords::addName(const QString &name)
     if (names_.contains(lower))
         return;
     names_.insert(lower);
-    allNames_ += lower + QChar::Null;
+    nameParts_.add(lower);
 }
 
 void InstalledWords::addIdentifier(const QString &identifier)
 {
     const QString lower = ghostnames::comparable(identifier);
-    if (identifiers_.contains(lower))
+    if (!identifiers_.insert(lower).second)
         return;
-    identifiers_.insert(lower);
-    allIdentifiers_ += lower + QChar::Null;
-    for (qsizetype dot = lower.indexOf(u'.'), dots = 1; dot >= 0;
-         dot = lower.indexOf(u'.', dot + 1), ++dots) {
-        ancestors_.insert(lower.left(dot));
-        if (dots == 2)
-            vendors_.insert(lower.left(dot));
-    }
+    identifierParts_.add(lower);
+    const QString vendor = lower.section(u'.', 0, 1);
+    if (vendor.size() < lower.size())
+        vendors_.insert(vendor);
 }
 
 bool InstalledWords::hasRelativeOf(const QString &identifier) const
 {
-    if (ancestors_.contains(identifier))
+    const QString beginning = identifier + u'.';
+    const auto following = identifiers_.lower_bound(beginning);
+    if (following != identifiers_.end() && following->startsWith(beginning))
         return true;
     for (qsizetype dot = identifier.indexOf(u'.'); dot >= 0; dot = identifier.indexOf(u'.', dot + 1)) {
         if (identifiers_.contains(identifier.left(dot)))
             return true;
     }
     return false;
-}
-
-bool InstalledWords::isInName(QStringView word) const
-{
-    return !word.isEmpty() && allNames_.contains(word);
-}
-
-bool InstalledWords::isInIdentifier(QStringView word) const
-{
-    return !word.isEmpty() && allIdentifiers_.contains(word);
 }
 
 bool InstalledWords::hasNameIn(const QString &text) const

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "apps/ghosts/WordParts.h"
+
 #include <QSet>
 #include <QString>
 
-/// The names and identifiers of what is installed, for questions about entries. All of it is compared in lower case; what is asked
-/// for is in its comparable form already (`ghostnames::comparable`).
+#include <set>
+
+/// The names and identifiers of what is installed, for questions about entries. All of it is compared in lower case;
+/// what is asked for is in its comparable form already (`ghostnames::comparable`).
 class InstalledWords
 {
 public:
@@ -20,21 +24,19 @@ public:
     bool hasRelativeOf(const QString &identifier) const;
 
     /// True for "com.example" where an identifier "com.example.…" of at least three components is installed.
-    bool hasVendor(QStringView vendor) const { return vendors_.contains(vendor.toString()); }
+    bool hasVendor(const QString &vendor) const { return vendors_.contains(vendor); }
 
     /// True when a name, or an identifier, contains the word. None contains the empty one.
-    bool isInName(QStringView word) const;
-    bool isInIdentifier(QStringView word) const;
+    bool isInName(QStringView word) const { return nameParts_.contains(word); }
+    bool isInIdentifier(QStringView word) const { return identifierParts_.contains(word); }
 
     /// True when a name is part of the text. One that is empty is part of none: it would spare every entry there is.
     bool hasNameIn(const QString &text) const;
 
 private:
     QSet<QString> names_;
-    QSet<QString> identifiers_;
-    QSet<QString> ancestors_; // "com.example" and "com" of "com.example.app"
+    std::set<QString> identifiers_; // in order, so that those which begin alike stand together
     QSet<QString> vendors_;
-    // All of them, one behind the other with what stands in no file's name in between: one search goes through all.
-    QString allNames_;
-    QString allIdentifiers_;
+    WordParts nameParts_;
+    WordParts identifierParts_;
 };
