@@ -45,7 +45,7 @@ Item {
     }
     BodyText {
         id: subtitleText
-        y: head.lineHeight - Theme.unit
+        y: head.lineHeight - (head.isNarrow ? Theme.unit : 0) // apart from the figures where these stand above it
         width: parent.width
         visible: text.length > 0
         text: head.subtitle

@@ -5,6 +5,7 @@ import Quillmere.Screens
 ScreenCase {
     id: base
 
+    readonly property int usualWidth: 1280
     readonly property int usualHeight: 800
 
     readonly property var usualCategories: ["Browser Caches", "Log Files", "Old Downloads", "Trash", "Empty Folders"]
@@ -25,6 +26,7 @@ ScreenCase {
     function cleanup() {
         Surroundings.releaseDisk();
         tryVerify(() => !Cleanup.isCleaning(), patience, "no cleaning is left running");
+        Program.window.width = usualWidth;
         Program.window.height = usualHeight;
         compare(Program.takeWarnings(), "");
     }

@@ -23,7 +23,7 @@ ScreenCase {
         Program.settle();
     }
 
-    function findDuplicates() {
+    function scan() {
         clickOn(Program.named("scanButton"));
         tryVerify(() => Program.named("scanButton").enabled, patience, "the scan has ended");
         Program.settle();
@@ -60,7 +60,7 @@ ScreenCase {
         open("Duplicates");
         verify(!banner());
         const top = Program.textItem("Scan Directories").mapToItem(null, 0, 0).y;
-        findDuplicates();
+        scan();
         tryVerify(() => banner(), patience, "the banner shows");
         Program.settle();
         verify(Program.textItem("Scan Directories").mapToItem(null, 0, 0).y >= top + banner().height);
@@ -71,11 +71,27 @@ ScreenCase {
         tryVerify(() => !banner(), patience, "the banner goes");
         Program.settle();
         compare(Program.textItem("Scan Directories").mapToItem(null, 0, 0).y, top);
-        findDuplicates();
+        scan();
         open("Organizer");
         open("Duplicates");
         verify(!banner());
         openAnalyzer();
         tabTo("the button that hides it", item => item === Program.named("bannerHide"));
+    }
+
+    function test_smartCleanupHasItsOwnToo() {
+        Cleanup.fill();
+        open("Cleanup");
+        tryVerify(() => Program.named("scanButton").enabled, patience, "no scan is on its way");
+        scan();
+        tryVerify(() => banner() && Program.named("cleanupList")?.count > 0, patience, "the banner shows");
+        const topOfList = () => Program.named("cleanupList").mapToItem(null, 0, 0).y;
+        const top = topOfList();
+        verify(top > banner().mapToItem(null, 0, banner().height).y);
+        Program.picture("banner-cleanup");
+        clickOn(Program.named("bannerHide"));
+        tryVerify(() => !banner(), patience, "the banner goes");
+        Program.settle();
+        verify(topOfList() < top);
     }
 }

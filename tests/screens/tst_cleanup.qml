@@ -16,6 +16,16 @@ CleanupCase {
         Program.picture("cleanup");
     }
 
+    function test_wideHeadHasItsFiguresApartFromTheLineBelow() {
+        const subtitle = "Finds and removes temporary files, caches, and build artifacts that are safe to delete.";
+        const bottomOf = item => item.mapToItem(null, 0, item.height).y;
+        const topOf = item => item.mapToItem(null, 0, 0).y;
+        const selected = () => Program.itemWith("label", screen(), "Selected");
+        verify(topOf(selected()) > bottomOf(find(subtitle, screen())), "in a narrow window they stand below");
+        Program.window.width = 1800;
+        tryVerify(() => bottomOf(selected()) < topOf(find(subtitle, screen())), patience, "they stand above");
+    }
+
     function test_categoryTellsItsPart() {
         const logs = row("Log Files");
         for (const text of ["System & application logs", "3 files", "SAFE TO DELETE", "Preview files"])
