@@ -2,7 +2,7 @@
 
 #include "base/Files.h"
 
-/// What the calls of base/Files and base/AtomicWrite are made of; for these alone.
+/// What the calls of base/ on files and folders are made of; for these alone.
 namespace files {
 
 /// The bytes of a path for the system. A NUL would cut the path short and name something else, so such a path

@@ -2,10 +2,14 @@
 
 #include "base/Error.h"
 #include "base/FileCalls.h"
+#include "base/OpenFolder.h"
 #include "base/Paths.h"
+
+#include <QStringList>
 
 #include <cerrno>
 #include <cstring>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -29,10 +33,10 @@ struct Place
 };
 
 /// Of an open folder. Throws Error.
-Place placeOf(const Descriptor &folder)
+Place placeOf(int folder)
 {
     struct stat status = {};
-    if (fstat(folder.number(), &status) == -1)
+    if (fstat(folder, &status) == -1)
         throw errors::fromErrno(errno);
     return {status.st_dev, status.st_ino};
 }
@@ -41,6 +45,43 @@ bool isFolder(int folder, const char *name)
 {
     struct stat status = {};
     return fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// True where a folder could not be removed for nothing but what it holds. One that could not go anyway is left whole; it may
+/// be the place where another volume, or another part of this one, is mounted.
+bool holdsEntries(int removalFailure)
+{
+    return removalFailure == ENOTEMPTY || removalFailure == EEXIST;
+}
+
+bool isOwn(const struct stat &status)
+{
+    return status.st_uid == geteuid();
+}
+
+/// Opens a folder in another one, and one of the user's own that forbids it too. Throws Error.
+Descriptor openFolder(int parent, const char *name)
+{
+    const int number = openat(parent, name, folderFlags);
+    const int code = errno;
+    if (number != -1 || code != EACCES)
+        return Descriptor(number);
+    struct stat status = {};
+    const bool isOpened =
+        fstatat(parent, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && isOwn(status)
+        && fchmodat(parent, name, (status.st_mode & ALLPERMS) | S_IRWXU, AT_SYMLINK_NOFOLLOW) == 0;
+    if (!isOpened)
+        throw errors::fromErrno(code);
+    return Descriptor(openat(parent, name, folderFlags));
+}
+
+/// A folder that the user has made read-only is no obstacle to removing it: its owner may allow it at any time. Those of
+/// others stay as they are.
+void allowRemovals(const Descriptor &folder)
+{
+    struct stat status = {};
+    if (fstat(folder.number(), &status) == 0 && isOwn(status) && (status.st_mode & S_IRWXU) != S_IRWXU)
+        fchmod(folder.number(), (status.st_mode & ALLPERMS) | S_IRWXU);
 }
 
 struct Entry
@@ -74,12 +115,14 @@ std::vector<Entry> entriesOf(const Descriptor &folder)
 class Emptying
 {
 public:
-    /// `path` is what a test knows the folder by. Throws Error when the folder can't be listed.
-    Emptying(Descriptor folder, QByteArray path)
+    /// `path` is what a test knows the folder by; `device` is that of the folder around it, which is not left. Throws Error
+    /// when the folder can't be listed.
+    Emptying(Descriptor folder, QByteArray path, dev_t device)
         : folder_(std::move(folder))
         , path_(std::move(path))
-        , device_(placeOf(folder_).device)
+        , device_(device)
     {
+        requireDevice(folder_);
         enter({}, {});
     }
 
@@ -105,25 +148,40 @@ private:
         std::vector<QByteArray> folders; ///< that are still in it
     };
 
+    /// Throws Error for another volume's folder.
+    void requireDevice(const Descriptor &folder) const
+    {
+        if (placeOf(folder.number()).device != device_)
+            throw errors::fromErrno(EXDEV);
+    }
+
     /// Removes all but folders from the folder at hand.
     void enter(const QByteArray &name, std::vector<QByteArray> folders)
     {
-        const Place place = placeOf(folder_);
+        const Place place = placeOf(folder_.number());
+        allowRemovals(folder_);
         for (Entry &entry : entriesOf(folder_)) {
-            if (entry.isFolder || !removeEntry(entry.name, 0))
+            if (entry.isFolder || !removeEntry(entry.name))
                 folders.push_back(std::move(entry.name));
         }
         levels_.push_back({name, place, std::move(folders)});
     }
 
-    /// False for a folder that was not to be one.
-    bool removeEntry(const QByteArray &name, int flags)
+    /// False, with errno set, when it stays.
+    bool remove(const QByteArray &name, int flags)
     {
-        const bool isMeantToFail = faults() && fails(Operation::remove, paths::fromBytes(path_ + '/' + name));
-        if (!isMeantToFail && unlinkat(folder_.number(), name.constData(), flags) == 0)
+        if (faults() && fails(Operation::remove, paths::fromBytes(path_ + '/' + name)))
+            return false;
+        return unlinkat(folder_.number(), name.constData(), flags) == 0;
+    }
+
+    /// False for a folder that was not to be one.
+    bool removeEntry(const QByteArray &name)
+    {
+        if (remove(name, 0))
             return true;
         const int code = errno;
-        if (flags == 0 && (code == EISDIR || code == EPERM) && isFolder(folder_.number(), name.constData()))
+        if ((code == EISDIR || code == EPERM) && isFolder(folder_.number(), name.constData()))
             return false;
         note(code);
         return true;
@@ -133,23 +191,32 @@ private:
     {
         const QByteArray name = std::move(levels_.back().folders.back());
         levels_.back().folders.pop_back();
+        if (remove(name, AT_REMOVEDIR))
+            return;
+        if (!holdsEntries(errno)) {
+            note(errno);
+            return;
+        }
         try {
-            Descriptor child(openat(folder_.number(), name.constData(), folderFlags));
-            if (placeOf(child).device != device_)
-                throw errors::fromErrno(EXDEV);
-            std::swap(folder_, child);
-            path_ += '/' + name;
-            try {
-                enter(name, {});
-            } catch (const Error &) {
-                std::swap(folder_, child);
-                path_.chop(name.size() + 1);
-                throw;
-            }
+            enterFolder(name);
         } catch (const Error &error) {
-            // One that can't be read may be empty all the same.
-            if (error.code == EXDEV || unlinkat(folder_.number(), name.constData(), AT_REMOVEDIR) == -1)
-                note(error.code);
+            note(error.code);
+        }
+    }
+
+    /// Throws Error, and stays in the folder at hand.
+    void enterFolder(const QByteArray &name)
+    {
+        Descriptor child = openFolder(folder_.number(), name.constData());
+        requireDevice(child);
+        std::swap(folder_, child);
+        path_ += '/' + name;
+        try {
+            enter(name, {});
+        } catch (const Error &) {
+            std::swap(folder_, child);
+            path_.chop(name.size() + 1);
+            throw;
         }
     }
 
@@ -158,10 +225,11 @@ private:
         const QByteArray name = levels_.back().name;
         levels_.pop_back();
         folder_ = Descriptor(openat(folder_.number(), "..", folderFlags));
-        if (placeOf(folder_) != levels_.back().place)
+        if (placeOf(folder_.number()) != levels_.back().place)
             throw errors::fromErrno(EBUSY);
         path_.chop(name.size() + 1);
-        removeEntry(name, AT_REMOVEDIR);
+        if (!remove(name, AT_REMOVEDIR))
+            note(errno);
     }
 
     void note(int code)
@@ -189,25 +257,64 @@ QByteArray entryName(const QString &path)
     return name;
 }
 
+/// The folder that holds the entry.
+QByteArray folderOf(const QByteArray &path)
+{
+    const qsizetype slash = path.lastIndexOf('/');
+    return slash == -1 ? QByteArray(".") : path.first(slash + 1);
+}
+
+/// The device of the folder around an entry. Throws Error.
+dev_t deviceAround(int folder, const QByteArray &name)
+{
+    struct stat status = {};
+    if (fstatat(folder, folderOf(name).constData(), &status, 0) == -1)
+        throw errors::fromErrno(errno);
+    return status.st_dev;
+}
+
+/// Removes the entry `name`, which may be a path below `folder`. A test knows it by `path`. Throws Error.
+void removeAt(int folder, const QByteArray &name, const QByteArray &path)
+{
+    if (faults() && fails(Operation::remove, paths::fromBytes(path)))
+        throw errors::fromErrno(errno);
+    if (!isFolder(folder, name.constData())) {
+        if (unlinkat(folder, name.constData(), 0) == -1)
+            throw errors::fromErrno(errno);
+        return;
+    }
+    if (unlinkat(folder, name.constData(), AT_REMOVEDIR) == 0)
+        return;
+    if (!holdsEntries(errno))
+        throw errors::fromErrno(errno);
+    const dev_t device = deviceAround(folder, name);
+    const int failure = Emptying(openFolder(folder, name.constData()), path, device).run();
+    if (failure != 0)
+        throw errors::fromErrno(failure);
+    if (unlinkat(folder, name.constData(), AT_REMOVEDIR) == -1)
+        throw errors::fromErrno(errno);
+}
+
 } // namespace
 
 void removeTree(const QString &path)
 {
     const QByteArray name = entryName(path);
-    if (fails(Operation::remove, path))
-        throw errors::fromErrno(errno);
-    if (!isFolder(AT_FDCWD, name.constData())) {
-        if (unlink(name.constData()) == -1)
-            throw errors::fromErrno(errno);
-        return;
+    removeAt(AT_FDCWD, name, name);
+}
+
+void removeTree(const OpenFolder &folder, const QString &relative)
+{
+    QStringList names = relative.split(u'/');
+    const QByteArray last = entryName(names.takeLast());
+    const dev_t device = placeOf(folder.number()).device;
+    std::optional<OpenFolder> inner;
+    for (const QString &name : std::as_const(names)) {
+        inner = (inner ? *inner : folder).inner(name);
+        if (placeOf(inner->number()).device != device)
+            throw errors::fromErrno(EXDEV);
     }
-    if (rmdir(name.constData()) == 0)
-        return;
-    const int failure = Emptying(Descriptor(open(name.constData(), folderFlags)), name).run();
-    if (failure != 0)
-        throw errors::fromErrno(failure);
-    if (rmdir(name.constData()) == -1)
-        throw errors::fromErrno(errno);
+    removeAt((inner ? *inner : folder).number(), last, paths::toBytes(paths::join(folder.path(), relative)));
 }
 
 } // namespace files

@@ -190,6 +190,15 @@ bool isAtOrBelow(const QString &path, const QString &folder)
     return path.size() == folder.size() || folder.endsWith(u'/') || path[folder.size()] == u'/';
 }
 
+std::optional<QString> below(const QString &path, const QString &folder)
+{
+    const QString start = join(folder, {});
+    const QString rest = path.startsWith(start) ? path.sliced(start.size()) : QString();
+    if (rest.isEmpty() || standardized(rest) != u'/' + rest)
+        return std::nullopt;
+    return rest;
+}
+
 QString expandTilde(const QString &path, const QString &home)
 {
     if (path == u"~")

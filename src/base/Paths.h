@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <optional>
+
 /// Paths as text. The file system's names are bytes, any but "/" and NUL; a path is a QString everywhere in
 /// the program. Bytes that are not UTF-8 become lone low surrogates (U+DC80 to U+DCFF) on the way in and
 /// those same bytes again on the way out, so that every name survives the round trip. All functions here are
@@ -50,6 +52,10 @@ QString standardized(const QString &path);
 
 /// True when `path` is `folder` or lies below it, by the text alone.
 bool isAtOrBelow(const QString &path, const QString &folder);
+
+/// What leads from `folder` to a path below it, by the text alone. None for a path that isn't below it, or that goes there by
+/// way of "..", "." or a slash too many.
+std::optional<QString> below(const QString &path, const QString &folder);
 
 /// "~" and "~/x" with `home` in the place of the tilde; any other text as it stands.
 QString expandTilde(const QString &path, const QString &home);

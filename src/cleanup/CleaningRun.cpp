@@ -4,6 +4,7 @@
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "cleanup/CleanupPlaces.h"
+#include "cleanup/EmptyFolders.h"
 #include "common/Formatters.h"
 #include "filesystem/FileSystemService.h"
 #include "platform/Recycler.h"
@@ -18,16 +19,6 @@ void moveToTrash(const QString &path, const FileSystemService &fileSystem)
         fileSystem.moveToTrash(path);
     } catch (const Error &) {
         // It stays, and the run goes on.
-    }
-}
-
-/// Moves what lies in a place, for as long as the place is no link: a run may take minutes.
-void moveToTrash(const QStringList &paths, const QString &place, const FileSystemService &fileSystem)
-{
-    for (const QString &path : paths) {
-        if (cleanupplaces::isLink(place))
-            return;
-        moveToTrash(path, fileSystem);
     }
 }
 
@@ -60,11 +51,46 @@ QStringList contents(const QString &place)
 /// True for an entry below the place that no link leads to, so that it really lies there.
 bool liesIn(const QString &path, const QString &place)
 {
-    if (path == place || !paths::isAtOrBelow(path, place) || paths::standardized(path) != path)
+    if (!paths::below(path, place))
         return false;
     const auto folder = files::realPath(paths::parent(path));
     const auto root = files::realPath(place);
     return folder && root && paths::isAtOrBelow(*folder, *root);
+}
+
+/// Moves what a place holds, for as long as the place is no link: a run may take minutes.
+void moveContents(const QString &place, const FileSystemService &fileSystem)
+{
+    for (const QString &path : contents(place)) {
+        if (cleanupplaces::isLink(place))
+            return;
+        moveToTrash(path, fileSystem);
+    }
+}
+
+/// Moves files that were picked. For the same reason, each is looked at right before.
+void movePicked(const QStringList &picked, const QString &place, const FileSystemService &fileSystem)
+{
+    for (const QString &path : picked) {
+        if (!cleanupplaces::isLink(place) && liesIn(path, place))
+            moveToTrash(path, fileSystem);
+    }
+}
+
+/// Moves a folder that was found empty, unless somebody has put something into it since.
+void moveIfEmpty(const QString &folder, const FileSystemService &fileSystem)
+{
+    if (emptyfolders::isEmpty(folder))
+        moveToTrash(folder, fileSystem);
+}
+
+/// Removes those that were picked in this Trash.
+void removePicked(const QStringList &picked, const QString &trash, Recycler &recycler)
+{
+    QStringList chosen;
+    std::copy_if(picked.begin(), picked.end(), std::back_inserter(chosen),
+                 [&trash](const QString &path) { return liesIn(path, trash); });
+    removeForGood(chosen, trash, recycler);
 }
 
 QStringList sorted(const QSet<QString> &paths)
@@ -118,9 +144,9 @@ void CleaningRun::cleanAll(const Part &part, const Contents &trashed, const File
         if (part.category.id == cleanupids::trash) {
             removeForGood(trashed.value(place), place, recycler);
         } else if (part.category.id == cleanupids::emptyFolders) {
-            moveToTrash(place, fileSystem);
+            moveIfEmpty(place, fileSystem);
         } else {
-            moveToTrash(contents(place), place, fileSystem);
+            moveContents(place, fileSystem);
         }
     }
 }
@@ -133,16 +159,13 @@ void CleaningRun::cleanPicked(const Part &part, const FileSystemService &fileSys
             continue;
         if (part.category.id == cleanupids::emptyFolders) {
             if (part.picked.contains(place))
-                moveToTrash(place, fileSystem);
+                moveIfEmpty(place, fileSystem);
             continue;
         }
-        QStringList chosen;
-        std::copy_if(picked.begin(), picked.end(), std::back_inserter(chosen),
-                     [&place](const QString &path) { return liesIn(path, place); });
         if (part.category.id == cleanupids::trash)
-            removeForGood(chosen, place, recycler);
+            removePicked(picked, place, recycler);
         else
-            moveToTrash(chosen, place, fileSystem);
+            movePicked(picked, place, fileSystem);
     }
 }
 

@@ -32,6 +32,11 @@ bool holds(const Names &names, std::string_view name)
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
+bool isContent(QByteArrayView name)
+{
+    return !holds(noContent, viewOf(name));
+}
+
 bool isEntered(std::string_view name)
 {
     return !name.starts_with('.') && !holds(neverEntered, name);
@@ -86,7 +91,7 @@ private:
     {
         files::DirectoryReader entry(folder);
         while (entry.next()) {
-            listing.hasContent = listing.hasContent || !holds(noContent, viewOf(entry.name()));
+            listing.hasContent = listing.hasContent || isContent(entry.name());
             if (!isGoingOn || !isEntered(viewOf(entry.name())))
                 continue;
             const auto kind = kindOf(entry);
@@ -121,6 +126,16 @@ QStringList find(const QStringList &roots)
         Search(root, all, found).visit(root, 0, false);
     found.removeDuplicates();
     return found;
+}
+
+bool isEmpty(const QString &folder)
+{
+    files::DirectoryReader entry(folder);
+    while (entry.next()) {
+        if (isContent(entry.name()))
+            return false;
+    }
+    return entry.isOpen() && !entry.hasFailed();
 }
 
 } // namespace emptyfolders

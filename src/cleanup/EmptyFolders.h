@@ -14,4 +14,7 @@ inline constexpr int depthLimit = 6;
 /// would multiply what there is to walk. What can't be listed is passed over. Blocks; any thread.
 QStringList find(const QStringList &roots);
 
+/// True for a folder that holds no more than an empty one may. False for one that can't be listed. Blocks; any thread.
+bool isEmpty(const QString &folder);
+
 } // namespace emptyfolders

@@ -124,21 +124,52 @@ TEST(RemoveTree, leavesAFileThatCannotBeRemoved)
     EXPECT_EQ(names(temp.path()), std::set<QString>({u"file"_s}));
 }
 
-TEST(RemoveTree, leavesWhatAReadOnlyFolderHoldsAndTakesTheRest)
+TEST(RemoveTree, opensUpFoldersOfTheUsersOwn)
 {
     EXPECT_TRUE(holdsForOrdinaryUser([] {
         const TempHome temp;
-        temp.file(u"root/read-only/stays"_s);
-        temp.file(u"root/unreadable/stays"_s);
-        temp.folder(u"root/unreadable and empty"_s);
-        temp.file(u"root/goes"_s);
+        temp.file(u"root/read-only/deeper/file"_s);
+        temp.file(u"root/unreadable/file"_s);
+        temp.file(u"root/closed/file"_s);
+        temp.folder(u"root/closed and empty"_s);
+        temp.setMode(u"root/read-only/deeper"_s, 0500);
         temp.setMode(u"root/read-only"_s, 0500);
         temp.setMode(u"root/unreadable"_s, 0300);
-        temp.setMode(u"root/unreadable and empty"_s, 0);
-        EXPECT_EQ(removalFailure(temp.at(u"root"_s)), EACCES);
-        EXPECT_EQ(names(temp.at(u"root"_s)), std::set<QString>({u"read-only"_s, u"unreadable"_s}));
-        temp.setMode(u"root/unreadable"_s, 0700);
-        EXPECT_EQ(names(temp.at(u"root/unreadable"_s)), std::set<QString>({u"stays"_s}));
+        temp.setMode(u"root/closed"_s, 0);
+        temp.setMode(u"root/closed and empty"_s, 0);
+        temp.setMode(u"root"_s, 0500);
+        EXPECT_EQ(removalFailure(temp.at(u"root"_s)), 0);
+        EXPECT_EQ(names(temp.path()), std::set<QString>());
+    }));
+}
+
+TEST(RemoveTree, leavesWhatAFolderOfAnotherUserHoldsAndTakesTheRest)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "An ordinary user has nothing of another user's.";
+    const TempHome temp;
+    temp.file(u"home/root/theirs/stays"_s);
+    temp.folder(u"home/root/theirs too"_s);
+    temp.file(u"home/root/goes/file"_s);
+    for (const QString &name :
+         {u""_s, u"home"_s, u"home/root"_s, u"home/root/goes"_s, u"home/root/goes/file"_s})
+        ASSERT_EQ(chown(paths::toBytes(temp.at(name)).constData(), 65534, 65534), 0);
+    EXPECT_TRUE(holdsForOrdinaryUser([&temp] {
+        EXPECT_EQ(removalFailure(temp.at(u"home/root"_s)), EACCES);
+        EXPECT_EQ(names(temp.at(u"home/root"_s)), std::set<QString>({u"theirs"_s}));
+        EXPECT_EQ(names(temp.at(u"home/root/theirs"_s)), std::set<QString>({u"stays"_s}));
+    }));
+}
+
+TEST(RemoveTree, leavesAFolderWholeThatCouldNotGoItself)
+{
+    EXPECT_TRUE(holdsForOrdinaryUser([] {
+        const TempHome temp;
+        temp.file(u"read-only/root/stays"_s);
+        temp.setMode(u"read-only"_s, 0500);
+        EXPECT_EQ(removalFailure(temp.at(u"read-only/root"_s)), EACCES);
+        EXPECT_EQ(names(temp.at(u"read-only/root"_s)), std::set<QString>({u"stays"_s}));
+        temp.setMode(u"read-only"_s, 0700);
     }));
 }
 

@@ -264,6 +264,17 @@ TEST(Paths, doesNotCountANeighbourWhoseNameBeginsAlike)
     EXPECT_FALSE(paths::isAtOrBelow(u"/x/a/b"_s, u"/a"_s));
 }
 
+TEST(Paths, tellsWhatLeadsBelowAFolder)
+{
+    EXPECT_EQ(paths::below(u"/a/b/c"_s, u"/a"_s), u"b/c"_s);
+    EXPECT_EQ(paths::below(u"/a/b"_s, u"/a/"_s), u"b"_s);
+    EXPECT_EQ(paths::below(u"//a/./b/..."_s, u"//a/./b"_s), u"..."_s) << "whatever the folder's own path";
+    EXPECT_EQ(paths::below(u"/a"_s, u"/"_s), u"a"_s);
+    for (const QString &path : {u"/a"_s, u"/a/"_s, u"/a/."_s, u"/a/.."_s, u"/a//b"_s, u"/a/b/"_s,
+                                u"/a/b/../c"_s, u"/ab"_s, u"/"_s, u"a/b"_s, QString()})
+        EXPECT_FALSE(paths::below(path, u"/a"_s)) << path.toStdString();
+}
+
 TEST(Paths, expandsALeadingTildeOnly)
 {
     EXPECT_EQ(paths::expandTilde(u"~"_s, u"/home/ada"_s), u"/home/ada"_s);

@@ -1,15 +1,12 @@
 #include "platform/linux/TrashFolder.h"
 
-#include "base/AtomicWrite.h"
 #include "base/Files.h"
 #include "base/Paths.h"
 #include "platform/linux/TrashInfo.h"
-
-#include <QByteArrayList>
+#include "platform/linux/TrashNames.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <iterator>
@@ -22,10 +19,6 @@
 namespace {
 
 constexpr qsizetype longestName = 255; // bytes; file systems that take less report it
-const QString itemsFolder = QStringLiteral("files");
-const QString notesFolder = QStringLiteral("info");
-const QString noteSuffix = QStringLiteral(".trashinfo");
-constexpr qint64 mostSizes = 64 << 20; // bytes of the desktop's file of sizes; a larger one is left alone
 constexpr qsizetype temporaryEnd = 7;  // bytes that the library puts behind a note's name while it writes it
 
 bool isThere(const QString &path)
@@ -46,7 +39,7 @@ QString numberedName(const QString &name, int number)
 /// The same, cut so that the note's name fits as well.
 QString fittingName(const QString &name, int number)
 {
-    const qsizetype room = longestName - noteSuffix.size();
+    const qsizetype room = longestName - trashnames::noteSuffix.size();
     QString numbered = numberedName(name, number);
     if (paths::toBytes(numbered).size() <= room)
         return numbered;
@@ -151,20 +144,10 @@ std::optional<TrashFolder> TrashFolder::ofVolume(const QString &item, quint64 de
     return std::nullopt;
 }
 
-std::optional<TrashFolder> TrashFolder::ofItems(const QString &folder)
-{
-    if (paths::lastComponent(folder) != itemsFolder)
-        return std::nullopt;
-    const TrashFolder trash(paths::parent(folder), {});
-    const auto notes = files::attributes(paths::join(trash.path_, notesFolder));
-    if (notes && notes->kind == files::Kind::link)
-        return std::nullopt;
-    return trash;
-}
-
 bool TrashFolder::isLink() const
 {
-    const QString parts[] = {path_, paths::join(path_, itemsFolder), paths::join(path_, notesFolder)};
+    const QString parts[] = {path_, paths::join(path_, trashnames::items),
+                             paths::join(path_, trashnames::notes)};
     return std::any_of(std::begin(parts), std::end(parts), [](const QString &part) {
         const auto attributes = files::attributes(part);
         return attributes && attributes->kind == files::Kind::link;
@@ -187,7 +170,7 @@ bool TrashFolder::mightReplace(const QString &name) const
 {
     for (int number = 1;; ++number) {
         const QString numbered = numberedName(name, number);
-        if (paths::toBytes(numbered).size() > longestName - noteSuffix.size() - temporaryEnd)
+        if (paths::toBytes(numbered).size() > longestName - trashnames::noteSuffix.size() - temporaryEnd)
             return true;
         const Entry place = entry(numbered);
         if (!isThere(place.info))
@@ -197,8 +180,8 @@ bool TrashFolder::mightReplace(const QString &name) const
 
 TrashFolder::Entry TrashFolder::reserve(const QString &item) const
 {
-    makePrivateFolders(paths::join(path_, itemsFolder));
-    makePrivateFolders(paths::join(path_, notesFolder));
+    makePrivateFolders(paths::join(path_, trashnames::items));
+    makePrivateFolders(paths::join(path_, trashnames::notes));
     const QByteArray content = note(item);
     for (int number = 1;; ++number) {
         Entry place = entry(fittingName(paths::lastComponent(item), number));
@@ -228,65 +211,15 @@ void TrashFolder::release(const Entry &entry)
     unlink(paths::toBytes(entry.info).constData());
 }
 
-void TrashFolder::forget(const QStringList &names) const
-{
-    for (const QString &name : names) {
-        const Entry place = entry(name);
-        if (!isThere(place.file))
-            release(place);
-    }
-    forgetSizes();
-    const auto left = files::list(paths::join(path_, itemsFolder));
-    if (left && left->empty())
-        forgetAll();
-}
-
-/// Of the folders that are gone. The file is the desktop's, a line for each folder: its size, its note's date and its name,
-/// percent-encoded.
-void TrashFolder::forgetSizes() const
-{
-    const QString file = paths::join(path_, QStringLiteral("directorysizes"));
-    const auto attributes = files::attributes(file);
-    if (!attributes || attributes->kind != files::Kind::file)
-        return;
-    try {
-        const QByteArray content = files::readAll(file, mostSizes);
-        QByteArray kept;
-        for (const QByteArray &line : content.split('\n')) {
-            const QByteArray name = QByteArray::fromPercentEncoding(line.mid(line.lastIndexOf(' ') + 1));
-            if (!name.isEmpty() && isThere(entry(paths::fromBytes(name)).file))
-                kept += line + '\n';
-        }
-        if (kept.isEmpty())
-            unlink(paths::toBytes(file).constData());
-        else if (kept != content)
-            files::writeAtomically(file, kept);
-    } catch (const Error &) {
-        // Lines of folders that are gone are nothing but that: the desktop passes them over.
-    }
-}
-
-void TrashFolder::forgetAll() const
-{
-    const QString folder = paths::join(path_, notesFolder);
-    const Date newest = dates::fromUnix(std::time(nullptr), 0) - std::chrono::hours(1);
-    for (const QString &name : files::list(folder).value_or(std::vector<QString>())) {
-        const auto note = files::attributes(paths::join(folder, name));
-        if (name.endsWith(noteSuffix) && note && note->modified < newest
-            && !isThere(entry(name.chopped(noteSuffix.size())).file))
-            unlink(paths::toBytes(paths::join(folder, name)).constData());
-    }
-}
-
 TrashFolder::Entry TrashFolder::entry(const QString &name) const
 {
-    return {paths::join(paths::join(path_, itemsFolder), name),
-            paths::join(paths::join(path_, notesFolder), name + noteSuffix)};
+    return {paths::join(paths::join(path_, trashnames::items), name),
+            paths::join(paths::join(path_, trashnames::notes), name + trashnames::noteSuffix)};
 }
 
 std::optional<TrashFolder::Entry> TrashFolder::findAmongAll(const files::Identity &identity) const
 {
-    const auto names = files::list(paths::join(path_, itemsFolder));
+    const auto names = files::list(paths::join(path_, trashnames::items));
     for (const QString &name : names.value_or(std::vector<QString>())) {
         Entry place = entry(name);
         if (files::identity(place.file) == identity)

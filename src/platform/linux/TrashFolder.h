@@ -5,7 +5,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -33,10 +32,6 @@ public:
     /// folder may be a link.
     static std::optional<TrashFolder> ofVolume(const QString &item, quint64 device);
 
-    /// The Trash whose items lie in that folder. None when the folder is not called as it must be, or the notes' folder is a
-    /// link.
-    static std::optional<TrashFolder> ofItems(const QString &folder);
-
     /// True when the Trash or one of its two folders is a link. The folders above may be links.
     bool isLink() const;
 
@@ -55,11 +50,6 @@ public:
     /// Writes an entry's note anew where it has been left empty. Throws Error (the system's).
     void mend(const Entry &entry, const QString &item) const;
 
-    /// Takes away what is kept of items that are gone, by their names: their notes, and what the desktop has noted of their
-    /// sizes. Of a Trash without any item all notes go that are not from the last hour, since a note is written ahead of
-    /// its item. Names of items that are there are passed over.
-    void forget(const QStringList &names) const;
-
     /// Gives a reserved name back.
     static void release(const Entry &entry);
 
@@ -68,8 +58,6 @@ private:
     Entry entry(const QString &name) const;
     std::optional<Entry> findAmongAll(const files::Identity &identity) const;
     QByteArray note(const QString &item) const;
-    void forgetSizes() const;
-    void forgetAll() const;
 
     QString path_;
     QString top_; // the root of its volume, links resolved; empty for the home Trash

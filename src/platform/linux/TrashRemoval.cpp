@@ -1,26 +1,30 @@
 #include "platform/linux/TrashRemoval.h"
 
 #include "base/Error.h"
-#include "base/FileRemoval.h"
-#include "base/Files.h"
 #include "base/Paths.h"
-#include "platform/linux/TrashFolder.h"
+#include "platform/linux/OpenTrash.h"
 
 #include <cerrno>
+#include <ctime>
 #include <optional>
 
 namespace {
 
-bool isInside(const QString &item, const QString &folder)
+/// By the clock that dates files, which goes in steps: the exact time may be ahead of a file that is written later.
+Date fileTime()
 {
-    return item != folder && paths::standardized(item) == item && paths::isAtOrBelow(item, folder);
+    timespec now = {};
+    clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    return dates::fromUnix(now.tv_sec, now.tv_nsec);
 }
 
-/// Looked at before each item, since a large Trash takes its time.
-bool isLink(const QString &folder)
+/// Opens the Trash anew for each item: a large one takes its time, and it may have become a link meanwhile.
+void removeItem(const QString &item, const QString &trash, Date begin)
 {
-    const auto attributes = files::attributes(folder);
-    return attributes && attributes->kind == files::Kind::link;
+    const auto relative = paths::below(item, trash);
+    if (!relative)
+        throw errors::fromErrno(EINVAL);
+    OpenTrash(trash).remove(*relative, begin);
 }
 
 } // namespace
@@ -29,22 +33,21 @@ namespace trashremoval {
 
 void remove(const QStringList &items, const QString &trash)
 {
+    const Date begin = fileTime();
     std::optional<Error> first;
-    QStringList names; // of the items directly in the Trash
     for (const QString &item : items) {
         try {
-            if (!isInside(item, trash) || isLink(trash))
-                throw errors::fromErrno(EINVAL);
-            if (paths::parent(item) == trash)
-                names.append(paths::lastComponent(item));
-            files::removeTree(item);
+            removeItem(item, trash, begin);
         } catch (const Error &error) {
             if (!first)
                 first = error;
         }
     }
-    if (const auto folder = names.isEmpty() ? std::nullopt : TrashFolder::ofItems(trash))
-        folder->forget(names);
+    try {
+        OpenTrash(trash).forgetWhatIsGone();
+    } catch (const Error &) {
+        // What can't be opened is told by the items.
+    }
     if (first)
         throw Error(*first);
 }
