@@ -30,6 +30,8 @@ bool becomeOrdinary()
         checks();
     } catch (const std::exception &error) {
         ADD_FAILURE() << error.what();
+    } catch (...) { // else the child would go on with the tests of its parent
+        ADD_FAILURE() << "an error that nobody has caught";
     }
     std::fflush(nullptr);
     _exit(testing::Test::HasFailure() ? 1 : 0);
