@@ -111,6 +111,17 @@ protected:
         settle();
         return true;
     }
+    /// The second click of two that the system takes for a double click.
+    void clickASecondTime(QPoint where)
+    {
+        for (const auto type :
+             {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            const bool isUp = type == QEvent::MouseButtonRelease;
+            QMouseEvent event(type, where, window_->mapToGlobal(where), Qt::LeftButton,
+                              isUp ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(window_.get(), &event);
+        }
+    }
     bool clickOn(const QString &name) { return click(named(name)); }
     bool clickText(const QString &text) { return click(shown(text)); }
     bool doubleClickText(const QString &text) { return click(shown(text), true); }

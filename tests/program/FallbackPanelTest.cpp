@@ -1,7 +1,10 @@
+#include "base/Files.h"
 #include "FallbackPanelFixture.h"
 #include "program/Popups.h"
 
 #include <QColor>
+
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -145,6 +148,92 @@ TEST_F(FallbackPanelTest, goesIntoAFolderByTwoClicks)
     ASSERT_TRUE(doubleClickText(u"inner"_s));
     EXPECT_TRUE(shows(u"deep"_s));
     EXPECT_TRUE(shows(u"~/start/inner"_s));
+}
+
+TEST_F(FallbackPanelTest, opensARowByTwoClicksAlsoApart)
+{
+    folder(u"start/b/deep"_s);
+    chooseFolder({u"Choose"_s, at(u"start"_s)});
+    QQuickItem *row = shown(u"b"_s);
+    ASSERT_TRUE(click(row));
+    clickASecondTime(row->mapToScene({row->width() / 2, row->height() / 2}).toPoint());
+    settle();
+    EXPECT_TRUE(shows(u"deep"_s));
+}
+
+TEST_F(FallbackPanelTest, opensNoRowThatCameUnderThePointerBetweenTwoClicks)
+{
+    folder(u"start/b/deep"_s);
+    home_.temp.link(u"home/start/a"_s, u"b"_s);
+    panel_->chooseFolder({u"Choose"_s, at(u"start"_s)}, taker());
+    home_.workQueue.run();
+    home_.mainQueue.step(); // where links lead is told later
+    QQuickTest::qWaitForPolish(window_.get());
+    QQuickItem *first = shown(u"b"_s);
+    ASSERT_NE(first, nullptr);
+    const QPoint there = first->mapToScene({first->width() / 2, first->height() / 2}).toPoint();
+    QTest::mouseClick(window_.get(), Qt::LeftButton, {}, there);
+    settle();
+    ASSERT_EQ(shown(u"a"_s)->mapToScene({0, 0}).y(), there.y() - first->height() / 2);
+    clickASecondTime(there);
+    settle();
+    EXPECT_FALSE(shows(u"deep"_s));
+    EXPECT_TRUE(shows(u"~/start/a"_s));
+}
+
+TEST_F(FallbackPanelTest, keepsTheRowThatIsSelectedAsOthersComeBetween)
+{
+    for (const QString &name : {u"start/a"_s, u"start/c"_s, u"start/e"_s})
+        folder(name);
+    home_.temp.link(u"home/start/b"_s, u"a"_s);
+    home_.temp.link(u"home/start/d"_s, u"a"_s);
+    panel_->chooseFolder({u"Choose"_s, at(u"start"_s)}, taker());
+    home_.workQueue.run();
+    home_.mainQueue.step(); // where links lead is told later
+    QQuickTest::qWaitForPolish(window_.get());
+    QTest::keyClick(window_.get(), Qt::Key_Down);
+    QTest::keyClick(window_.get(), Qt::Key_Down);
+    ASSERT_TRUE(shows(u"~/start/c"_s));
+    settle();
+    EXPECT_TRUE(shows(u"d"_s));
+    EXPECT_TRUE(shows(u"~/start/c"_s));
+    press(Qt::Key_Down);
+    EXPECT_TRUE(shows(u"~/start/d"_s));
+}
+
+TEST_F(FallbackPanelTest, keepsTheNameThatIsTypedAsRowsComeBetween)
+{
+    file(u"start/b.csv"_s);
+    home_.temp.link(u"home/start/a.csv"_s, u"b.csv"_s);
+    panel_->chooseSavePath({u"Export"_s, u"new.csv"_s, at(u"start"_s)}, taker());
+    home_.workQueue.run();
+    home_.mainQueue.step(); // where links lead is told later
+    QQuickTest::qWaitForPolish(window_.get());
+    QQuickItem *row = shown(u"b.csv"_s);
+    ASSERT_NE(row, nullptr);
+    QTest::mouseClick(window_.get(), Qt::LeftButton, {},
+                      row->mapToScene({row->width() / 2, row->height() / 2}).toPoint());
+    ASSERT_EQ(field(), u"b.csv"_s);
+    named(u"panelName"_s)->forceActiveFocus();
+    QTest::keyClick(window_.get(), Qt::Key_Home);
+    QTest::keyClick(window_.get(), 'x');
+    ASSERT_EQ(field(), u"xb.csv"_s);
+    settle();
+    EXPECT_TRUE(shows(u"a.csv"_s));
+    EXPECT_EQ(field(), u"xb.csv"_s);
+}
+
+TEST_F(FallbackPanelTest, saysThatAFolderCouldNotBeReadToItsEnd)
+{
+    for (const QString &name : {u"start/a"_s, u"start/b"_s})
+        folder(name);
+    int steps = 0;
+    files::injectFaults([&steps](files::Operation operation, const QString &path) {
+        return operation == files::Operation::next && path.endsWith(u"start") && ++steps > 2 ? EIO : 0;
+    });
+    chooseFolder({u"Choose"_s, at(u"start"_s)});
+    files::injectFaults({});
+    EXPECT_TRUE(shows(u"Not all of this folder could be read"_s));
 }
 
 TEST_F(FallbackPanelTest, walksByKeys)

@@ -209,6 +209,33 @@ TEST_F(FilePanelViewTest, saysThatAFolderCantBeOpened)
     EXPECT_TRUE(view_->canAccept());
 }
 
+TEST_F(FilePanelViewTest, saysThatAFolderCouldNotBeReadToItsEnd)
+{
+    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
+        folder(u"start/"_s + name);
+    int steps = 0;
+    files::injectFaults([&steps](files::Operation operation, const QString &path) {
+        return operation == files::Operation::next && path.endsWith(u"start") && ++steps > 3 ? EIO : 0;
+    });
+    chooseFolder(u"start"_s);
+    EXPECT_GT(names().size(), 0);
+    EXPECT_EQ(view_->cutShortText(), u"Not all of this folder could be read"_s);
+    EXPECT_TRUE(view_->canAccept());
+    view_->goUp();
+    settle();
+    EXPECT_EQ(view_->cutShortText(), QString());
+}
+
+TEST_F(FilePanelViewTest, saysThatAFolderCantBeOpenedWhereNothingOfItIsRead)
+{
+    folder(u"start/a"_s);
+    files::injectFaults([](files::Operation operation, const QString &path) {
+        return operation == files::Operation::next && path.endsWith(u"start") ? EIO : 0;
+    });
+    chooseFolder(u"start"_s);
+    EXPECT_EQ(view_->emptyText(), u"This folder can’t be opened"_s);
+}
+
 TEST_F(FilePanelViewTest, saysThatAFolderIsGone)
 {
     chooseFolder(u"nowhere"_s);
@@ -295,38 +322,6 @@ TEST_F(FilePanelViewTest, goesUpAndFindsRowsByKey)
     EXPECT_EQ(view_->folder(), platform_.home);
     EXPECT_TRUE(view_->takeKey(Qt::Key_Up, Qt::AltModifier | Qt::KeypadModifier, {}));
     EXPECT_EQ(view_->folder(), paths::parent(platform_.home));
-}
-
-TEST_F(FilePanelViewTest, makesAFolderAndGoesIntoIt)
-{
-    chooseFolder({});
-    view_->askForFolderName();
-    EXPECT_TRUE(view_->asksForFolderName());
-    view_->makeFolder(u"new one"_s);
-    EXPECT_FALSE(view_->asksForFolderName());
-    settle();
-    EXPECT_EQ(view_->folder(), at(u"new one"_s));
-    EXPECT_TRUE(files::isDirectory(at(u"new one"_s)));
-}
-
-TEST_F(FilePanelViewTest, saysWhyAFolderIsNotMade)
-{
-    folder(u"taken"_s);
-    chooseFolder({});
-    view_->makeFolder(u"taken"_s);
-    settle();
-    EXPECT_EQ(view_->failureText(), u"The folder can’t be made: File exists"_s);
-    EXPECT_EQ(view_->folder(), platform_.home);
-}
-
-TEST_F(FilePanelViewTest, makesNoFolderOutsideTheOneOnView)
-{
-    folder(u"start"_s);
-    chooseFolder(u"start"_s);
-    for (const QString &name : {u""_s, u"."_s, u".."_s, u"../x"_s, u"/tmp/x"_s, u"a/b"_s})
-        view_->makeFolder(name);
-    EXPECT_EQ(platform_.workQueue.waiting(), 0U);
-    EXPECT_EQ(view_->folder(), at(u"start"_s));
 }
 
 TEST_F(FilePanelViewTest, answersOnceAndNothingWhenItIsCancelled)

@@ -141,3 +141,121 @@ TEST_F(SavePanelViewTest, dropsALookThatIsOvertaken)
     EXPECT_EQ(answers_, 0) << "The panel shows another folder by now.";
     EXPECT_EQ(view_->folder(), at(u"inner"_s));
 }
+
+TEST_F(SavePanelViewTest, asksAheadOfReplacingALinkThatLeadsNowhere)
+{
+    platform_.temp.link(u"home/a.csv"_s, u"missing"_s);
+    save(u"a.csv"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(answers_, 0);
+    EXPECT_TRUE(view_->replaceQuestion()->isUp());
+}
+
+TEST_F(SavePanelViewTest, saysAfterAWhileThatTheDiskHasYetToAnswer)
+{
+    save(u"a.csv"_s);
+    view_->accept();
+    platform_.mainQueue.advance(0.2);
+    EXPECT_EQ(view_->resultText(), u"~/a.csv"_s);
+    platform_.mainQueue.advance(0.2);
+    EXPECT_EQ(view_->resultText(), u"Waiting for the disk to answer…"_s);
+    view_->setFileName(u"b.csv"_s);
+    EXPECT_EQ(view_->resultText(), u"~/b.csv"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(path_, at(u"b.csv"_s));
+}
+
+TEST_F(SavePanelViewTest, asksTheDiskOnceHoweverOftenItIsToldToSave)
+{
+    save(u"a.csv"_s);
+    view_->accept();
+    view_->accept();
+    EXPECT_EQ(platform_.workQueue.waiting(), 1U);
+    settle();
+    EXPECT_EQ(answers_, 1);
+}
+
+TEST_F(SavePanelViewTest, savesAlsoWhereHiddenFilesAreSwitchedMeanwhile)
+{
+    save(u"a.csv"_s);
+    view_->accept();
+    view_->setShowsHidden(true);
+    settle();
+    EXPECT_EQ(path_, at(u"a.csv"_s));
+}
+
+TEST_F(SavePanelViewTest, savesNothingUnderANameThatIsEditedMeanwhile)
+{
+    save(u"a.csv"_s);
+    view_->accept();
+    view_->setFileName(u"ab.csv"_s);
+    settle();
+    EXPECT_EQ(answers_, 0);
+    view_->accept();
+    settle();
+    EXPECT_EQ(path_, at(u"ab.csv"_s));
+}
+
+TEST_F(SavePanelViewTest, putsNoQuestionOverTheOneForTheNameOfAFolder)
+{
+    file(u"a.csv"_s);
+    save(u"a.csv"_s);
+    view_->accept();
+    view_->askForFolderName();
+    settle();
+    EXPECT_FALSE(view_->replaceQuestion()->isUp());
+    EXPECT_EQ(answers_, 0);
+}
+
+TEST_F(SavePanelViewTest, takesANameThatEndsLikeAFolderForOne)
+{
+    folder(u"inner"_s);
+    file(u"old.csv"_s);
+    for (const QString &name : {u"missing"_s, u"old.csv"_s}) {
+        for (const QString &ending : {u"/"_s, u"//"_s, u"/."_s}) {
+            save(u"a.csv"_s);
+            view_->setFileName(name + ending);
+            view_->accept();
+            settle();
+            EXPECT_EQ(answers_, 0);
+            EXPECT_FALSE(view_->replaceQuestion()->isUp());
+            EXPECT_EQ(view_->failureText(), u"There is no folder “%1”"_s.arg(at(name)));
+        }
+    }
+    save(u"a.csv"_s);
+    view_->setFileName(u"inner/"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(view_->folder(), at(u"inner"_s));
+}
+
+TEST_F(SavePanelViewTest, takesNoNameThatTheSystemWouldCutShort)
+{
+    save(u"a.csv"_s);
+    view_->setFileName(u"a.csv"_s + QChar(0) + u".txt"_s);
+    EXPECT_FALSE(view_->canAccept());
+}
+
+TEST_F(SavePanelViewTest, savesAsTheFileThatIsOpenedWhateverWasTypedBefore)
+{
+    file(u"old.csv"_s);
+    save(u"a.csv"_s);
+    view_->select(row(u"old.csv"_s));
+    view_->setFileName(u"b.csv"_s);
+    view_->openRow(row(u"old.csv"_s));
+    EXPECT_EQ(view_->fileName(), u"old.csv"_s);
+    settle();
+    EXPECT_EQ(view_->replaceQuestion()->text(), u"“old.csv” already exists."_s);
+}
+
+TEST_F(SavePanelViewTest, takesTheNameOfAFileThatIsPressedAnew)
+{
+    file(u"old.csv"_s);
+    save(u"a.csv"_s);
+    view_->press(row(u"old.csv"_s));
+    view_->setFileName(u"b.csv"_s);
+    view_->press(row(u"old.csv"_s));
+    EXPECT_EQ(view_->fileName(), u"old.csv"_s);
+}

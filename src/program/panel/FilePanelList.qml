@@ -14,8 +14,11 @@ FocusScope {
     RowList {
         id: list
         objectName: "panelList"
-        anchors.fill: parent
+        anchors.left: parent.left
         anchors.leftMargin: Theme.unit * 2
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: note.top
         focus: true
         beginsByKey: false // a row that is current is chosen, and until then it is the folder on view
         model: area.view.rows
@@ -25,13 +28,30 @@ FocusScope {
         Accessible.name: area.view.texts.entries
         delegate: FilePanelRow {
             id: entry
-            onDoubleClicked: area.view.openRow(entry.index)
+            onPressed: area.view.press(entry.index)
+            onDoubleClicked: area.view.openPressedTwice(entry.index)
         }
+    }
+    BodyText {
+        id: note
+        objectName: "panelNote"
+        anchors.left: list.left
+        anchors.leftMargin: Theme.unit * 2
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.unit * 5
+        anchors.bottom: parent.bottom
+        height: visible ? Theme.rowHeight : 0
+        visible: text.length > 0
+        text: area.view.cutShortText
+        color: Theme.amber
     }
     Connections {
         target: area.view
         function onListed() {
             list.goToTop();
+        }
+        function onKept(row) {
+            list.currentIndex = row;
         }
         function onFound(row) {
             list.goTo(row);

@@ -13,12 +13,6 @@ namespace {
 constexpr double shortWait = 0.3;   // seconds; what comes within needs no word
 constexpr double typingPause = 1.0; // seconds that end what is typed in the list
 
-bool isNameOfOneFolder(const QString &name)
-{
-    return !name.isEmpty() && !name.contains(u'/') && name != QStringLiteral(".")
-           && name != QStringLiteral("..");
-}
-
 QString symbolOf(const folderlisting::Entry &entry)
 {
     FileItem item;
@@ -33,48 +27,17 @@ FilePanelView::FilePanelView(const Platform &platform, Request request, Workspac
     : platform_(platform)
     , request_(std::move(request))
     , chosen_(std::move(chosen))
-    , places_({{"name", [](const panelplaces::Place &place) { return place.name; }},
-               {"symbol", [](const panelplaces::Place &place) { return place.symbol; }},
-               {"isHere", [](const panelplaces::Place &place) { return place.isHere; }},
-               {"hereText",
-                [](const panelplaces::Place &place) {
-                    return place.isHere ? QStringLiteral("On view") : QString();
-                }}})
+    , places_(platform)
     , rows_({{"name", [](const auto &entry) { return paths::inOneLine(entry.name); }},
              {"symbol", [](const auto &entry) { return symbolOf(entry); }},
              {"isFolder", [](const auto &entry) { return entry.isFolder; }}})
     , wish_{{}, request_.showsHidden, isForSaving()}
     , replaceQuestion_([this] { finish(replacedPath_); })
+    , deed_(platform, [this] { emit changed(); })
 {
-    places_.reset(panelplaces::usual(*platform_.locations));
     offerName(request_.suggestedName.value_or(QString()));
     open(request_.start.isEmpty() ? platform_.home : request_.start);
-    leaveOutMissingPlaces();
-}
-
-void FilePanelView::leaveOutMissingPlaces()
-{
-    QStringList asked;
-    for (const panelplaces::Place &place : places_.records())
-        asked << place.path;
-    // Places may lie on another disk, which may never answer: until it does they are shown.
-    platform_.workQueue.post(
-        WorkPriority::userInitiated,
-        [asked, token = lookForPlaces_.ask(), self = QPointer(this), &main = platform_.mainQueue] {
-            for (const QString &path : asked) {
-                if (!files::exists(path))
-                    token.answer(main, self, [path](FilePanelView &view) { view.leaveOut(path); });
-            }
-        });
-}
-
-void FilePanelView::leaveOut(const QString &missing)
-{
-    std::vector<panelplaces::Place> left = places_.records();
-    std::erase_if(left, [&](const panelplaces::Place &place) { return place.path == missing; });
-    places_.update(std::move(left), [](const panelplaces::Place &one, const panelplaces::Place &other) {
-        return one.path == other.path;
-    });
+    places_.leaveOutMissing();
 }
 
 QString FilePanelView::title() const
@@ -123,24 +86,38 @@ QString FilePanelView::emptyText() const
                          : QStringLiteral("No folders in this folder");
 }
 
+QString FilePanelView::cutShortText() const
+{
+    return isCutShort_ ? QStringLiteral("Not all of this folder could be read") : QString();
+}
+
 void FilePanelView::setFileName(const QString &name)
 {
-    if (fileName_ == name)
+    rename([this, name] { name_.type(name); });
+}
+
+void FilePanelView::offerName(const QString &name)
+{
+    rename([this, name] { name_.offer(name); });
+}
+
+void FilePanelView::rename(const std::function<void()> &change)
+{
+    const QString before = name_.text();
+    change();
+    if (name_.text() == before)
         return;
-    fileName_ = name;
+    if (deed_.kind() == PanelDeed::Kind::save)
+        deed_.drop(); // it looks after the name of before
     failureText_.clear();
     emit fileNameChanged();
     emit changed();
 }
 
-int FilePanelView::stemLength() const
-{
-    const QString extension = paths::extension(fileName_);
-    return static_cast<int>(extension.isEmpty() ? fileName_.size() : fileName_.size() - extension.size() - 1);
-}
-
 QString FilePanelView::resultText() const
 {
+    if (deed_.isSlow())
+        return QStringLiteral("Waiting for the disk to answer…");
     return paths::withTilde(paths::inOneLine(result()), paths::inOneLine(platform_.home));
 }
 
@@ -160,8 +137,8 @@ bool FilePanelView::canAccept() const
 
 void FilePanelView::openPlace(int row)
 {
-    if (row >= 0 && row < places_.rowCount())
-        open(places_.records()[static_cast<size_t>(row)].path);
+    if (const QString path = places_.path(row); !path.isEmpty())
+        open(path);
 }
 
 void FilePanelView::openCrumb(int index)
@@ -179,13 +156,20 @@ void FilePanelView::goUp()
 
 void FilePanelView::select(int row)
 {
+    if (isTakingRows_ || row == selected_)
+        return;
     selected_ = row < rows_.rowCount() ? row : -1;
-    if (isForSaving() && selected_ >= 0) {
-        const folderlisting::Entry &entry = rows_.records()[static_cast<size_t>(selected_)];
-        if (!entry.isFolder)
-            offerName(entry.name);
-    }
+    offerSelected();
     emit changed();
+}
+
+void FilePanelView::offerSelected()
+{
+    if (!isForSaving() || selected_ < 0)
+        return;
+    const folderlisting::Entry entry = rows_.records()[static_cast<size_t>(selected_)];
+    if (!entry.isFolder)
+        offerName(entry.name);
 }
 
 void FilePanelView::openRow(int row)
@@ -193,10 +177,27 @@ void FilePanelView::openRow(int row)
     if (row < 0 || row >= rows_.rowCount())
         return;
     const folderlisting::Entry entry = rows_.records()[static_cast<size_t>(row)];
-    if (entry.isFolder)
+    if (entry.isFolder) {
         open(paths::join(folder_, entry.name));
-    else
+    } else {
+        offerName(entry.name); // another may have been typed since it was selected
         accept();
+    }
+}
+
+void FilePanelView::press(int row)
+{
+    const bool isThere = row >= 0 && row < rows_.rowCount();
+    pressedBefore_ = std::exchange(
+        pressed_, isThere ? paths::join(folder_, rows_.records()[static_cast<size_t>(row)].name) : QString());
+    select(row);
+    offerSelected();
+}
+
+void FilePanelView::openPressedTwice(int row)
+{
+    if (pressed_ == pressedBefore_)
+        openRow(row);
 }
 
 int FilePanelView::find(const QString &typed)
@@ -228,7 +229,7 @@ bool FilePanelView::takeKey(int key, int modifiers, const QString &text)
 
 void FilePanelView::accept()
 {
-    if (!canAccept())
+    if (!canAccept() || deed_.kind() == PanelDeed::Kind::save)
         return;
     if (isForSaving())
         save();
@@ -244,6 +245,7 @@ void FilePanelView::cancel()
 void FilePanelView::askForFolderName()
 {
     asksForFolderName_ = canMakeFolder();
+    deed_.drop(); // its answer could ask another question over this one
     emit changed();
 }
 
@@ -256,25 +258,31 @@ void FilePanelView::cancelFolderName()
 void FilePanelView::makeFolder(const QString &name)
 {
     cancelFolderName();
-    if (!isNameOfOneFolder(name))
+    if (!panelquestions::canNameFolder(name)) {
+        if (!name.isEmpty())
+            fail(QStringLiteral("No folder can have the name “%1”").arg(paths::inOneLine(name)));
         return;
+    }
     const QString path = paths::join(folder_, name);
-    platform_.workQueue.post(WorkPriority::userInitiated, [path, token = deed_.ask(), self = QPointer(this),
-                                                           &main = platform_.mainQueue] {
-        token.answer(main, self, [path, failure = panelquestions::make(path)](FilePanelView &view) {
+    failureText_.clear();
+    deed_.begin(PanelDeed::Kind::makeFolder, [this, path]() -> PanelDeed::Outcome {
+        return [this, path, failure = panelquestions::make(path)] {
             if (failure.isEmpty())
-                view.open(path);
+                open(path);
             else
-                view.fail(QStringLiteral("The folder can’t be made: %1").arg(failure));
-        });
+                fail(QStringLiteral("The folder can’t be made: %1").arg(failure));
+        };
     });
 }
 
 void FilePanelView::open(const QString &folder)
 {
     folder_ = paths::standardized(folder);
+    selected_ = -1;
     rows_.reset({});
-    markPlaces();
+    failureText_.clear();
+    deed_.drop(); // it was about another folder
+    places_.mark(folder_);
     list();
     emit folderChanged();
 }
@@ -282,16 +290,14 @@ void FilePanelView::open(const QString &folder)
 void FilePanelView::list()
 {
     wish_.folder = folder_;
-    isListed_ = hasFailed_ = isSlow_ = false;
+    isListed_ = hasFailed_ = isCutShort_ = isSlow_ = false;
     selected_ = -1;
-    failureText_.clear();
-    deed_.drop(); // it was about another folder
     const LatestQuestion::Token token = listing_.ask();
     platform_.workQueue.post(WorkPriority::userInitiated, [wish = wish_, token, self = QPointer(this),
                                                            &main = platform_.mainQueue] {
-        const auto answer = [&](std::optional<std::vector<folderlisting::Entry>> entries) {
+        const auto answer = [&](std::optional<folderlisting::Listing> listing) {
             token.answer(main, self,
-                         [entries = std::move(entries)](FilePanelView &view) { view.take(entries); });
+                         [listing = std::move(listing)](FilePanelView &view) { view.take(listing); });
         };
         answer(folderlisting::list(wish, answer, [&] { return token.isUnwanted(); }));
     });
@@ -304,16 +310,19 @@ void FilePanelView::list()
     emit changed();
 }
 
-void FilePanelView::take(const std::optional<std::vector<folderlisting::Entry>> &entries)
+void FilePanelView::take(const std::optional<folderlisting::Listing> &listing)
 {
     const bool isFirst = !isListed_;
-    isListed_ = entries.has_value();
+    isListed_ = listing.has_value();
     hasFailed_ = !isListed_;
+    isCutShort_ = listing && listing->isCutShort;
     isSlow_ = false;
-    if (entries)
-        takeRows(*entries);
+    if (listing)
+        takeRows(listing->entries);
     if (isFirst)
         emit listed();
+    else
+        emit kept(selected_);
     emit changed();
 }
 
@@ -322,51 +331,37 @@ void FilePanelView::takeRows(const std::vector<folderlisting::Entry> &entries)
     std::optional<folderlisting::Entry> held;
     if (selected_ >= 0)
         held = rows_.records()[static_cast<size_t>(selected_)];
+    isTakingRows_ = true;
     rows_.update(entries, std::equal_to<>());
+    isTakingRows_ = false;
     const auto now = held ? std::find(entries.begin(), entries.end(), *held) : entries.end();
     selected_ = now == entries.end() ? -1 : static_cast<int>(now - entries.begin());
 }
 
-void FilePanelView::markPlaces()
-{
-    for (int row = 0; row < places_.rowCount(); ++row) {
-        panelplaces::Place place = places_.records()[static_cast<size_t>(row)];
-        const bool isHere = place.path == folder_;
-        if (std::exchange(place.isHere, isHere) != isHere)
-            places_.replace(row, place);
-    }
-}
-
-void FilePanelView::offerName(const QString &name)
-{
-    offeredName_ = name;
-    setFileName(paths::inOneLine(name));
-}
-
 QString FilePanelView::savePath() const
 {
-    const bool isTyped = fileName_ != paths::inOneLine(offeredName_);
-    const QString name = isTyped ? fileName_ : offeredName_;
-    if (name.isEmpty())
-        return {};
-    const QString path = isTyped ? paths::expandTilde(name, platform_.home) : name;
-    return paths::standardized(path.startsWith(u'/') ? path : paths::join(folder_, path));
+    return name_.pathFrom(folder_, platform_.home);
 }
 
 void FilePanelView::save()
 {
     const QString path = savePath();
-    platform_.workQueue.post(WorkPriority::userInitiated, [path, token = deed_.ask(), self = QPointer(this),
-                                                           &main = platform_.mainQueue] {
-        token.answer(main, self, [path, found = panelquestions::lookAt(path)](FilePanelView &view) {
-            view.takeLook(path, found);
-        });
-    });
+    failureText_.clear();
+    deed_.begin(PanelDeed::Kind::save,
+                [this, path, meansFolder = name_.meansFolder()]() -> PanelDeed::Outcome {
+                    return [this, path, meansFolder, found = panelquestions::lookAt(path)] {
+                        takeLook(path, meansFolder, found);
+                    };
+                });
 }
 
-void FilePanelView::takeLook(const QString &path, panelquestions::Found found)
+void FilePanelView::takeLook(const QString &path, bool meansFolder, panelquestions::Found found)
 {
     using panelquestions::Found;
+    if (meansFolder && found != Found::folder) {
+        fail(QStringLiteral("There is no folder “%1”").arg(paths::inOneLine(path)));
+        return;
+    }
     switch (found) {
     case Found::folder: // nothing can be saved as a folder, but in it
         offerName(*request_.suggestedName);
@@ -394,6 +389,7 @@ void FilePanelView::fail(const QString &text)
 
 void FilePanelView::finish(const std::optional<QString> &path)
 {
+    deed_.drop();
     if (const Workspace::PathChosen chosen = std::exchange(chosen_, nullptr))
         chosen(path);
 }

@@ -6,11 +6,14 @@
 #include "platform/Platform.h"
 #include "program/panel/FilePanelTexts.h"
 #include "program/panel/FolderListing.h"
-#include "program/panel/PanelPlaces.h"
+#include "program/panel/PanelDeed.h"
 #include "program/panel/PanelQuestions.h"
+#include "program/panel/PlaceRows.h"
+#include "program/panel/SaveName.h"
 
 #include <QObject>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -33,6 +36,7 @@ class FilePanelView final : public QObject
     Q_PROPERTY(bool isSlow READ isSlow NOTIFY changed)
     Q_PROPERTY(QString emptySymbol READ emptySymbol NOTIFY changed)
     Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
+    Q_PROPERTY(QString cutShortText READ cutShortText NOTIFY changed)
     Q_PROPERTY(QString fileName READ fileName WRITE setFileName NOTIFY fileNameChanged)
     Q_PROPERTY(int stemLength READ stemLength NOTIFY fileNameChanged)
     Q_PROPERTY(QString resultText READ resultText NOTIFY changed)
@@ -65,7 +69,7 @@ public:
     bool isForSaving() const { return request_.suggestedName.has_value(); }
     QString acceptLabel() const;
     /// Rows: name, symbol, isHere (the folder on view), hereText.
-    QAbstractItemModel *places() { return &places_; }
+    QAbstractItemModel *places() { return &places_.model(); }
     /// Rows: name, symbol, isFolder.
     QAbstractItemModel *rows() { return &rows_; }
     const QString &folder() const { return folder_; }
@@ -80,10 +84,11 @@ public:
     } ///< the folder has not answered for so long that this should be said
     QString emptySymbol() const;
     QString emptyText() const; ///< what stands in the place of rows; empty where there are some, or none yet
-    const QString &fileName() const { return fileName_; }
+    QString cutShortText() const; ///< stands below rows that are not all; else empty
+    const QString &fileName() const { return name_.text(); }
     void setFileName(const QString &name);
-    int stemLength() const;     ///< how much of the name is ahead of its extension
-    QString resultText() const; ///< the path that would be given
+    int stemLength() const { return name_.stemLength(); }
+    QString resultText() const; ///< the path that would be given, or that the disk has yet to answer about it
     const QString &failureText() const { return failureText_; }
     bool canAccept() const;
     bool canMakeFolder() const { return isListed_; }
@@ -97,6 +102,10 @@ public:
     Q_INVOKABLE void select(int row);
     /// Goes into a folder; a file is taken for what is to be saved.
     Q_INVOKABLE void openRow(int row);
+    /// The row was pressed with the pointer, which selects it, even where it has been.
+    Q_INVOKABLE void press(int row);
+    /// Two clicks open a row, unless another one came under the pointer between them.
+    Q_INVOKABLE void openPressedTwice(int row);
     /// What is typed goes on with what was typed just before. Gives the row whose name begins so, else -1.
     int find(const QString &typed);
     /// A key that was pressed over the rows and is none of a list's own: Backspace and Alt with Up go to the folder above, a
@@ -115,45 +124,48 @@ signals:
     void fileNameChanged();
     /// Another folder's rows stand there now.
     void listed();
+    /// More rows came between those that stood there; what is selected is in that row now.
+    void kept(int row);
     /// What was typed leads to that row.
     void found(int row);
 
 private:
-    void leaveOutMissingPlaces();
-    void leaveOut(const QString &missing);
     void open(const QString &folder);
     void list();
-    void take(const std::optional<std::vector<folderlisting::Entry>> &entries);
+    void take(const std::optional<folderlisting::Listing> &listing);
     void takeRows(const std::vector<folderlisting::Entry> &entries);
-    void markPlaces();
     QString result() const;
     void offerName(const QString &name);
+    void offerSelected();
+    void rename(const std::function<void()> &change);
     QString savePath() const;
     void save();
-    void takeLook(const QString &path, panelquestions::Found found);
+    void takeLook(const QString &path, bool meansFolder, panelquestions::Found found);
     void fail(const QString &text);
     void finish(const std::optional<QString> &path);
 
     const Platform &platform_;
     const Request request_;
     Workspace::PathChosen chosen_;
-    RecordListModel<panelplaces::Place> places_;
+    PlaceRows places_;
     RecordListModel<folderlisting::Entry> rows_;
     QString folder_;
     folderlisting::Wish wish_;
     bool isListed_ = false; // its rows are there
     bool hasFailed_ = false;
+    bool isCutShort_ = false;
     bool isSlow_ = false;
+    bool isTakingRows_ = false; // what the list makes of that is not the user's choice
     int selected_ = -1;
-    QString offeredName_; // in any bytes; what stands in the field as long as nobody types
-    QString fileName_;
+    QString pressed_; // path of the row that was pressed last
+    QString pressedBefore_;
+    SaveName name_;
     QString failureText_;
     bool asksForFolderName_ = false;
     QString typed_;
     double lastTyped_ = 0; // steady seconds
     QString replacedPath_;
     Confirmation replaceQuestion_;
-    LatestQuestion lookForPlaces_;
     LatestQuestion listing_;
-    LatestQuestion deed_; // the look before a file is saved, or a folder that is being made
+    PanelDeed deed_;
 };

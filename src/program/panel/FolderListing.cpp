@@ -11,11 +11,12 @@
 namespace {
 
 using folderlisting::Entry;
+using folderlisting::Listing;
 
 /// What was found in one reading of a folder.
 struct Found
 {
-    std::vector<Entry> entries;
+    Listing listing;
     std::vector<QString> links;
 };
 
@@ -41,8 +42,12 @@ std::optional<Found> read(const folderlisting::Wish &wish, const std::function<b
         if (kind == files::Kind::link)
             found.links.push_back(paths::fromBytes(reader.name()));
         else if (kind == files::Kind::directory || wish.withFiles)
-            found.entries.push_back({paths::fromBytes(reader.name()), kind == files::Kind::directory});
+            found.listing.entries.push_back(
+                {paths::fromBytes(reader.name()), kind == files::Kind::directory});
     }
+    found.listing.isCutShort = reader.hasFailed();
+    if (reader.hasFailed() && found.listing.entries.empty() && found.links.empty())
+        return std::nullopt;
     return found;
 }
 
@@ -68,26 +73,26 @@ void sort(std::vector<Entry> &entries)
 
 namespace folderlisting {
 
-std::optional<std::vector<Entry>> list(const Wish &wish,
-                                       const std::function<void(std::vector<Entry>)> &withoutLinks,
-                                       const std::function<bool()> &isUnwanted)
+std::optional<Listing> list(const Wish &wish, const std::function<void(Listing)> &withoutLinks,
+                            const std::function<bool()> &isUnwanted)
 {
     std::optional<Found> found = read(wish, isUnwanted);
     if (!found)
         return std::nullopt;
-    sort(found->entries);
+    Listing &listing = found->listing;
+    sort(listing.entries);
     if (found->links.empty())
-        return found->entries;
-    withoutLinks(found->entries);
+        return listing;
+    withoutLinks(listing);
     for (const QString &name : found->links) {
         if (isUnwanted())
-            return std::vector<Entry>();
+            return Listing();
         const bool isFolder = files::isDirectory(paths::join(wish.folder, name));
         if (isFolder || wish.withFiles)
-            found->entries.push_back({name, isFolder});
+            listing.entries.push_back({name, isFolder});
     }
-    sort(found->entries);
-    return found->entries;
+    sort(listing.entries);
+    return listing;
 }
 
 } // namespace folderlisting

@@ -17,6 +17,14 @@ struct Entry
     bool operator==(const Entry &) const = default;
 };
 
+struct Listing
+{
+    std::vector<Entry> entries;
+    bool isCutShort = false; ///< the disk failed before all were read
+
+    bool operator==(const Listing &) const = default;
+};
+
 struct Wish
 {
     QString folder;
@@ -25,10 +33,9 @@ struct Wish
 };
 
 /// The entries wished for, folders ahead of files, each in the order of the current locale; none where the folder can't be
-/// listed. Where a link leads is asked of another disk, which may never answer, so a folder with links tells what else is
+/// listed, or not one of them read. Where a link leads is asked of another disk, which may never answer, so a folder with links tells what else is
 /// in it ahead through `withoutLinks`. Empty as soon as `isUnwanted`. Any thread.
-std::optional<std::vector<Entry>> list(const Wish &wish,
-                                       const std::function<void(std::vector<Entry>)> &withoutLinks,
-                                       const std::function<bool()> &isUnwanted);
+std::optional<Listing> list(const Wish &wish, const std::function<void(Listing)> &withoutLinks,
+                            const std::function<bool()> &isUnwanted);
 
 } // namespace folderlisting

@@ -10,9 +10,17 @@ Found lookAt(const QString &path)
 {
     if (files::isDirectory(path))
         return Found::folder;
-    if (files::exists(path))
+    // The entry itself: a link that leads nowhere would be replaced as well.
+    if (files::attributes(path))
         return Found::file;
     return files::isDirectory(paths::parent(path)) ? Found::nothing : Found::noFolder;
+}
+
+bool canNameFolder(const QString &name)
+{
+    // The system would take what is ahead of a zero for the name.
+    return !name.isEmpty() && !name.contains(u'/') && !name.contains(QChar(0)) && name != QStringLiteral(".")
+           && name != QStringLiteral("..");
 }
 
 QString make(const QString &path)

@@ -16,6 +16,9 @@ enum class Found {
 
 Found lookAt(const QString &path);
 
+/// Whether that is the name of one folder in another. Asks no disk.
+bool canNameFolder(const QString &name);
+
 /// Makes a folder. Gives what the system says against it; empty once it is made.
 QString make(const QString &path);
 
