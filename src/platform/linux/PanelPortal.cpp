@@ -95,11 +95,8 @@ void PanelPortal::open(const Request &request)
 
 void PanelPortal::dismiss()
 {
-    if (!std::exchange(isOpen_, false))
-        return;
-    const auto close =
-        QDBusMessage::createMethodCall(portalName, requestPath_, requestInterface, QStringLiteral("Close"));
-    bus_.send(close); // nobody waits for its answer
+    if (std::exchange(isOpen_, false))
+        close();
 }
 
 void PanelPortal::respond(uint code, const QVariantMap &results)
@@ -128,6 +125,7 @@ void PanelPortal::listenAt(const QString &requestPath)
 void PanelPortal::takeReply(const QDBusMessage &reply)
 {
     if (reply.type() != QDBusMessage::ReplyMessage) {
+        close(); // one that was only slow would show its panel beside ours
         fail();
         return;
     }
@@ -135,6 +133,14 @@ void PanelPortal::takeReply(const QDBusMessage &reply)
     const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
     if (!path.isEmpty() && path != requestPath_)
         listenAt(path);
+}
+
+void PanelPortal::close()
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(portalName, requestPath_, requestInterface, QStringLiteral("Close"));
+    call.setAutoStartService(false); // a portal that isn't there has nothing to close
+    bus_.send(call);                 // nobody waits for its answer
 }
 
 void PanelPortal::finish(const std::optional<QString> &path)

@@ -55,6 +55,7 @@ private slots:
 private:
     void listenAt(const QString &requestPath);
     void takeReply(const QDBusMessage &reply);
+    void close();
     void finish(const std::optional<QString> &path);
     void fail();
 

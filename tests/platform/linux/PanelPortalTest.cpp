@@ -138,6 +138,26 @@ TEST_F(PanelPortalTest, showsTheFallbackPanelWhenThePortalCantShowItsOwn)
     EXPECT_EQ(panelRequests_.size(), 1U);
 }
 
+TEST_F(PanelPortalTest, closesAPanelThatComesOnceItsOwnIsShown)
+{
+    StandInPanelPortal service(bus_.connect());
+    service.isLate = true;
+    PanelAnswer answer;
+    workspace().chooseFolder({u"Choose"_s, {}}, answer.taker());
+    ASSERT_TRUE(answer.waitFor());
+    EXPECT_EQ(answer.path, u"/from the fallback"_s);
+    ASSERT_TRUE(waitUntil([&] { return !service.closed.isEmpty(); }));
+    EXPECT_EQ(service.closed, QStringList{service.requestPath});
+    service.respond(0, {u"file:///late"_s});
+    service.isLate = false;
+    service.immediateCode = 0;
+    PanelAnswer next; // travels behind the late answer
+    workspace().chooseFolder({u"Next"_s, {}}, next.taker());
+    ASSERT_TRUE(next.waitFor());
+    EXPECT_EQ(answer.count, 1);
+    EXPECT_EQ(next.path, u"/at once"_s);
+}
+
 TEST_F(PanelPortalTest, givesNoFolderWhenThePortalEndsWithItsPanelOpen)
 {
     auto service = std::make_unique<StandInPanelPortal>(bus_.connect());

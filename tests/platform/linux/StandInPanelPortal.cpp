@@ -46,5 +46,7 @@ QDBusMessage StandInPanelPortal::take(const QDBusMessage &call)
     requestPath = desktopPortalPath + u"/request/"_s + sender + u'/' + token;
     if (immediateCode)
         respond(*immediateCode, {u"file:///at%20once"_s});
+    if (isLate)
+        return call.createErrorReply(QDBusError::NoReply, u"Nobody answered in time."_s);
     return call.createReply(QVariant::fromValue(QDBusObjectPath(requestPath)));
 }

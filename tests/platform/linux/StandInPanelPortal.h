@@ -25,6 +25,7 @@ public:
 
     bool namesItsOwnPath = false;      // passes over the caller's wish for the path of its request
     std::optional<uint> immediateCode; // answers with it before the call returns
+    bool isLate = false;               // the caller hears that nobody answered, and then it does
 
     // Of the latest request.
     QString requestPath;
