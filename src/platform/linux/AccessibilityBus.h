@@ -1,14 +1,9 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QString>
 
 /// The bus of assistive technology, which the session's bus tells of.
 namespace accessibilitybus {
-
-/// Whether a bus takes a new connection at that address and answers on it, within this many milliseconds. Waits so long
-/// at most. Any thread.
-bool answers(const QString &address, int milliseconds);
 
 /// Keeps the toolkit from a bus that takes connections and says nothing, as one does whose process is held or stuck: the
 /// toolkit would connect to it on the main thread and wait without end. Such a bus is left out until the program starts
