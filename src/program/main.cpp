@@ -5,6 +5,7 @@
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QuitSignals.h"
 #include "platform/linux/RenderNode.h"
+#include "platform/linux/SessionBus.h"
 #include "program/Composition.h"
 #include "program/FallbackPanel.h"
 #include "program/ProgramInfo.h"
@@ -55,6 +56,7 @@ QByteArray activationToken()
 int main(int argc, char *argv[])
 {
     accessibilitybus::outlive();
+    sessionbus::passOverSilentOne();
     rendering::choose(rendernode::isThere());
     const QtMessageHandler usual = qInstallMessageHandler(tellMissingDisplay);
     QGuiApplication application(argc, argv);

@@ -1,3 +1,4 @@
+#include "support/MuteSocket.h"
 #include "support/TempHome.h"
 
 #include <QFile>
@@ -15,7 +16,7 @@ namespace {
 /// Milliseconds; sanitizers make the start slow, each wait ends as soon as it may.
 constexpr int startPatience = 60'000;
 
-/// The program itself, over a home of its own, without a bus.
+/// The program itself, over a home of its own, without a bus unless a test puts one there.
 class QuitSignalsTest : public ::testing::TestWithParam<int>
 {
 public:
@@ -35,11 +36,13 @@ protected:
             environment.remove(QLatin1StringView(name));
         environment.insert(u"HOME"_s, home_.path());
         environment.insert(u"XDG_RUNTIME_DIR"_s, home_.at(u"runtime"_s));
-        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path="_s + home_.at(u"no-bus"_s));
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path="_s + busPath());
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         program_.setProcessEnvironment(environment);
         program_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     }
+    QString busPath() const { return home_.at(u"bus"_s); }
+
     /// True once the program answers for the signal itself, as the kernel tells.
     bool catches(int signal) const
     {
@@ -67,6 +70,19 @@ TEST_P(QuitSignalsTest, endTheProgramAsAnyWayOutDoes)
     ASSERT_EQ(kill(static_cast<pid_t>(program_.processId()), GetParam()), 0);
     ASSERT_TRUE(program_.waitForFinished(startPatience));
     EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program_.exitCode(), EXIT_SUCCESS);
+}
+
+TEST_P(QuitSignalsTest, endTheProgramBesideABusThatSaysNothing)
+{
+    const MuteSocket bus(busPath());
+    ASSERT_TRUE(bus.isListening());
+    program_.start(QStringLiteral(QUILLMERE_PROGRAM), {});
+    ASSERT_TRUE(program_.waitForStarted(startPatience));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return catches(GetParam()); }, startPatience))
+        << "It waits for the bus.";
+    ASSERT_EQ(kill(static_cast<pid_t>(program_.processId()), GetParam()), 0);
+    ASSERT_TRUE(program_.waitForFinished(startPatience));
     EXPECT_EQ(program_.exitCode(), EXIT_SUCCESS);
 }
 
