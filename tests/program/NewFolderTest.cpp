@@ -32,6 +32,8 @@ TEST_F(NewFolderTest, saysWhyAFolderIsNotMade)
     settle();
     EXPECT_EQ(view_->failureText(), u"The folder can’t be made: File exists"_s);
     EXPECT_EQ(view_->folder(), platform_.home);
+    view_->select(row(u"taken"_s));
+    EXPECT_EQ(view_->failureText(), QString());
 }
 
 TEST_F(NewFolderTest, makesNoFolderOutsideTheOneOnView)

@@ -159,6 +159,7 @@ void FilePanelView::select(int row)
     if (isTakingRows_ || row == selected_)
         return;
     selected_ = row < rows_.rowCount() ? row : -1;
+    failureText_.clear(); // it stands where the path is told
     offerSelected();
     emit changed();
 }
