@@ -26,6 +26,10 @@ public:
     MuteSocket &operator=(const MuteSocket &) = delete;
 
     bool isListening() const { return isListening_; }
+    int descriptor() const { return descriptor_; }
+
+    /// Who waits for a connection waits no more.
+    void endListening() { shutdown(descriptor_, SHUT_RDWR); }
 
 private:
     int descriptor_;

@@ -24,11 +24,32 @@ void end(Attempt &attempt, buscheck::Outcome unlessGivenUp)
     attempt.outcome = isGivenUp ? buscheck::Outcome::silent : unlessGivenUp;
 }
 
+void call(GDBusConnection *connection, const buscheck::Peer &peer, const char *interface, const char *method,
+          GAsyncReadyCallback take, Attempt *attempt)
+{
+    g_dbus_connection_call(connection, peer.name, peer.path, interface, method, nullptr, nullptr,
+                           G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, attempt->cancellable, take, attempt);
+}
+
+/// Any answer will do, also that nobody has that name.
 void takeAnswer(GObject *connection, GAsyncResult *result, gpointer data)
 {
     GVariant *answer = g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, nullptr);
     g_clear_pointer(&answer, &g_variant_unref);
     end(*static_cast<Attempt *>(data), buscheck::Outcome::answered);
+}
+
+void takeWelcome(GObject *object, GAsyncResult *result, gpointer data)
+{
+    auto *attempt = static_cast<Attempt *>(data);
+    GDBusConnection *connection = G_DBUS_CONNECTION(object);
+    GVariant *name = g_dbus_connection_call_finish(connection, result, nullptr);
+    if (!name) {
+        end(*attempt, buscheck::Outcome::none);
+        return;
+    }
+    g_variant_unref(name);
+    call(connection, attempt->peer, "org.freedesktop.DBus.Peer", "Ping", &takeAnswer, attempt);
 }
 
 void takeConnection(GObject *, GAsyncResult *result, gpointer data)
@@ -39,9 +60,9 @@ void takeConnection(GObject *, GAsyncResult *result, gpointer data)
         end(*attempt, buscheck::Outcome::none);
         return;
     }
-    g_dbus_connection_call(connection, attempt->peer.name, attempt->peer.path, "org.freedesktop.DBus.Peer",
-                           "Ping", nullptr, nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, -1,
-                           attempt->cancellable, &takeAnswer, attempt);
+    // The library's own first call to a bus could not be given up.
+    call(connection, {"org.freedesktop.DBus", "/org/freedesktop/DBus"}, "org.freedesktop.DBus", "Hello",
+         &takeWelcome, attempt);
     g_object_unref(connection); // the call holds it
 }
 
@@ -69,11 +90,9 @@ Outcome ask(const QString &address, const Peer &peer, int milliseconds)
 
     Attempt attempt{peer, cancellable.get(), std::nullopt};
     g_main_context_push_thread_default(context.get());
-    g_dbus_connection_new_for_address(
-        address.toUtf8().constData(),
-        static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT
-                                          | G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
-        nullptr, cancellable.get(), &takeConnection, &attempt);
+    g_dbus_connection_new_for_address(address.toUtf8().constData(),
+                                      G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT, nullptr,
+                                      cancellable.get(), &takeConnection, &attempt);
     while (!attempt.outcome)
         g_main_context_iteration(context.get(), TRUE);
     g_main_context_pop_thread_default(context.get());
