@@ -2,7 +2,7 @@ import QtQuick
 import Quillmere
 
 // The banner at the head of a tool's screen; no taller than nothing while there is nothing to say.
-Rectangle {
+Pill {
     id: bar
 
     required property FDABanner banner
@@ -13,14 +13,15 @@ Rectangle {
     height: implicitHeight
     radius: Theme.cardRadius
     color: Theme.raised
-    border.color: banner.canBeHidden ? Theme.amber : Theme.green
+    borderColor: banner.canBeHidden ? Theme.amber : Theme.green
     Accessible.role: Accessible.AlertMessage
     Accessible.name: banner.title
     Accessible.description: banner.text
 
     Symbol {
         id: icon
-        x: Theme.unit * 4
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.unit * 4
         anchors.verticalCenter: parent.verticalCenter
         name: bar.banner.symbol
         size: 20

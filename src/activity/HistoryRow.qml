@@ -39,7 +39,7 @@ ListRow {
             width: parent.width
             height: 36
 
-            Rectangle {
+            Pill {
                 id: badge
                 anchors.verticalCenter: parent.verticalCenter
                 width: 32

@@ -2,8 +2,8 @@ import QtQuick
 import Quillmere
 
 // A framed part of a screen.
-Rectangle {
+Pill {
     color: Theme.card
     radius: Theme.cardRadius
-    border.color: Theme.line
+    borderColor: Theme.line
 }

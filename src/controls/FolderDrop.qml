@@ -17,12 +17,12 @@ DropArea {
         foldersDropped(event.urls);
     }
 
-    Rectangle {
+    Pill {
         anchors.fill: parent
         visible: drop.containsDrag
         radius: Theme.cardRadius
         color: Qt.alpha(Qt.tint(Theme.card, Theme.selected), 0.92) // what lies below it is not to be read now
-        border.color: Theme.accent
+        borderColor: Theme.accent
         BodyText {
             anchors.centerIn: parent
             width: Math.min(implicitWidth, parent.width - Theme.unit * 4)

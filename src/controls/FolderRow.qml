@@ -69,7 +69,7 @@ T.ItemDelegate {
             onClicked: row.removed()
         }
     }
-    background: Rectangle {
+    background: Pill {
         radius: Theme.controlRadius
         color: row.down ? Theme.pressed : row.hovered ? Theme.hover : "transparent"
         FocusRing {

@@ -17,7 +17,7 @@ Card {
 
     implicitHeight: 48
     height: visible ? implicitHeight : 0
-    border.color: isBusy ? Theme.line : tint
+    borderColor: isBusy ? Theme.line : tint
 
     Symbol {
         id: icon

@@ -48,7 +48,7 @@ T.MenuItem {
             color: Theme.line
         }
     }
-    background: Rectangle {
+    background: Pill {
         radius: Theme.tileRadius
         color: line.highlighted && line.enabled ? Theme.selected : "transparent"
     }

@@ -21,8 +21,8 @@ T.ComboBox {
 
     implicitWidth: Math.ceil(Math.max(implicitContentWidth, heldWidth)) + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
-    leftPadding: Theme.unit * 2.5
-    rightPadding: Theme.unit * 7
+    leftPadding: Theme.unit * (mirrored ? 7 : 2.5)
+    rightPadding: Theme.unit * (mirrored ? 2.5 : 7)
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     displayText: shownText
@@ -88,7 +88,7 @@ T.ComboBox {
                 text: option.modelData
             }
         }
-        background: Rectangle {
+        background: Pill {
             radius: Theme.tileRadius
             color: option.highlighted ? Theme.selected : "transparent"
         }
@@ -109,10 +109,10 @@ T.ComboBox {
             Accessible.name: picker.label
             highlightMoveDuration: 0
         }
-        background: Rectangle {
+        background: Pill {
             color: Theme.raised
             radius: Theme.controlRadius
-            border.color: Theme.line
+            borderColor: Theme.line
         }
     }
 }

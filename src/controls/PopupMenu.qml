@@ -27,11 +27,11 @@ Menu {
     margins: Theme.unit
     overlap: 1
     delegate: MenuLine { }
-    background: Rectangle {
+    background: Pill {
         implicitWidth: 200
         color: Theme.raised
         radius: Theme.controlRadius
-        border.color: Theme.line
+        borderColor: Theme.line
     }
     // As wide as its widest line.
     width: {

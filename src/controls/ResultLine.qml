@@ -3,7 +3,7 @@ import Quillmere
 
 // What came of a run, in its colour and with its sign: a text, a second line where it helps, commands that follow from it, and
 // a cross where it can be sent away.
-Rectangle {
+Pill {
     id: line
 
     enum Tone { Success, Warning, Failure }
@@ -26,7 +26,7 @@ Rectangle {
     visible: text.length > 0
     radius: Theme.cardRadius
     color: Theme.raised
-    border.color: tint
+    borderColor: tint
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
     Accessible.description: detail

@@ -22,7 +22,7 @@ Item {
     Accessible.name: RowTexts.inARow([text, suffix])
     Accessible.description: tip
 
-    Rectangle {
+    Pill {
         anchors.fill: parent
         radius: Theme.controlRadius
         color: pointer.hovered ? Theme.hover : "transparent"

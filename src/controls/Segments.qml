@@ -23,14 +23,14 @@ FocusRow {
     Accessible.role: Accessible.Grouping
     Accessible.name: label
 
-    Rectangle {
+    Pill {
         z: -1
         anchors.left: parent.left
         width: segments.implicitWidth
         height: parent.height
         radius: Theme.controlRadius
         color: Theme.raised
-        border.color: Theme.line
+        borderColor: Theme.line
     }
     delegate: ButtonBase {
         id: segment

@@ -20,7 +20,7 @@ Item {
     Accessible.role: Accessible.Grouping
     Accessible.name: label
 
-    Rectangle {
+    Pill {
         anchors.fill: parent
         radius: Theme.tileRadius
         color: Theme.free
@@ -37,6 +37,7 @@ Item {
             required property var modelData
 
             readonly property bool isLink: modelData.isLink ?? false
+            readonly property real start: (parent?.x ?? 0) + x // in the bar
 
             implicitWidth: bar.widths[index] ?? 0
             height: bar.height
@@ -48,12 +49,16 @@ Item {
             Accessible.name: modelData.label ?? ""
             onClicked: if (isLink) bar.chosen(index)
 
-            background: Rectangle {
-                radius: part.index === 0 || part.index === row.count - 1 ? Theme.tileRadius : 0
+            // Round where the bar is.
+            background: Pill {
+                radius: Theme.tileRadius
+                openEdges: (part.start > 0 ? Qt.LeftEdge : 0) | (part.start + part.width < row.width ? Qt.RightEdge : 0)
                 color: part.modelData.fill
-                Rectangle {
+                Pill {
                     anchors.fill: parent
                     visible: part.isLink && part.hovered
+                    radius: parent.radius
+                    openEdges: parent.openEdges
                     color: part.down ? Theme.pressed : Theme.hover
                 }
                 FocusRing {

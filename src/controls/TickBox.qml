@@ -21,7 +21,7 @@ ButtonBase {
     toldChecked: isTicked
 
     contentItem: Item {
-        Rectangle {
+        Pill {
             id: box
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
@@ -29,7 +29,7 @@ ButtonBase {
             height: control.boxSize
             radius: Theme.tileRadius
             color: !control.isTicked ? Theme.window : control.enabled ? Theme.accent : Theme.disabledText
-            border.color: control.isTicked ? color : control.enabled ? Theme.secondText : Theme.disabledText
+            borderColor: control.isTicked ? color : control.enabled ? Theme.secondText : Theme.disabledText
             Symbol {
                 anchors.centerIn: parent
                 visible: control.isTicked

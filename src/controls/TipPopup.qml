@@ -36,10 +36,10 @@ Item {
             wrapMode: Text.Wrap
             elide: Text.ElideNone
         }
-        background: Rectangle {
+        background: Pill {
             color: Theme.raised
             radius: Theme.controlRadius
-            border.color: Theme.line
+            borderColor: Theme.line
         }
     }
 }

@@ -29,27 +29,26 @@ Item {
     width: tileWidth
     height: tileHeight
 
-    Rectangle {
+    Pill {
         anchors.fill: parent
         visible: tile.isHovered
         radius: Theme.tileRadius
         color: tile.groundColor
     }
-    Rectangle {
+    Pill {
         objectName: "tileFace"
         anchors.fill: parent
         radius: Theme.tileRadius
         color: tile.tileColor
         opacity: tile.isHovered ? tile.hoveredOpacity : 1
     }
-    Rectangle {
+    Pill {
         objectName: "hoverOutline"
         anchors.fill: parent
         visible: tile.isHovered
         radius: Theme.tileRadius
-        color: "transparent"
-        border.width: 2
-        border.color: Theme.tileOutline
+        borderWidth: 2
+        borderColor: Theme.tileOutline
     }
     Column {
         anchors.left: parent.left

@@ -2,7 +2,7 @@ import QtQuick
 import Quillmere
 
 // How full the disk is.
-Rectangle {
+Pill {
     id: widget
 
     required property SidebarView sidebar
@@ -10,7 +10,7 @@ Rectangle {
     implicitHeight: column.implicitHeight + Theme.unit * 5
     radius: Theme.cardRadius
     color: Theme.raised
-    border.color: Theme.line
+    borderColor: Theme.line
     Accessible.role: Accessible.Grouping
     Accessible.name: sidebar.diskName
 

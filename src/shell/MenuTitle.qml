@@ -60,7 +60,7 @@ T.Button {
         }
     }
     background: Item {
-        Rectangle {
+        Pill {
             anchors.fill: parent
             anchors.margins: 3
             radius: Theme.tileRadius

@@ -54,7 +54,7 @@ T.ItemDelegate {
             isQuiet: true
         }
     }
-    background: Rectangle {
+    background: Pill {
         radius: Theme.controlRadius
         color: button.isSelected ? Theme.selected : button.down ? Theme.pressed
              : button.hovered ? Theme.hover : "transparent"

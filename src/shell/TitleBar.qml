@@ -37,7 +37,8 @@ Item {
         contentItem: Item {
             Symbol {
                 id: glass
-                x: Theme.unit
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.unit
                 anchors.verticalCenter: parent.verticalCenter
                 name: "magnifyingglass"
                 size: 13
@@ -49,14 +50,14 @@ Item {
                 text: pill.text
                 color: Theme.secondText
             }
-            Rectangle {
+            Pill {
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 width: hint.implicitWidth + Theme.unit * 3
                 height: 18
                 radius: Theme.tileRadius
                 color: Theme.raised
-                border.color: Theme.line
+                borderColor: Theme.line
                 BodyText {
                     id: hint
                     anchors.centerIn: parent
@@ -66,10 +67,10 @@ Item {
                 }
             }
         }
-        background: Rectangle {
+        background: Pill {
             radius: Theme.controlRadius
             color: pill.hovered ? Theme.raised : Theme.card
-            border.color: Theme.line
+            borderColor: Theme.line
             FocusRing {
                 visible: pill.visualFocus
             }

@@ -56,11 +56,7 @@ double effectiveOpacity(const QQuickItem *item)
 /// What is seen of the item, in pixels of the picture.
 QRect seenPixels(const QQuickItem *item, double ratio, const QRect &picture)
 {
-    QRectF seen = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
-    for (const QQuickItem *around = item->parentItem(); around; around = around->parentItem()) {
-        if (around->clip())
-            seen &= around->mapRectToScene(QRectF(0, 0, around->width(), around->height()));
-    }
+    const QRectF seen = scene::seen(item);
     return QRectF(seen.topLeft() * ratio, seen.size() * ratio).toAlignedRect() & picture;
 }
 

@@ -69,6 +69,21 @@ QString typeName(const QObject *object)
                : QString();
 }
 
+QRectF seen(const QQuickItem *item, const QRectF &part)
+{
+    QRectF seen = item->mapRectToScene(part);
+    for (const QQuickItem *around = item->parentItem(); around; around = around->parentItem()) {
+        if (around->clip())
+            seen &= sceneRect(around);
+    }
+    return seen;
+}
+
+QRectF seen(const QQuickItem *item)
+{
+    return seen(item, QRectF(0, 0, item->width(), item->height()));
+}
+
 std::vector<QQuickItem *> texts(QQuickItem *root)
 {
     std::vector<QQuickItem *> found = items(root, isText);

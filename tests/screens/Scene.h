@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRectF>
 #include <QString>
 
 #include <functional>
@@ -24,6 +25,10 @@ bool isText(const QQuickItem *item);
 
 /// The QML type that the object is made from, where that is one of ours: "ActionButton"; empty for others.
 QString typeName(const QObject *object);
+
+/// What is seen of that part of the item, in the window: what scrolls is cut off by what it scrolls in.
+QRectF seen(const QQuickItem *item, const QRectF &part);
+QRectF seen(const QQuickItem *item); ///< of all of it
 
 /// The texts on view, in reading order.
 std::vector<QQuickItem *> texts(QQuickItem *root);

@@ -109,7 +109,7 @@ Item {
             const ends = spy(line, "dismissed");
             compare(Program.spoken(line).role, Accessible.AlertMessage);
             compare(Program.spoken(line).name, "Failed: Notes");
-            compare(String(line.border.color), String(Theme.red));
+            compare(String(line.borderColor), String(Theme.red));
             for (const text of ["Failed: Notes", "No permission", "Retry with password"])
                 verify(onView().includes(text), text);
             mouseClick(Program.itemWith("symbolSize", line, 12));

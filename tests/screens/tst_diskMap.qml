@@ -40,7 +40,7 @@ AnalyzerCase {
         mouseMove(tile("Documents"));
         tryCompare(tile("Documents"), "isHovered", true, patience);
         tryCompare(face, "opacity", 0.8, patience);
-        compare(String(told(Program.named("hoverOutline", tile("Documents")), "border").color), "#66ffffff"); // 0.4 of white
+        compare(String(told(Program.named("hoverOutline", tile("Documents")), "borderColor")), "#66ffffff"); // 0.4 of white
         verify(Program.named("hoverOutline", tile("Documents")));
         verify(!Program.named("hoverOutline", tile("Movies")));
         const size = tile("Documents").sizeText;

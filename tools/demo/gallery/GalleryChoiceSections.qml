@@ -122,10 +122,10 @@ Column {
             usual: "View"
             Segments {
                 label: signs.word
-                labels: ["List", "Grid"]
-                symbols: ["list.bullet", "square.grid.2x2"]
+                labels: ["List", "Grid", "Folders"]
+                symbols: ["list.bullet", "square.grid.2x2", "folder"]
                 areTextsShown: false
-                currentIndex: 0
+                currentIndex: 1
             }
         }
     }

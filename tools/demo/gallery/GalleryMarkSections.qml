@@ -173,7 +173,7 @@ Column {
     GallerySection {
         control: "StackedBar"
         role: Accessible.Grouping
-        poses: ["normal", "hovered", "pressed", "focused", "disabled", "right to left"]
+        poses: ["normal", "hovered", "pressed", "focused", "disabled", "right to left", "full"]
         GalleryCell {
             id: stack
             StackedBar {
@@ -182,7 +182,7 @@ Column {
                 label: stack.word
                 parts: [{ share: 0.4, fill: Theme.accent, label: "Documents", tip: "", isLink: true },
                         { share: 0.001, fill: Theme.amber, label: "Caches", tip: "" },
-                        { share: 0.2, fill: Theme.green, label: "Movies", tip: "" }]
+                        { share: stack.pose === "full" ? 0.6 : 0.2, fill: Theme.green, label: "Movies", tip: "" }]
             }
         }
     }
