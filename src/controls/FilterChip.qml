@@ -25,6 +25,7 @@ ButtonBase {
         implicitHeight: word.implicitHeight
         BodyText {
             id: word
+            anchors.left: parent.left
             anchors.baseline: parent.verticalCenter
             anchors.baselineOffset: TextRuler.baselineOffset(font)
             width: Math.min(implicitWidth, parent.width - count.room)

@@ -26,7 +26,8 @@ Card {
             width: parent.width
             height: 28
             Spinner {
-                x: card.hasPercent ? 0 : Math.round((parent.width - width) / 2)
+                anchors.left: parent.left
+                anchors.leftMargin: card.hasPercent ? 0 : Math.round((parent.width - width) / 2)
                 anchors.verticalCenter: parent.verticalCenter
                 size: card.hasPercent ? 20 : 28
                 color: Theme.accent
