@@ -15,6 +15,7 @@ struct LinuxEnvironment
 
     QString configHome; ///< $XDG_CONFIG_HOME. Here and below: the default when empty or relative.
     QString dataHome;   ///< $XDG_DATA_HOME
+    QString dataDirs;   ///< $XDG_DATA_DIRS, folders with colons between them
     QString cacheHome;  ///< $XDG_CACHE_HOME
     QString stateHome;  ///< $XDG_STATE_HOME
 

@@ -100,6 +100,23 @@ Locations::OrganizerDestinations organizerDestinations(const UserDirectories &fo
             .screenshots = withTilde(folderInside(folders.pictures, u"Screenshots"_s), home)};
 }
 
+/// The user's own entries first, then those of his Flatpaks and the system's; the last ones are of such package systems as
+/// put their folders into the environment only for a session that began after they came.
+QStringList desktopEntryFolders(const QString &data, const QString &dataDirs)
+{
+    QStringList folders = {data, paths::join(data, u"flatpak/exports/share"_s)};
+    const QString given = dataDirs.isEmpty() ? u"/usr/local/share:/usr/share"_s : dataDirs;
+    for (const QString &folder : given.split(u':')) {
+        if (folder.startsWith(u'/'))
+            folders.append(withoutTrailingSlashes(folder));
+    }
+    folders << u"/var/lib/flatpak/exports/share"_s << u"/var/lib/snapd/desktop"_s;
+    folders.removeDuplicates();
+    for (QString &folder : folders)
+        folder = paths::join(folder, u"applications"_s);
+    return folders;
+}
+
 /// The two forms of a volume's Trash by freedesktop convention, the one in its common folder first.
 QStringList volumeTrash(const LinuxEnvironment &environment)
 {
@@ -127,6 +144,7 @@ Locations linuxLocations(const QString &home, const LinuxEnvironment &environmen
         locations, folders, {u"/opt"_s, u"/usr/local"_s, inHome(u"Applications"_s), inHome(u".local/opt"_s)},
         {base.config, base.cache, base.data, base.state, inHome(u".var/app"_s), inHome(u"snap"_s)});
     locations.cleanup = cleanupRows(locations, base);
+    locations.desktopEntryFolders = desktopEntryFolders(base.data, environment.dataDirs);
     locations.accessProbeFolders = {locations.home, base.config};
     locations.organizerDestinations = organizerDestinations(folders, locations.home);
     // The "current" link of each snap leads to a folder beside it, which doubles all that is below.

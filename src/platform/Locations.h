@@ -151,6 +151,10 @@ struct Locations
     /// The folder of "{identifier}.plist" files that the ghost scan reads last; empty: there is none.
     QString ghostPreferencesFolder;
 
+    /// Folders of the entries by which the desktop knows applications, the one that is believed first at the front; none
+    /// where the system keeps them elsewhere.
+    QStringList desktopEntryFolders;
+
     /// Folders that can be listed only with full disk access, in the order of probing. One is enough.
     QStringList accessProbeFolders;
 

@@ -6,6 +6,7 @@
 #include "base/MainQueue.h"
 #include "base/NotificationCenter.h"
 #include "base/WorkQueue.h"
+#include "platform/Applications.h"
 #include "platform/ChildPrograms.h"
 #include "platform/KeyStyle.h"
 #include "platform/Locations.h"
@@ -29,6 +30,7 @@ struct Platform
     NotificationCenter &notifications;
     Workspace &workspace;
     Recycler &recycler;
+    const Applications &applications;
     SystemLog &systemLog;
     const SystemInfo &systemInfo;
 };

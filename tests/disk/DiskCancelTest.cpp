@@ -98,6 +98,7 @@ struct ThreadedScanTest : DiskCancelTest
                       .notifications = test.notifications,
                       .workspace = test.workspace,
                       .recycler = test.recycler,
+                      .applications = test.applications,
                       .systemLog = test.systemLog,
                       .systemInfo = test.systemInfo};
     SizeProbes ownProbes{platform};

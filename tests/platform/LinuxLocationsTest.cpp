@@ -302,3 +302,25 @@ TEST(LinuxLocations, keepsNamesThatAreNotUtf8)
     EXPECT_EQ(paths::toBytes(raw.organizerDestinations.music), QByteArray("/\x80"));
     EXPECT_EQ(paths::toBytes(raw.trash.first()), QByteArray("/home/\xE9/.local/share/Trash/files"));
 }
+
+TEST(LinuxLocations, looksForEntriesOfApplicationsInTheUsersFolderFirst)
+{
+    EXPECT_EQ(plainLinux.desktopEntryFolders,
+              QStringList({u"/home/ada/.local/share/applications"_s,
+                           u"/home/ada/.local/share/flatpak/exports/share/applications"_s,
+                           u"/usr/local/share/applications"_s, u"/usr/share/applications"_s,
+                           u"/var/lib/flatpak/exports/share/applications"_s,
+                           u"/var/lib/snapd/desktop/applications"_s}));
+}
+
+TEST(LinuxLocations, takesTheFoldersOfEntriesFromTheEnvironment)
+{
+    LinuxEnvironment environment;
+    environment.dataHome = u"/x/data"_s;
+    environment.dataDirs = u"/y/:relative::/var/lib/flatpak/exports/share/:/y"_s;
+    EXPECT_EQ(linuxLocations(u"/home/ada"_s, environment).desktopEntryFolders,
+              QStringList({u"/x/data/applications"_s, u"/x/data/flatpak/exports/share/applications"_s,
+                           u"/y/applications"_s, u"/var/lib/flatpak/exports/share/applications"_s,
+                           u"/var/lib/snapd/desktop/applications"_s}));
+    EXPECT_EQ(macLocations(u"/Users/ada"_s).desktopEntryFolders, QStringList());
+}

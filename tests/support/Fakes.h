@@ -2,11 +2,13 @@
 
 #include "base/Clock.h"
 #include "base/Error.h"
+#include "platform/Applications.h"
 #include "platform/Recycler.h"
 #include "platform/SystemInfo.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
 
+#include <QMap>
 #include <QStringList>
 
 #include <atomic>
@@ -100,6 +102,17 @@ public:
         removed << items;
         remover(items, trash);
     }
+};
+
+/// A system that knows the applications that a test names.
+class FakeApplications final : public Applications
+{
+public:
+    QStringList running;              ///< paths
+    QMap<QString, QStringList> known; ///< paths by identifier
+
+    QStringList runningPaths() const override { return running; }
+    QStringList knownPaths(const QString &identifier) const override { return known.value(identifier); }
 };
 
 /// A system log in memory.

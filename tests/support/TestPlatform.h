@@ -27,6 +27,7 @@ struct TestPlatform
     NotificationCenter notifications;
     FakeWorkspace workspace;
     FakeRecycler recycler;
+    FakeApplications applications;
     FakeSystemLog systemLog;
     FakeSystemInfo systemInfo;
     Platform platform{.home = home,
@@ -40,6 +41,7 @@ struct TestPlatform
                       .notifications = notifications,
                       .workspace = workspace,
                       .recycler = recycler,
+                      .applications = applications,
                       .systemLog = systemLog,
                       .systemInfo = systemInfo};
     FDAService access{platform, {}};

@@ -7,6 +7,7 @@
 #include "gallery/Gallery.h"
 #include "platform/Appearance.h"
 #include "platform/linux/AccessibilityBus.h"
+#include "platform/linux/LinuxApplications.h"
 #include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
 #include "platform/linux/LinuxSystemLog.h"
@@ -52,6 +53,7 @@ struct DemoDesktop
                    .notifications = notifications,
                    .workspace = workspace,
                    .recycler = recycler,
+                   .applications = applications,
                    .systemLog = systemLog,
                    .systemInfo = systemInfo}
     {
@@ -71,6 +73,7 @@ struct DemoDesktop
                              workQueue};
     LinuxSystemLog systemLog{clock};
     LinuxRecycler recycler{ChildPrograms().pkexec, ChildPrograms().mv, systemLog};
+    const LinuxApplications applications{locations, {}};
     const LinuxSystemInfo systemInfo;
     const Platform platform;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Applications.h"
 #include "platform/Recycler.h"
 #include "platform/SystemInfo.h"
 #include "platform/SystemLog.h"
@@ -35,6 +36,14 @@ public:
         return AdminFailure{false};
     }
     void removeForGood(const QStringList &, const QString &) override {}
+};
+
+/// A system that knows no applications.
+class NoApplications final : public Applications
+{
+public:
+    QStringList runningPaths() const override { return {}; }
+    QStringList knownPaths(const QString &) const override { return {}; }
 };
 
 /// A log that keeps nothing.

@@ -89,6 +89,7 @@ DriverPlatform::DriverPlatform(std::function<Locations()> locations, const QStri
                 .notifications = notifications_,
                 .workspace = workspace_,
                 .recycler = *recycler_,
+                .applications = applications_,
                 .systemLog = systemLog_,
                 .systemInfo = systemInfo_}
     , sizeProbes_(platform_)

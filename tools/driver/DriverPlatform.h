@@ -57,6 +57,7 @@ private:
     Lazy<Locations> locations_;
     NoWorkspace workspace_;
     std::unique_ptr<Recycler> recycler_;
+    NoApplications applications_;
     NoSystemLog systemLog_;
     NoSystemInfo systemInfo_;
     Platform platform_;

@@ -40,6 +40,7 @@ LinuxEnvironment environment(const QString &home)
     LinuxEnvironment result;
     result.configHome = baseFolder("XDG_CONFIG_HOME", home, ".config");
     result.dataHome = variable("XDG_DATA_HOME");
+    result.dataDirs = variable("XDG_DATA_DIRS");
     result.cacheHome = variable("XDG_CACHE_HOME");
     result.stateHome = variable("XDG_STATE_HOME");
     result.userId = getuid();
@@ -61,6 +62,7 @@ LinuxPlatform::LinuxPlatform(LinuxDesktop desktop)
     : home_(homeFolder())
     , defaults_(defaultsFile(home_))
     , locations_([home = home_] { return linuxLocations(home, environment(home)); })
+    , applications_(locations_, desktop.searchPath)
     , workspace_(std::move(desktop), workQueue_)
     , systemLog_(clock_)
     , recycler_(ChildPrograms().pkexec, ChildPrograms().mv, systemLog_)
@@ -75,6 +77,7 @@ LinuxPlatform::LinuxPlatform(LinuxDesktop desktop)
                 .notifications = notifications_,
                 .workspace = workspace_,
                 .recycler = recycler_,
+                .applications = applications_,
                 .systemLog = systemLog_,
                 .systemInfo = systemInfo_}
 {

@@ -3,6 +3,7 @@
 #include "base/EventLoopMainQueue.h"
 #include "base/ThreadWorkQueue.h"
 #include "platform/linux/JsonDefaults.h"
+#include "platform/linux/LinuxApplications.h"
 #include "platform/linux/LinuxRecycler.h"
 #include "platform/linux/LinuxSystemInfo.h"
 #include "platform/linux/LinuxSystemLog.h"
@@ -31,6 +32,7 @@ private:
     NotificationCenter notifications_;
     JsonDefaults defaults_;
     Lazy<Locations> locations_;
+    LinuxApplications applications_;
     LinuxWorkspace workspace_;
     LinuxSystemLog systemLog_;
     LinuxRecycler recycler_;
