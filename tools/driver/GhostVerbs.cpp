@@ -2,6 +2,7 @@
 
 #include "apps/ghosts/GhostScan.h"
 #include "Arguments.h"
+#include "AssociatedFileJson.h"
 #include "base/Error.h"
 #include "base/Files.h"
 #include "base/Paths.h"
@@ -35,28 +36,13 @@ QSet<QString> knownIdentifiers(const Arguments &arguments)
     return known;
 }
 
-QString idText(const QUuid &id)
-{
-    return id.toString(QUuid::WithoutBraces);
-}
-
 QJsonObject ghostObject(const GhostApp &ghost)
 {
-    QJsonArray files;
-    for (const AssociatedFile &file : ghost.files) {
-        files.append(QJsonObject{
-            {QStringLiteral("id"), idText(file.id)},
-            {QStringLiteral("path"), json::text(file.path)},
-            {QStringLiteral("category"), file.category},
-            {QStringLiteral("size"), file.size},
-            {QStringLiteral("selected"), file.selected},
-        });
-    }
     return {
-        {QStringLiteral("id"), idText(ghost.id)},
+        {QStringLiteral("id"), json::id(ghost.id)},
         {QStringLiteral("inferredName"), json::text(ghost.inferredName)},
         {QStringLiteral("bundleID"), json::text(ghost.bundleID)},
-        {QStringLiteral("files"), files},
+        {QStringLiteral("files"), json::associatedFiles(ghost.files)},
         {QStringLiteral("selected"), ghost.selected},
         {QStringLiteral("looksInstalled"), ghost.looksInstalled},
     };

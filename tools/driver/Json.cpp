@@ -35,6 +35,11 @@ QJsonValue text(const QString &text)
     return paths::display(text);
 }
 
+QJsonValue id(const QUuid &id)
+{
+    return id.toString(QUuid::WithoutBraces);
+}
+
 QJsonValue date(Date date)
 {
     if (date == dates::distantPast)

@@ -6,12 +6,16 @@
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
+#include <QUuid>
 
 /// What the verbs print and read as JSON.
 namespace json {
 
 /// A name or path; each byte that is not UTF-8 is U+FFFD.
 QJsonValue text(const QString &text);
+
+/// A record's identifier, without braces.
+QJsonValue id(const QUuid &id);
 
 /// "2024-02-29T12:00:00.123456789Z", in UTC; null for the distant past, which stands for no date.
 QJsonValue date(Date date);
