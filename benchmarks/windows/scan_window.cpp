@@ -30,6 +30,7 @@ Platform withQueue(const Platform &platform, MainQueue &queue)
         .notifications = platform.notifications,
         .workspace = platform.workspace,
         .recycler = platform.recycler,
+        .applications = platform.applications,
         .systemLog = platform.systemLog,
         .systemInfo = platform.systemInfo,
     };
