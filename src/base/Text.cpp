@@ -92,4 +92,10 @@ bool precedes(const QString &left, const QString &right)
            < 0;
 }
 
+QString joined(QStringList parts, QStringView separator)
+{
+    parts.removeAll(QString());
+    return parts.join(separator);
+}
+
 } // namespace text

@@ -2,6 +2,7 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <optional>
@@ -26,5 +27,8 @@ bool containsLocalized(const QString &text, const QString &part);
 /// True when `left` stands before `right` in plain order, which is the same in every language: by code points, whichever
 /// way accents are encoded. So "Z" stands before "a". Strict, as a sort needs it.
 bool precedes(const QString &left, const QString &right);
+
+/// Those of the parts that say something.
+QString joined(QStringList parts, QStringView separator);
 
 } // namespace text

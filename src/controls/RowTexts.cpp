@@ -1,15 +1,6 @@
 #include "controls/RowTexts.h"
 
-namespace {
-
-QString joined(const QStringList &texts, QChar separator)
-{
-    QStringList shown = texts;
-    shown.removeAll(QString());
-    return shown.join(separator);
-}
-
-} // namespace
+#include "base/Text.h"
 
 QString RowTexts::place(int row, int count)
 {
@@ -28,12 +19,12 @@ QString RowTexts::menuName()
 
 QString RowTexts::lines(const QStringList &lines)
 {
-    return joined(lines, u'\n');
+    return text::joined(lines, u"\n");
 }
 
 QString RowTexts::inARow(const QStringList &texts)
 {
-    return joined(texts, u' ');
+    return text::joined(texts, u" ");
 }
 
 QString RowTexts::figure(const QString &label, const QString &value)

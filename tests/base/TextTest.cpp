@@ -146,3 +146,9 @@ TEST(Precedes, holdsEncodingsOfOneTextForEqual)
     EXPECT_TRUE(text::precedes(u"cafe\u0301"_s, u"caf\u00E9 "_s));
     EXPECT_FALSE(text::precedes(u"same"_s, u"same"_s));
 }
+
+TEST(Joined, passesOverPartsThatSayNothing)
+{
+    EXPECT_EQ(text::joined({u"one"_s, {}, u"two"_s, {}}, u", "), u"one, two");
+    EXPECT_EQ(text::joined({{}, {}}, u", "), QString());
+}

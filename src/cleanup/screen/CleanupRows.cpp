@@ -1,6 +1,7 @@
 #include "cleanup/screen/CleanupRows.h"
 
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "cleanup/CleanupViewModel.h"
 #include "cleanup/PreviewList.h"
 #include "common/Formatters.h"
@@ -37,10 +38,9 @@ QString countText(const CleanupCategory &category)
     return QStringLiteral("%1 files").arg(category.fileCount);
 }
 
-QString joined(QStringList parts)
+QString spoken(const QStringList &parts)
 {
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
+    return text::joined(parts, u", ");
 }
 
 /// What a row says that has nothing of its own for a role: every role has a value, since QML requires them all.
@@ -249,7 +249,7 @@ QVariant CleanupRows::headData(size_t group, int role) const
         return service_.expandedPreviews().value(category.id) ? QStringLiteral("Collapse file preview")
                                                               : QStringLiteral("Expand file preview");
     case spokenRole:
-        return joined(
+        return spoken(
             {badgeText(category), sizeText(category.size), countText(category), category.description});
     default:
         return nothing(role);
@@ -305,7 +305,7 @@ QVariant CleanupRows::guideData(const CleanupCategory &category, int role) const
     case trailingRole:
         return guideText(category);
     case spokenRole:
-        return joined({QStringLiteral("Right-click any file for more actions"), guideText(category)});
+        return spoken({QStringLiteral("Right-click any file for more actions"), guideText(category)});
     default:
         return nothing(role);
     }
@@ -326,7 +326,7 @@ QVariant CleanupRows::fileData(const CleanupCategory &category, const PreviewFil
     case tickedRole:
         return isPicked(category, file.path);
     case spokenRole:
-        return joined({sizeText(file.size), folder()});
+        return spoken({sizeText(file.size), folder()});
     default:
         return nothing(role);
     }

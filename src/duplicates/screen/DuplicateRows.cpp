@@ -1,6 +1,7 @@
 #include "duplicates/screen/DuplicateRows.h"
 
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "common/DateTexts.h"
 #include "common/Formatters.h"
 
@@ -59,9 +60,7 @@ QString lossMark(const DuplicateFileGroup &group)
 
 QString spokenHead(const DuplicateFileGroup &group, samefile::Kind kind)
 {
-    QStringList parts{summary(group), sameMark(kind), sameTip(kind), lossMark(group)};
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
+    return text::joined({summary(group), sameMark(kind), sameTip(kind), lossMark(group)}, u", ");
 }
 
 } // namespace
