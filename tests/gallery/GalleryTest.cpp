@@ -25,6 +25,7 @@ const std::map<QString, std::string> apart = {
     {u"Crumb"_s, "a part of Breadcrumbs"},
     {u"DialogFrame"_s, "what all questions and messages have in common"},
     {u"DialogText"_s, "a part of each of them"},
+    {u"CardRow"_s, "a ListRow on a CardSlice and a RowBackground, which are shown"},
     {u"KeyboardHeir"_s, "passes the keyboard on, and shows nothing"},
     {u"FocusRow"_s, "what Segments, TabStrip and StackedBar have in common"},
     {u"Tip"_s, "makes the TipPopup, which is shown"},

@@ -5,7 +5,7 @@ import Quillmere
 
 // A row of the list: a category, or a line or a file of its open preview, as a slice of the category's card. Most rows are
 // files, so what the others show is made only where there is one.
-ListRow {
+CardRow {
     id: row
 
     required property string kind
@@ -24,7 +24,6 @@ ListRow {
     required property bool isReviewable
     required property string moreText
     required property string allText
-    required property bool isLast
     required spoken
     required property SmartCleanupView view
 
@@ -32,12 +31,12 @@ ListRow {
     readonly property bool isFile: kind === "file"
     readonly property bool isExpandable: isCategory
     readonly property bool hasTick: isCategory && !isLocked || isFile || isReviewable
-    readonly property bool answersClicks: isCategory || isFile && view.canChoose
     readonly property var toldChecked: hasTick && view.canChoose ? isTicked : undefined
-    readonly property int gap: isCategory ? Theme.unit * 2 : 0 // between the cards
 
     implicitHeight: 52
-    padding: 0
+    isFirst: isCategory
+    gap: isCategory ? Theme.unit * 2 : 0
+    answersClicks: isCategory || isFile && view.canChoose
     text: title
     tip: hovered && isFile ? file.tip : ""
     onClicked: view.activate(index)
@@ -98,25 +97,6 @@ ListRow {
             isTicked: row.isTicked
             view: row.view
             onTicked: row.view.toggleFile(row.index)
-        }
-    }
-    background: Item {
-        CardSlice {
-            y: row.gap
-            width: parent.width
-            height: parent.height - y
-            isFirst: row.isCategory
-            isLast: row.isLast
-        }
-        RowBackground {
-            x: Theme.unit
-            y: row.gap + 2
-            width: parent.width - Theme.unit * 2
-            height: parent.height - y - 2
-            isCurrent: row.isCurrent
-            isDown: row.down && row.answersClicks
-            isHovered: row.hovered && row.answersClicks
-            isMenuTarget: row.isMenuTarget
         }
     }
 }

@@ -3,7 +3,7 @@ import Quillmere
 
 // A row of the list: the head of a group or one of its files, as a slice of the group's card. A row is made once and used
 // for either, so what it is not shows nothing and is given no texts to lay out.
-ListRow {
+CardRow {
     id: row
 
     required property bool isHead
@@ -18,15 +18,13 @@ ListRow {
     required property string sameTip
     required property string lossMark
     required property string lossTip
-    required property bool isLast
     required spoken
     required property DuplicateFinderView view
 
-    readonly property int gap: isHead ? Theme.unit * 1.5 : 0 // between the cards
-
     implicitHeight: 54
-    leftPadding: 0
-    rightPadding: 0
+    isFirst: isHead
+    gap: isHead ? Theme.unit * 1.5 : 0
+    answersClicks: checkable
     text: title
     checkable: !isHead && view.canChoose
     checked: !isHead && isKept
@@ -65,25 +63,6 @@ ListRow {
             clickTip: row.clickTip
             view: row.view
             onRevealed: row.view.reveal(row.index)
-        }
-    }
-    background: Item {
-        CardSlice {
-            y: row.gap
-            width: parent.width
-            height: parent.height - y
-            isFirst: row.isHead
-            isLast: row.isLast
-        }
-        RowBackground {
-            x: Theme.unit
-            y: row.gap + 2
-            width: parent.width - Theme.unit * 2
-            height: parent.height - y - 2
-            isCurrent: row.isCurrent
-            isDown: row.down && row.checkable
-            isHovered: row.hovered && row.checkable
-            isMenuTarget: row.isMenuTarget
         }
     }
 }
