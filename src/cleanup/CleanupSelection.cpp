@@ -9,12 +9,14 @@ namespace {
 
 using Categories = std::vector<CleanupCategory>;
 
-/// The first category of that id. Null where there is none.
-CleanupCategory *find(const QString &id, Categories &categories)
+/// The same as `find`, to be changed.
+CleanupCategory *findOwn(const QString &id, Categories &categories)
 {
-    const auto found = std::find_if(categories.begin(), categories.end(),
-                                    [&id](const CleanupCategory &category) { return category.id == id; });
-    return found == categories.end() ? nullptr : &*found;
+    for (CleanupCategory &category : categories) {
+        if (category.id == id)
+            return &category;
+    }
+    return nullptr;
 }
 
 QSet<QString> allPaths(const QString &id, const CleanupSelection &selection)
@@ -32,7 +34,7 @@ QSet<QString> allPaths(const QString &id, const CleanupSelection &selection)
 /// Brings a category's tick in line with its files and its mark, after a change of either.
 void sync(const QString &id, Categories &categories, const CleanupSelection &selection)
 {
-    CleanupCategory *category = find(id, categories);
+    CleanupCategory *category = findOwn(id, categories);
     if (!category)
         return;
     if (cleanupselection::picked(id, selection).isEmpty())
@@ -44,6 +46,13 @@ void sync(const QString &id, Categories &categories, const CleanupSelection &sel
 } // namespace
 
 namespace cleanupselection {
+
+const CleanupCategory *find(const QString &id, const Categories &categories)
+{
+    const auto found = std::find_if(categories.begin(), categories.end(),
+                                    [&id](const CleanupCategory &category) { return category.id == id; });
+    return found == categories.end() ? nullptr : &*found;
+}
 
 bool isLocked(const CleanupCategory &category, const CleanupSelection &selection)
 {
@@ -106,7 +115,7 @@ void selectNone(Categories &categories)
 
 bool toggle(const QString &id, Categories &categories, CleanupSelection &selection)
 {
-    CleanupCategory *category = find(id, categories);
+    CleanupCategory *category = findOwn(id, categories);
     if (!category || isLocked(*category, selection))
         return false;
     category->checked = !category->checked;
@@ -146,7 +155,7 @@ void setReviewed(const QString &id, bool isReviewed, Categories &categories, Cle
     selection.reviewedUnsafe[id] = isReviewed;
     if (isReviewed)
         return sync(id, categories, selection);
-    if (CleanupCategory *category = find(id, categories))
+    if (CleanupCategory *category = findOwn(id, categories))
         category->checked = false;
 }
 
@@ -154,14 +163,12 @@ void takePreview(const QString &id, std::vector<PreviewFile> files, const Catego
                  CleanupSelection &selection)
 {
     selection.previewFiles[id] = std::move(files);
-    const auto category =
-        std::find_if(categories.begin(), categories.end(),
-                     [&id](const CleanupCategory &candidate) { return candidate.id == id; });
-    if (category != categories.end() && category->checked && picked(id, selection).isEmpty()) {
-        const QSet<QString> all = allPaths(id, selection);
-        if (!all.isEmpty())
-            selection.selectedFilePaths[id] = all;
-    }
+    const CleanupCategory *category = find(id, categories);
+    if (!category || !category->checked || !picked(id, selection).isEmpty())
+        return;
+    const QSet<QString> all = allPaths(id, selection);
+    if (!all.isEmpty())
+        selection.selectedFilePaths[id] = all;
 }
 
 } // namespace cleanupselection

@@ -20,6 +20,9 @@ struct CleanupSelection
 /// The rules of choosing. Ids that no category has are passed over.
 namespace cleanupselection {
 
+/// The category of that id. Null where there is none.
+const CleanupCategory *find(const QString &id, const std::vector<CleanupCategory> &categories);
+
 /// A category that may hold the user's own files is locked until the user says that they were looked through.
 bool isLocked(const CleanupCategory &category, const CleanupSelection &selection);
 

@@ -10,7 +10,6 @@
 #include "common/CacheLifetime.h"
 #include "filesystem/SizeProbes.h"
 
-#include <algorithm>
 #include <utility>
 
 const QString CleanupViewModel::accessContext = QStringLiteral("Smart Cleanup");
@@ -65,13 +64,6 @@ QString CleanupViewModel::question() const
     return CleaningRun(categories_, selection_).question();
 }
 
-const CleanupCategory *CleanupViewModel::find(const QString &id) const
-{
-    const auto found = std::find_if(categories_.begin(), categories_.end(),
-                                    [&id](const CleanupCategory &category) { return category.id == id; });
-    return found == categories_.end() ? nullptr : &*found;
-}
-
 void CleanupViewModel::emptyChoices()
 {
     selection_ = {};
@@ -96,9 +88,11 @@ void CleanupViewModel::scan()
                                                            &probes = probes_] {
         if (life.expired()) // the service is gone
             return;
+        auto categories = cleanupcatalogue::build(*platform.locations, platform.programs, probes);
         guarded::post(platform.mainQueue, self,
-                      [categories = cleanupcatalogue::build(*platform.locations, platform.programs, probes),
-                       scan](CleanupViewModel &service) { service.deliver(categories, scan); });
+                      [categories = std::move(categories), scan](CleanupViewModel &service) {
+                          service.deliver(categories, scan);
+                      });
     });
 }
 
@@ -130,9 +124,11 @@ void CleanupViewModel::loadPreview(const CleanupCategory &category)
                                                            category, scan = scans_, &platform = platform_] {
         if (life.expired())
             return;
+        auto files = previewlist::load(category, platform.clock.now());
         guarded::post(platform.mainQueue, self,
-                      [id = category.id, files = previewlist::load(category, platform.clock.now()),
-                       scan](CleanupViewModel &service) { service.deliverPreview(id, files, scan); });
+                      [id = category.id, files = std::move(files), scan](CleanupViewModel &service) {
+                          service.deliverPreview(id, files, scan);
+                      });
     });
 }
 
@@ -159,7 +155,7 @@ void CleanupViewModel::selectNone()
 void CleanupViewModel::toggle(const QString &id)
 {
     const bool needsPreview = cleanupselection::toggle(id, categories_, selection_);
-    if (const CleanupCategory *category = needsPreview ? find(id) : nullptr)
+    if (const CleanupCategory *category = needsPreview ? cleanupselection::find(id, categories_) : nullptr)
         loadPreview(*category);
     emit categoryChanged(id);
 }
@@ -191,7 +187,7 @@ void CleanupViewModel::setReviewed(const QString &id, bool isReviewed)
 void CleanupViewModel::setExpanded(const QString &id, bool isExpanded)
 {
     expandedPreviews_[id] = isExpanded;
-    if (const CleanupCategory *category = isExpanded ? find(id) : nullptr)
+    if (const CleanupCategory *category = isExpanded ? cleanupselection::find(id, categories_) : nullptr)
         loadPreview(*category);
     emit categoryChanged(id);
 }

@@ -103,7 +103,6 @@ signals:
     void choicesEmptied();                   ///< of all that goes by category nothing is left
 
 private:
-    const CleanupCategory *find(const QString &id) const;
     void emptyChoices();
     void deliver(std::vector<CleanupCategory> categories, int scan);
     void deliverPreview(const QString &id, std::vector<PreviewFile> files, int scan);

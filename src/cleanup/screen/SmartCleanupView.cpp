@@ -285,7 +285,7 @@ void SmartCleanupView::showAllFiles(int row)
     if (allText(row).isEmpty())
         return;
     const QString id = rows_.category(row)->id;
-    service_.setPreviewVisibleCount(id, static_cast<int>(service_.previewFiles().value(id).size()));
+    service_.setPreviewVisibleCount(id, static_cast<int>(service_.previewFiles().constFind(id)->size()));
 }
 
 void SmartCleanupView::revealCategory(int row)
