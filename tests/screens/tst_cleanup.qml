@@ -184,11 +184,17 @@ CleanupCase {
         find("Your system is clean!", screen());
         find("No significant cache or temporary files found.", screen());
         compare(figure("Categories"), "0");
+        compare(Program.spoken(Program.itemWith("detail", screen(), "No significant cache or temporary files found.")).name,
+                "Your system is clean!");
         verify(!Program.named("selectAllButton").enabled);
         Program.picture("cleanup-clean");
         holdScan();
         find("Scanning for cleanable files…", screen());
         find("Checking browser caches, logs, Xcode, package manager caches, Downloads and Trash", screen());
+        const progress = Program.spoken(Program.named("cleanupProgress"));
+        compare(progress.role, Accessible.ProgressBar);
+        compare(progress.name, "Scanning for cleanable files…");
+        compare(progress.description, "Checking browser caches, logs, Xcode, package manager caches, Downloads and Trash");
         Program.picture("cleanup-searching");
         Surroundings.releaseDisk();
         waitForScan();

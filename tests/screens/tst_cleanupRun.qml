@@ -137,6 +137,9 @@ CleanupCase {
         tryVerify(() => Surroundings.isDiskHeld(), patience, "the run is under way");
         tryCompare(cleanButton(), "text", "Cleaning…", patience);
         verify(!cleanButton().enabled && !scanButton().enabled);
+        compare(Program.spoken(cleanButton()).name, "Cleaning…");
+        compare(Program.spoken(cleanButton()).states, "disabled");
+        compare(Program.spoken(row("Log Files")).states, "expandable expanded selectable"); // it can't be ticked now
         verify(!Program.named("selectAllButton").enabled && !tickOf("Log Files").enabled && !tickOf("big.log").enabled);
         clickOn(row("big.log"));
         tick("Log Files");
