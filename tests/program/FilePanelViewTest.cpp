@@ -300,6 +300,16 @@ TEST_F(FilePanelViewTest, findsARowByWhatIsTyped)
     EXPECT_EQ(view_->find(u"n"_s), row(u"notes"_s));
 }
 
+TEST_F(FilePanelViewTest, findsARowAnewInTheFolderThatWasGoneInto)
+{
+    folder(u"start/deep/mail"_s);
+    chooseFolder(u"start"_s);
+    EXPECT_EQ(view_->find(u"d"_s), 0);
+    view_->openRow(0);
+    settle();
+    EXPECT_EQ(view_->find(u"m"_s), row(u"mail"_s)) << "What was typed was meant for the other folder.";
+}
+
 TEST_F(FilePanelViewTest, goesUpAndFindsRowsByKey)
 {
     for (const QString &name : {u"Music"_s, u"Movies"_s})

@@ -177,6 +177,18 @@ TEST_F(SavePanelViewTest, asksTheDiskOnceHoweverOftenItIsToldToSave)
     EXPECT_EQ(answers_, 1);
 }
 
+TEST_F(SavePanelViewTest, asksNothingOnceItIsCancelledBesideASilentDisk)
+{
+    file(u"a.csv"_s);
+    save(u"a.csv"_s);
+    view_->accept();
+    view_->cancel();
+    settle();
+    EXPECT_FALSE(view_->replaceQuestion()->isUp());
+    EXPECT_EQ(answers_, 1);
+    EXPECT_EQ(path_, std::nullopt);
+}
+
 TEST_F(SavePanelViewTest, savesAlsoWhereHiddenFilesAreSwitchedMeanwhile)
 {
     save(u"a.csv"_s);

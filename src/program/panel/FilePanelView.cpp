@@ -282,6 +282,7 @@ void FilePanelView::open(const QString &folder)
     selected_ = -1;
     rows_.reset({});
     failureText_.clear();
+    typed_.clear();
     deed_.drop(); // it was about another folder
     places_.mark(folder_);
     list();
