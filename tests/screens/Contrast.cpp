@@ -8,6 +8,7 @@
 #include <QQuickWindow>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -98,13 +99,16 @@ struct Pictures
     {
         std::vector<QRgb> behind;
         std::vector<QRgb> all;
+        std::array last = {QRgb(0), QRgb(0)}; // of each: no colour of an opaque picture is 0
         for (int y = seen.top(); y <= seen.bottom(); ++y) {
             const auto *wholeLine = reinterpret_cast<const QRgb *>(whole.constScanLine(y));
             const auto *groundLine = reinterpret_cast<const QRgb *>(ground.constScanLine(y));
             for (int x = seen.left(); x <= seen.right(); ++x) {
-                std::vector<QRgb> &colors = wholeLine[x] == groundLine[x] ? all : behind;
-                if (colors.empty() || colors.back() != groundLine[x])
-                    colors.push_back(groundLine[x]);
+                const bool isInk = wholeLine[x] != groundLine[x];
+                if (last[isInk] == groundLine[x]) // as most are
+                    continue;
+                last[isInk] = groundLine[x];
+                (isInk ? behind : all).push_back(groundLine[x]);
             }
         }
         std::vector<QRgb> &found = behind.empty() ? all : behind;
@@ -154,15 +158,28 @@ QQuickItem &front(QQuickWindow &window)
     return isDimmed ? *overlay : *window.contentItem();
 }
 
-/// Whether something that opens over the window hides a part of the text.
-bool isCovered(const QQuickItem *text, const QQuickWindow &window)
+/// What opens over the window, with its place there.
+struct Cover
+{
+    const QQuickItem *popup;
+    QRectF place;
+};
+
+std::vector<Cover> covers(const QQuickWindow &window)
+{
+    std::vector<Cover> covers;
+    for (const QQuickItem *popup : scene::items(
+             window.contentItem(), [](QQuickItem *item) { return item->inherits("QQuickPopupItem"); }))
+        covers.push_back({popup, popup->mapRectToScene(QRectF(0, 0, popup->width(), popup->height()))});
+    return covers;
+}
+
+/// Whether one of them hides a part of the text.
+bool isCovered(const QQuickItem *text, const std::vector<Cover> &covers)
 {
     const QRectF place = text->mapRectToScene(QRectF(0, 0, text->width(), text->height()));
-    const std::vector<QQuickItem *> open = scene::items(
-        window.contentItem(), [](QQuickItem *item) { return item->inherits("QQuickPopupItem"); });
-    return std::any_of(open.begin(), open.end(), [&](const QQuickItem *popup) {
-        return !popup->isAncestorOf(text)
-               && place.intersects(popup->mapRectToScene(QRectF(0, 0, popup->width(), popup->height())));
+    return std::any_of(covers.begin(), covers.end(), [&](const Cover &cover) {
+        return !cover.popup->isAncestorOf(text) && place.intersects(cover.place);
     });
 }
 
@@ -189,10 +206,11 @@ Measure measure(QQuickWindow &window)
     const Pictures pictures = paint(window, texts, colors);
     const double ratio = static_cast<double>(pictures.whole.width()) / window.width(); // pixels a point
 
+    const std::vector<Cover> open = covers(window);
     Measure measure;
     for (size_t i = 0; i < texts.size(); ++i) {
         const QRect seen = seenPixels(texts[i], ratio, pictures.whole.rect());
-        if (seen.isEmpty() || isCovered(texts[i], window))
+        if (seen.isEmpty() || isCovered(texts[i], open))
             continue;
         ++measure.texts;
         double least = std::numeric_limits<double>::max();

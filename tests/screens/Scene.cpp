@@ -25,7 +25,8 @@ void collect(QQuickItem *item, const QRectF &clip, const scene::Condition &condi
     if (rect.intersects(clip) && condition(item))
         found.push_back(item);
     const QRectF inside = item->clip() ? clip.intersected(rect) : clip;
-    for (QQuickItem *child : item->childItems())
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children)
         collect(child, inside, condition, found);
 }
 
