@@ -8,6 +8,7 @@ import os
 import plistlib
 import re
 import unicodedata
+import unittest
 
 import driver_test
 from driver_test import display, du
@@ -28,8 +29,8 @@ VENDORS = ["acme", "Acmesoft", "north", "nor", "lo", "fern", "sky-high", "glow_w
 PRODUCTS = ["editor", "Editor-beta", "photo_works", "notes", "ab", "player-2-x", "Reader", "swiftpm", "", "-tail"]
 TAILS = ["", "", "", ".helper", ".Updater-2", ".ShipIt", ".savedState", ".binarycookies", ".savedState.binarycookies"]
 TEAMS = ["", "", "", "group.", "Groups.", "ABCDE12345.", "a1b2c3.", "A1B2C.", "ABCDEFGHIJ.", "group.ABCDE12345."]
-TITLES = ["Acme", "Photo Works", "Editor", "Sky", "Glow", "Fern Notes", "No-Name", "X_Y z", "Caf\u00e9", "Cafe\u0301 Bar",
-          "Ab", "Old Thing", "Motion", "Mozilla", "Northern Lights", "Quiet  Hours", "Player 2"]
+TITLES = ["Acme", "Photo Works", "Editor", "Sky", "Glow", "Fern Notes", "No-Name", "X_Y z", "Caf\u00e9",
+          "Cafe\u0301 Bar", "Ab", "Old Thing", "Motion", "Mozilla", "Northern Lights", "Quiet  Hours", "Player 2"]
 
 
 def comparable(text):
@@ -45,11 +46,15 @@ def normalised(text):
     return text
 
 
-def excluded(text):
+def exclusion(text):
+    """Why the name says nothing about an application; none where it may."""
     lower = comparable(text)
     norm = normalised(lower)
-    return (len(lower) <= 4 or any(name.startswith(prefix) for name in (norm, lower) for prefix in PREFIXES)
-            or lower in NAMES or any(norm.startswith(prefix) for prefix in LIBRARIES))
+    if len(lower) <= 4:
+        return "short"
+    if lower in NAMES or any(name.startswith(prefix) for name in (norm, lower) for prefix in PREFIXES):
+        return "system"
+    return "library" if any(norm.startswith(prefix) for prefix in LIBRARIES) else None
 
 
 class GhostOracle:
@@ -77,23 +82,49 @@ class GhostOracle:
         return (len(parts) >= 3 and len(parts[1]) >= 4
                 and any(parts[1] in installed for installed in self.identifiers))
 
-    def is_held(self, entry):
+    def holder(self, entry):
         name = normalised(entry).removesuffix(".binarycookies")
         lower = comparable(name)
-        if self.resolves(name) or self.resolves(lower) or lower in self.identifiers:
-            return True
-        if any(lower.startswith(installed + ".") or installed.startswith(lower + ".")
-               for installed in self.identifiers):
-            return True
         parts = lower.split(".")
-        return len(parts) >= 3 and (".".join(parts[:2]) in self.vendors or self.vendor_is_taken(lower))
+        if self.resolves(name) or self.resolves(lower):
+            return "known"
+        if lower in self.identifiers:
+            return "own"
+        if any(lower.startswith(installed + ".") for installed in self.identifiers):
+            return "helper"
+        if any(installed.startswith(lower + ".") for installed in self.identifiers):
+            return "parent"
+        if len(parts) >= 3 and ".".join(parts[:2]) in self.vendors:
+            return "vendor"
+        return "word" if self.vendor_is_taken(lower) else None
 
-    def is_named(self, entry):
+    def namesake(self, entry):
         lower = comparable(entry)
+        if lower in self.names:
+            return "name"
         if any(lower in name or (name and name in lower) for name in self.names):
-            return True
+            return "part"
         pieces = [piece for piece in re.split(r"[\s_-]", lower) if len(piece) > 2]
-        return any(piece in taken for piece in pieces for taken in self.names | self.identifiers)
+        return "piece" if any(piece in taken for piece in pieces for taken in self.names | self.identifiers) else None
+
+    def reason(self, folder, entry):
+        """The rule that spares the entry, by the name that the corpus gives it; none for a ghost's."""
+        name = entry.replace(".savedState", "")
+        if folder == "Preferences":
+            if not entry.endswith(".plist"):
+                return "ending"
+            name = entry.removesuffix(".plist")
+            if len(name.split(".")) < 3:
+                return "components"
+        elif entry.startswith("."):
+            return "hidden"
+        if exclusion(name):
+            return exclusion(name)
+        if folder == "Application Support" and len(name.split(".")) < 3:
+            return self.namesake(entry)
+        if folder not in ("Application Support", "Preferences") and len(normalised(name).split(".")) < 3:
+            return "components"
+        return self.holder(name)
 
     def looks_installed(self, key, inferred):
         inferred = comparable(inferred)
@@ -103,20 +134,30 @@ class GhostOracle:
             return len(inferred) > 3
         return self.vendor_is_taken(key)
 
-    def is_left(self, entry, folder):
-        stripped = entry.replace(".savedState", "")
-        if entry.startswith(".") or excluded(stripped):
-            return False
-        if folder == "Application Support":
-            return not (self.is_held(stripped) if len(stripped.split(".")) >= 3 else self.is_named(entry))
-        return len(normalised(stripped).split(".")) >= 3 and not self.is_held(stripped)
-
 
 def inferred_name(key):
     parts = key.split(".")
     if len(parts) < 3:
         return key
     return " ".join(piece[:1].upper() + piece[1:] for piece in re.split(r"[ _-]", parts[-1]) if piece)
+
+
+def table(name):
+    """The rows of a table of the corpus, each in its columns."""
+    path = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "apps", "ghosts", "corpus", name)
+    with open(path, encoding="utf-8") as stream:
+        return [line.rstrip("\n").split("\t") for line in stream if line.strip() and not line.startswith("#")]
+
+
+class GhostCorpusTest(unittest.TestCase):
+    def test_every_entry_is_spared_by_the_rule_that_it_names(self):
+        rows = table("installed.tsv")
+        installed = [row for row in rows if row[0] == "applications"]
+        oracle = GhostOracle([name for row in installed for name in row[1:3]], [row[3] for row in installed],
+                             {row[3] for row in rows if row[0] == "elsewhere"})
+        for folder, entry, verdict, why, _ in table("entries.tsv"):
+            with self.subTest(folder=folder, entry=entry):
+                self.assertEqual(oracle.reason(folder, entry), why if verdict == "spared" else None)
 
 
 class GhostDriverTest(driver_test.DriverCase):
@@ -181,17 +222,16 @@ class GhostDriverTest(driver_test.DriverCase):
         groups = {}
         for folder, category in FOLDERS:
             for entry in os.listdir(self.library(folder)) if os.path.isdir(self.library(folder)) else []:
-                if oracle.is_left(entry, folder):
+                if oracle.reason(folder, entry) is None:
                     key = comparable(normalised(entry.replace(".savedState", ""))).replace(".binarycookies", "")
                     path = self.library(folder, entry)
                     groups.setdefault(key, []).append((path, category, du(os.fsencode(path))))
         folder = self.library("Preferences")
         for entry in os.listdir(folder) if os.path.isdir(folder) else []:
-            identifier = entry.removesuffix(".plist")
-            if (entry.endswith(".plist") and len(identifier.split(".")) >= 3 and not excluded(identifier)
-                    and not oracle.is_held(identifier)):
+            if oracle.reason("Preferences", entry) is None:
                 path = os.path.join(folder, entry)
-                groups.setdefault(comparable(identifier), []).append((path, "Preferences", os.lstat(path).st_size))
+                key = comparable(entry.removesuffix(".plist"))
+                groups.setdefault(key, []).append((path, "Preferences", os.lstat(path).st_size))
         found = []
         for key, files in groups.items():
             files = [file for file in files if file[2] > 0]
