@@ -1,5 +1,7 @@
 #include "base/EventLoop.h"
 
+#include "base/WorkQueue.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QScopeGuard>
@@ -8,10 +10,14 @@
 
 #include <chrono>
 #include <cmath>
+#include <memory>
+#include <semaphore>
 #include <utility>
 
 namespace eventloop {
 namespace {
+
+constexpr double turnLength = 0.05; // seconds between two looks whether the work has ended
 
 QEventLoop *innermost = nullptr; // the turn under way; main thread only
 
@@ -30,6 +36,19 @@ void turn(double seconds)
     QTimer::singleShot(std::chrono::milliseconds(std::llround(seconds * 1000)), Qt::PreciseTimer, &loop,
                        &QEventLoop::quit);
     loop.exec();
+}
+
+void runAside(WorkQueue &queue, const std::function<void()> &work)
+{
+    // Shared with the worker, which may still be at its release when the wait is over.
+    const auto hasEnded = std::make_shared<std::binary_semaphore>(0);
+    queue.post(WorkPriority::userInitiated, [hasEnded, &work] {
+        work();
+        hasEnded->release();
+        endTurn();
+    });
+    while (!hasEnded->try_acquire())
+        turn(turnLength);
 }
 
 void endTurn()

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "activity/HistoryService.h"
 #include "apps/AppService.h"
 #include "base/Paths.h"
+#include "filesystem/FileSystemService.h"
 #include "support/MadeBundle.h"
 #include "support/TestPlatform.h"
 
@@ -13,7 +15,14 @@
 struct AppServices
 {
     TestPlatform test;
-    std::unique_ptr<AppService> apps = std::make_unique<AppService>(test.platform, test.probes);
+    FileSystemService fileSystem{test.platform, test.probes};
+    std::unique_ptr<HistoryService> madeHistory; ///< none as long as nobody has asked for it
+    std::unique_ptr<AppService> apps =
+        std::make_unique<AppService>(test.platform, test.probes, fileSystem, [this]() -> HistoryService & {
+            if (!madeHistory)
+                madeHistory = std::make_unique<HistoryService>(test.platform);
+            return *madeHistory;
+        });
 
     /// A place in the folder for applications, and one in the user's library.
     QString inApplications(const QString &relative) const

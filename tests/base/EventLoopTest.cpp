@@ -1,8 +1,11 @@
 #include "base/EventLoop.h"
 
+#include "base/ThreadWorkQueue.h"
+
 #include <QCoreApplication>
 #include <QTimer>
 
+#include <semaphore>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -102,4 +105,37 @@ TEST(EventLoopTurn, isNotEndedByAnEndThatFoundNone)
     eventloop::turn(minute);
     EXPECT_TRUE(hasFired);
     EXPECT_FALSE(patience.isOver());
+}
+
+TEST(EventLoopRunAside, worksOnAnotherThreadAndReturnsAtTheEnd)
+{
+    ThreadWorkQueue queue;
+    bool wasMain = true;
+    eventloop::runAside(queue, [&wasMain] { wasMain = eventloop::isMainThread(); });
+    EXPECT_FALSE(wasMain);
+}
+
+TEST(EventLoopRunAside, letsEventsHaveTheirTurn)
+{
+    ThreadWorkQueue queue;
+    QObject context;
+    std::binary_semaphore hasFired(0);
+    QTimer::singleShot(0, &context, [&hasFired] { hasFired.release(); });
+    bool hasSeen = false;
+    eventloop::runAside(queue, [&] { hasSeen = hasFired.try_acquire_for(std::chrono::seconds(30)); });
+    EXPECT_TRUE(hasSeen);
+}
+
+TEST(EventLoopRunAside, mayBeEnteredAgainFromThere)
+{
+    ThreadWorkQueue queue;
+    QObject context;
+    std::binary_semaphore hasEnded(0);
+    bool isInnerDone = false;
+    QTimer::singleShot(0, &context, [&] {
+        eventloop::runAside(queue, [&isInnerDone] { isInnerDone = true; });
+        hasEnded.release();
+    });
+    eventloop::runAside(queue, [&hasEnded] { (void)hasEnded.try_acquire_for(std::chrono::seconds(30)); });
+    EXPECT_TRUE(isInnerDone);
 }
