@@ -19,12 +19,16 @@ public:
         bool showsHidden = false; ///< hidden folders too, and packages as the folders that they are
     };
 
+    /// What a file that is saved may be.
+    enum class FileType { any, commaSeparatedText };
+
     /// What the panel for saving shows.
     struct SaveRequest
     {
-        QString message;       ///< what is saved
-        QString suggestedName; ///< the file's name to begin with, without a folder
-        QString start;         ///< the folder to begin with; empty for the desktop's own choice
+        QString message;                   ///< what is saved; the panel's title
+        QString suggestedName;             ///< the file's name to begin with, without a folder
+        QString start;                     ///< the folder to begin with; empty for the desktop's own choice
+        FileType fileType = FileType::any; ///< the desktop's panel shows files of this type
     };
 
     /// Takes what the user chose in a panel, or none where the user cancelled.
