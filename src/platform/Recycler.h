@@ -51,7 +51,7 @@ public:
 
     /// Removes for good what lies in the Trash, links themselves and never what they lead to. `trash` is the folder of
     /// the trashed items (one of Locations::trash). With an item directly in it goes what the Trash keeps of it; what
-    /// lies inside one goes alone. Anything else is refused. Goes on after what can't be removed, and then throws Error
+    /// lies inside one goes alone. Anything else is refused, and all where the Trash is a link. Goes on after what can't be removed, and then throws Error
     /// with the first failure. Blocks.
     virtual void removeForGood(const QStringList &items, const QString &trash) = 0;
 };

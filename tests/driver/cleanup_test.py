@@ -242,6 +242,7 @@ class CleanupDriverTest(driver_test.DriverCase):
         self.write(b"Downloads/new")
         self.result("clean", self.home, "old-downloads")
         self.assertEqual(self.names(b"Downloads"), [b"new", b"old"])
+        self.assertFalse(os.path.exists(self.trash))
         self.result("clean", self.home, "old-downloads", old)
         self.assertEqual(self.names(b"Downloads"), [b"new"])
         self.assertEqual(set(self.trashed()), {old})
@@ -288,6 +289,15 @@ class CleanupDriverTest(driver_test.DriverCase):
         os.symlink(self.place(b"elsewhere"), self.place(b".local/share/Trash/files"))
         self.refused("clean", self.home, "trash", "--layout", "linux") # it is not offered
         self.assertEqual(self.names(b"elsewhere"), [b"file"])
+
+    def test_clean_takes_nothing_from_behind_a_trash_that_is_a_link(self):
+        self.write(b"elsewhere/files/file")
+        self.write(b"elsewhere/info/file.trashinfo")
+        os.makedirs(os.path.dirname(self.trash))
+        os.symlink(self.place(b"elsewhere"), self.trash)
+        self.result("clean", self.home, "trash", "--layout", "linux")
+        self.assertEqual(self.names(b"elsewhere/files"), [b"file"])
+        self.assertEqual(self.names(b"elsewhere/info"), [b"file.trashinfo"])
 
     def test_cleaned_everything_is_clean(self):
         for name in (b".cache/mozilla", b".cache/editor/logs", b".npm/_cacache"):

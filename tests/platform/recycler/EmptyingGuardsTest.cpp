@@ -10,6 +10,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -123,6 +124,23 @@ TEST_F(EmptyingGuardsTest, leavesTheNoteOfAnItemThatIsOnItsWayMeanwhile)
                      }),
               ENOENT);
     EXPECT_EQ(names(notes()), (QStringList{u"b.trashinfo"_s, u"stays.trashinfo"_s}));
+}
+
+TEST_F(EmptyingGuardsTest, leavesNothingWhereTwoProgramsEmptyOneTrash)
+{
+    QStringList all;
+    for (int number = 0; number < 20; ++number) {
+        const QString name = u"folder %1"_s.arg(number);
+        for (int inner = 0; inner < 10; ++inner)
+            makeFile(itemsBelowHome + u"/%1/deep %2/deeper/file"_s.arg(name).arg(inner));
+        makeNote(name, 1);
+        all << item(name);
+    }
+    std::thread other([&all] { failureOf(all, items()); });
+    failureOf(all, items());
+    other.join();
+    EXPECT_EQ(names(items()), QStringList());
+    EXPECT_EQ(names(notes()), QStringList());
 }
 
 TEST_F(EmptyingGuardsTest, leavesANoteThatIsNotTheOneThatItsItemHad)
