@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int bundleCount = 200;
-constexpr double mostOverhead = 1.05;
+constexpr double mostCatalogueOverhead = 1.05;
 constexpr double perBundle = 0.002; // seconds that reading a bundle may take besides
 
 std::string identifierOf(int number)
@@ -109,7 +109,7 @@ void listApps()
     if (apps.size() != bundleCount || sizeOf(apps) != bareSize)
         throw std::runtime_error("the two sides found different things");
     measurement::printRatio("apps-list", comparison,
-                            mostOverhead + bundleCount * perBundle / comparison.peers, "ms",
+                            mostCatalogueOverhead + bundleCount * perBundle / comparison.peers, "ms",
                             "its du runs, wall");
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double mostPasses = 10;
 constexpr int installedApps = 500;
-constexpr int entries = 10000;
+constexpr int entryCount = 10000;
 
 /// A word of these letters: words of different ones have no part in common.
 QString word(std::mt19937_64 &random, const QString &letters, int least, int most)
@@ -53,7 +53,7 @@ Library makeLibrary()
         made.names << product + u' ' + word(random, there, 4, 8);
         made.identifiers << QStringLiteral("com.%1.%2").arg(word(random, there, 6, 12), product);
     }
-    for (int i = 0; i < entries; ++i) {
+    for (int i = 0; i < entryCount; ++i) {
         const QString vendor = word(random, gone, 6, 12);
         const QString product = word(random, gone, 5, 9);
         if (i % 10 < 7)
@@ -103,7 +103,7 @@ void rules()
     const auto bare = [&] { substrings = substringsOf(library); };
     const auto comparison = measurement::compare([&] { return measurement::threadTime(ours); },
                                                  [&] { return measurement::threadTime(bare); });
-    if (ghosts != entries || substrings != 0)
+    if (ghosts != entryCount || substrings != 0)
         throw std::runtime_error("an entry without an owner was spared");
     measurement::printRatio("ghost-rules", comparison, mostPasses, "ms",
                             "one pass of substring tests of every entry");

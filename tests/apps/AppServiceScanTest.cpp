@@ -21,12 +21,12 @@ protected:
     /// Runs `block` once, while a scan has the second bundle at hand.
     void duringTheSecondBundle(std::function<void()> block)
     {
-        files::injectFaults([this, seen = 0, block = std::move(block)](files::Operation operation,
-                                                                       const QString &path) mutable {
-            if (operation == files::Operation::open && path.endsWith(u"/Info.plist") && ++seen == 2)
-                block();
-            return 0;
-        });
+        files::injectFaults(
+            [seen = 0, block = std::move(block)](files::Operation operation, const QString &path) mutable {
+                if (operation == files::Operation::open && path.endsWith(u"/Info.plist") && ++seen == 2)
+                    block();
+                return 0;
+            });
     }
 
     InjectedFaults faults{nullptr}; // taken away at the end

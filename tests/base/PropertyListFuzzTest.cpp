@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList keys = {u"CFBundleName"_s, u"CFBundleIdentifier"_s};
+const QStringList askedKeys = {u"CFBundleName"_s, u"CFBundleIdentifier"_s};
 constexpr int changesOfEach = 4000;
 
 QJsonObject sample()
@@ -44,7 +44,7 @@ int readChanged(const QByteArray &list, unsigned seed)
             changed.truncate(below(changed.size()));
         else if (i % 8 == 1)
             changed.insert(below(changed.size()), list.sliced(below(list.size()), 1));
-        const auto texts = propertylist::texts(changed, keys);
+        const auto texts = propertylist::texts(changed, askedKeys);
         EXPECT_LE(texts.size(), 2);
         whole += texts.size() == 2 ? 1 : 0;
     }
@@ -72,7 +72,7 @@ TEST(PropertyListFuzz, readsEachBeginningOfAList)
 {
     for (const QByteArray &list : {propertylists::xml(sample()), propertylists::binary(sample())}) {
         for (qsizetype size = 0; size < list.size(); ++size)
-            EXPECT_LE(propertylist::texts(list.first(size), keys).size(), 2);
-        EXPECT_EQ(propertylist::texts(list, keys).size(), 2);
+            EXPECT_LE(propertylist::texts(list.first(size), askedKeys).size(), 2);
+        EXPECT_EQ(propertylist::texts(list, askedKeys).size(), 2);
     }
 }
