@@ -1,6 +1,7 @@
 #include "platform/linux/PanelPortal.h"
 
 #include "base/Paths.h"
+#include "platform/linux/PanelFilter.h"
 
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
@@ -72,6 +73,8 @@ PanelPortal::Request PanelPortal::requestFor(const Workspace::SaveRequest &reque
     QVariantMap options = commonOptions(request.start);
     if (!request.suggestedName.isEmpty())
         options.insert(QStringLiteral("current_name"), paths::display(request.suggestedName));
+    if (request.fileType != Workspace::FileType::any)
+        options.insert(QStringLiteral("filters"), panelfilter::of(request.fileType));
     return {QStringLiteral("SaveFile"), paths::display(request.message), options};
 }
 

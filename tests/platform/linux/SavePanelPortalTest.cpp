@@ -5,6 +5,8 @@
 #include "WaitUntil.h"
 #include "WorkspaceFixture.h"
 
+#include <QDBusArgument>
+
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -49,6 +51,39 @@ TEST_F(SavePanelPortalTest, asksOnlyForWhatItIsTold)
     ASSERT_TRUE(service.waitForRequest());
     EXPECT_FALSE(service.options.contains(u"current_folder"_s));
     EXPECT_FALSE(service.options.contains(u"current_name"_s));
+    EXPECT_FALSE(service.options.contains(u"filters"_s));
+}
+
+TEST_F(SavePanelPortalTest, tellsThePortalOfTheTypeOfTheFile)
+{
+    StandInPanelPortal service(bus_.connect());
+    PanelAnswer answer;
+    workspace().chooseSavePath({u"Export"_s, u"a.csv"_s, {}, Workspace::FileType::commaSeparatedText},
+                               answer.taker());
+    ASSERT_TRUE(service.waitForRequest());
+    const auto filters = service.options.value(u"filters"_s).value<QDBusArgument>();
+    ASSERT_EQ(filters.currentSignature(), u"a(sa(us))"_s);
+    QStringList told;
+    filters.beginArray();
+    while (!filters.atEnd()) {
+        QString name;
+        filters.beginStructure();
+        filters >> name;
+        told << name;
+        filters.beginArray();
+        while (!filters.atEnd()) {
+            uint kind = 0;
+            QString pattern;
+            filters.beginStructure();
+            filters >> kind >> pattern;
+            filters.endStructure();
+            told << u"%1 %2"_s.arg(kind).arg(pattern);
+        }
+        filters.endArray();
+        filters.endStructure();
+    }
+    filters.endArray();
+    EXPECT_EQ(told, QStringList({u"CSV"_s, u"0 *.csv"_s, u"1 text/csv"_s}));
 }
 
 TEST_F(SavePanelPortalTest, suggestsNoBytesThatAreNotUtf8)
