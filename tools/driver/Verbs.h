@@ -17,9 +17,11 @@ std::vector<Verb> ofDuplicates(); ///< files of equal content
 std::vector<Verb> ofCleanup();    ///< what can be cleaned
 std::vector<Verb> ofApps();       ///< installed applications
 std::vector<Verb> ofGhosts();     ///< what gone applications have left behind
+std::vector<Verb> ofExports();    ///< both as files for a spreadsheet
 std::vector<Verb> ofTexts();      ///< formatters and settings
 
 /// In the order in which the help lists them.
-inline constexpr std::array groups = {ofFiles, ofDisk, ofDuplicates, ofCleanup, ofApps, ofGhosts, ofTexts};
+inline constexpr std::array groups = {ofFiles, ofDisk,   ofDuplicates, ofCleanup,
+                                      ofApps,  ofGhosts, ofExports,    ofTexts};
 
 } // namespace verbs
