@@ -14,12 +14,13 @@ std::vector<Benchmark> ofDuplicates(); ///< duplicate scans against other progra
 std::vector<Benchmark> ofCleanup();    ///< what can be cleaned against the runs and walks that it takes
 std::vector<Benchmark> ofApps();       ///< installed applications against the runs that their list takes
 std::vector<Benchmark> ofGhosts();     ///< what gone applications left, against plain substring tests
+std::vector<Benchmark> ofExports();    ///< the App Manager's export against a bare loop
 std::vector<Benchmark> ofTreemap();    ///< the map's layout against one sort
 std::vector<Benchmark> ofWindow();     ///< start, main loop and memory of the running program
 std::vector<Benchmark> ofRows();       ///< walking and scrolling the long lists of the running program
 
 /// In the order in which they run.
-inline constexpr std::array groups = {ofScans,   ofDuplicates, ofCleanup, ofApps, ofGhosts,
-                                      ofTreemap, ofHistory,    ofWindow,  ofRows};
+inline constexpr std::array groups = {ofScans,   ofDuplicates, ofCleanup, ofApps,   ofGhosts,
+                                      ofExports, ofTreemap,    ofHistory, ofWindow, ofRows};
 
 } // namespace benchmarks

@@ -85,7 +85,11 @@ QString relativeDayText(std::optional<Date> date, Date now)
 {
     if (!date)
         return QStringLiteral("Unknown");
-    const int days = dates::wholeDaysBetween(*date, now);
+    return elapsedDaysText(dates::wholeDaysBetween(*date, now));
+}
+
+QString elapsedDaysText(int days)
+{
     if (days == 0)
         return QStringLiteral("Today");
     if (days == 1)

@@ -38,3 +38,6 @@ QString colorText(const QString &hex);
 /// How long ago a day was: "Today", "3 days ago", "1 weeks ago" (there is no singular form); "Unknown" without a
 /// date. A date to come counts like "-2 days ago".
 QString relativeDayText(std::optional<Date> date, Date now);
+
+/// The same of whole days that have elapsed by the calendar (dates::wholeDaysBetween).
+QString elapsedDaysText(int days);

@@ -190,3 +190,11 @@ TEST(RelativeDayText, truncatesWeeksMonthsAndYears)
     EXPECT_EQ(dayText(729), QStringLiteral("1 years ago"));
     EXPECT_EQ(dayText(730), QStringLiteral("2 years ago"));
 }
+
+TEST(ElapsedDaysText, isThatOfTheDate)
+{
+    EXPECT_EQ(elapsedDaysText(0), u"Today");
+    EXPECT_EQ(elapsedDaysText(-2), u"-2 days ago");
+    EXPECT_EQ(elapsedDaysText(29), u"4 weeks ago");
+    EXPECT_EQ(elapsedDaysText(365), u"1 years ago");
+}

@@ -6,6 +6,8 @@
 #include <QString>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace {
 
@@ -40,7 +42,9 @@ public:
     void add(qint64 number)
     {
         separate();
-        text_ += QString::number(number);
+        std::array<char, 20> digits = {}; // of the largest number
+        const char *end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+        text_ += QLatin1StringView(digits.data(), end - digits.data());
     }
 
     void endLine()
@@ -64,7 +68,7 @@ private:
 };
 
 /// How long ago days were, for a whole list of them. Asking the calendar costs more than all the rest of a line, and there
-/// are few texts: all days between two with the same text have it too, so that most need not be asked for.
+/// are few texts, so that most need not be asked for.
 class DayTexts
 {
 public:
@@ -77,6 +81,13 @@ public:
     {
         if (!date)
             return relativeDayText(date, now_);
+        // These are days of 24 hours from midnight to midnight, and the calendar's differ from them by three at most, since
+        // a zone's clocks are never set by more than 26 hours. Far enough from where the text changes that is near enough.
+        using std::chrono::days;
+        const auto about =
+            static_cast<int>((std::chrono::floor<days>(now_) - std::chrono::floor<days>(*date)).count());
+        if (const QString text = elapsedDaysText(about - 3); about > 9 && text == elapsedDaysText(about + 3))
+            return text;
         const auto known = std::find_if(spans_.begin(), spans_.end(), [&date](const Span &span) {
             return span.from <= *date && *date <= span.to;
         });
@@ -91,6 +102,7 @@ private:
         Date to;
     };
 
+    /// All days between two with the same text have it too.
     QString learn(Date date)
     {
         const QString text = relativeDayText(date, now_);

@@ -118,12 +118,15 @@ TEST(AppCsv, writesSizesWithoutGrouping)
 
 TEST(AppCsv, tellsEachDayAsTheCalendarDoes)
 {
+    const LocaleGuard farEast("en_US", "Pacific/Apia"); // which once left a day out
     std::vector<RealInstalledApp> apps;
     QByteArray expected = installedHeader;
     // In an order in which most days lie between two that are known already.
     for (int i = 0; i < 1500; ++i) {
         RealInstalledApp app = notes();
-        app.lastUsed = now - (i * 677 % 1500 - 20) * day + std::chrono::hours(i % 24);
+        app.lastUsed =
+            i == 0 ? dates::distantPast
+                   : now - (i * 677 % 1500 - 20) * (i % 2 == 0 ? 1 : 4) * day + std::chrono::hours(i % 24);
         apps.push_back(app);
         expected += "Notes,1.2,com.example.notes,1,20,300,4000,50000,54321,"
                     + relativeDayText(app.lastUsed, now).toUtf8() + ",/Applications/Notes.app\n";
