@@ -18,6 +18,7 @@ ListView {
     signal rowToggled(int row) // by Space
     signal menuRequested(int row, Item item) // `item` is the row where a key asks, null where the pointer does
     signal selectionExtended(int from, int to) // the current row was moved with Shift held
+    signal ranOut() // the last row has gone from under somebody who uses keys
 
     // Makes that row the current one and brings the keyboard to it.
     function take(row) {
@@ -54,6 +55,8 @@ ListView {
     function beginByKey() {
         if (!activeFocus || !beginsByKey || !InputWatch.wasKeyLast())
             return;
+        if (count === 0)
+            ranOut();
         forceLayout();
         takeFirstInView();
     }

@@ -28,3 +28,9 @@ bool RowSteps::asksForMenu(int key, int modifiers)
 {
     return key == Qt::Key_Menu || (key == Qt::Key_F10 && modifiers == Qt::ShiftModifier);
 }
+
+bool RowSteps::asksForRemoval(int key, int modifiers)
+{
+    const bool isAlone = (modifiers & static_cast<int>(~Qt::KeypadModifier)) == 0;
+    return isAlone && (key == Qt::Key_Delete || key == Qt::Key_Backspace);
+}

@@ -21,4 +21,7 @@ public:
 
     /// Whether a key asks for the context menu: the Menu key, or Shift and F10.
     Q_INVOKABLE static bool asksForMenu(int key, int modifiers);
+
+    /// Whether a key asks for the row to be taken out of its list: Delete or Backspace, alone.
+    Q_INVOKABLE static bool asksForRemoval(int key, int modifiers);
 };

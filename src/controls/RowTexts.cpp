@@ -9,7 +9,7 @@ QString RowTexts::place(int row, int count)
 
 QString RowTexts::told(const QString &spoken, const QString &place)
 {
-    return spoken.isEmpty() ? place : spoken + QStringLiteral(", ") + place;
+    return text::joined({spoken, place}, u", ");
 }
 
 QString RowTexts::menuName()

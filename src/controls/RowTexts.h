@@ -16,7 +16,7 @@ public:
     /// Where a row stands: "3 of 120" for the one with the number 2.
     Q_INVOKABLE static QString place(int row, int count);
 
-    /// What assistive technology is told after the row's name: what else it shows, and its place.
+    /// What assistive technology is told after the row's name: what else it shows, and its place; what is empty is left out.
     Q_INVOKABLE static QString told(const QString &spoken, const QString &place);
 
     /// What the context menu of a row is called.

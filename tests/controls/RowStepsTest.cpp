@@ -79,6 +79,16 @@ TEST(RowSteps, askForTheMenuByItsKeyAndByShiftF10)
     EXPECT_FALSE(RowSteps::asksForMenu(Qt::Key_Space, Qt::ShiftModifier));
 }
 
+TEST(RowSteps, askToTakeARowOutByDeleteAndBackspaceAlone)
+{
+    EXPECT_TRUE(RowSteps::asksForRemoval(Qt::Key_Delete, Qt::NoModifier));
+    EXPECT_TRUE(RowSteps::asksForRemoval(Qt::Key_Delete, Qt::KeypadModifier));
+    EXPECT_TRUE(RowSteps::asksForRemoval(Qt::Key_Backspace, Qt::NoModifier));
+    EXPECT_FALSE(RowSteps::asksForRemoval(Qt::Key_Backspace, Qt::ControlModifier));
+    EXPECT_FALSE(RowSteps::asksForRemoval(Qt::Key_Delete, Qt::ShiftModifier));
+    EXPECT_FALSE(RowSteps::asksForRemoval(Qt::Key_X, Qt::NoModifier));
+}
+
 TEST(RowSteps, goOnWithTheWheelByTheLinesThatTheDesktopTells)
 {
     const int lines = QGuiApplication::styleHints()->wheelScrollLines();

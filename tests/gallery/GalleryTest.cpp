@@ -29,6 +29,7 @@ const std::map<QString, std::string> apart = {
     {u"KeyboardHeir"_s, "passes the keyboard on, and shows nothing"},
     {u"FocusRow"_s, "what Segments, TabStrip and StackedBar have in common"},
     {u"Tip"_s, "makes the TipPopup, which is shown"},
+    {u"RemovableRow"_s, "what FolderRow and RuleRow have in common"},
     {u"RowMenu"_s, "a PopupMenu that knows its row"},
 };
 
@@ -61,6 +62,7 @@ const std::map<QString, Lack> lacks = {
     {u"FolderDrop"_s,
      {QStringList(u"normal"_s) + doings + off + wording,
       "it is seen only while a folder is dragged over it"}},
+    {u"FolderRow"_s, {{u"focused"_s}, "as a ListRow"}},
     {u"FootBar"_s, {doings, "its button has a section"}},
     {u"ListRow"_s, {{u"focused"_s}, "the list has the keyboard, and the row is the current one"}},
     {u"NumberField"_s,
@@ -72,7 +74,7 @@ const std::map<QString, Lack> lacks = {
     {u"RowBackground"_s,
      {QStringList(u"focused"_s) + off + wording, "a ground: it shows which row is current"}},
     {u"RowList"_s, {doings + wording, "its rows have a section"}},
-    {u"RuleRow"_s, {doings, "it takes no press, and its button has a section"}},
+    {u"RuleRow"_s, {{u"focused"_s}, "as a ListRow"}},
     {u"ScanCommands"_s, {doings + longText, "its buttons have sections; their words are short"}},
     {u"ScanProgress"_s, {doings, "it only tells"}},
     {u"ScrollHandle"_s, {QStringList(u"focused"_s) + wording, "it takes no keys and has no text"}},

@@ -18,33 +18,49 @@ DuplicatesCase {
         Program.forget();
     }
 
+    function scanPathList() {
+        return Program.named("scanPathList");
+    }
+
+    function ruleList() {
+        return Program.named("ruleList");
+    }
+
+    // The rows of the folders; all of them have room.
     function scanPathRows() {
-        return itemsOf(Program.named("scanPathList"));
+        return eachOf(scanPathList(), row => row);
     }
 
     function scanPaths() {
         return scanPathRows().map(row => row.pathText);
     }
 
-    function itemsOf(view) {
+    // What `value` says of each row, one after the other brought into view.
+    function eachOf(list, value) {
         Program.settle();
-        const items = [];
-        for (let i = 0; i < view.count; ++i) {
-            view.positionViewAtIndex(i, ListView.Contain);
-            items.push(view.itemAtIndex(i));
+        const top = list.contentY;
+        const values = [];
+        for (let i = 0; i < list.count; ++i) {
+            list.positionViewAtIndex(i, ListView.Contain);
+            Program.settle();
+            values.push(value(list.itemAtIndex(i)));
         }
-        return items;
+        list.contentY = top;
+        Program.settle();
+        return values;
     }
 
+    // What is told of each rule: rows are used again.
     function rules() {
-        return itemsOf(Program.named("ruleList"));
+        return eachOf(ruleList(), row => ({ ruleText: row.ruleText, symbol: row.symbol,
+                                            canBeRemoved: Program.named("removeExclusion", row) !== null }));
     }
 
     // The row of that rule, scrolled into view.
     function rule(text) {
         const index = rules().findIndex(row => row.ruleText === text);
         verify(index >= 0, `there is a rule ${text}`);
-        const list = Program.named("ruleList") as ListView;
+        const list = ruleList() as ListView;
         list.positionViewAtIndex(index, ListView.Contain);
         Program.settle();
         return list.itemAtIndex(index);

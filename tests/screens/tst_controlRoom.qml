@@ -20,12 +20,16 @@ Item {
     }
     Component {
         id: folders
-        FolderRow {
+        RowList {
             width: 300
-            text: "/home/me/Documents"
-            detail: "12 files"
-            canBeRemoved: true
-            removeLabel: "Remove"
+            height: 40
+            model: 1
+            delegate: FolderRow {
+                text: "/home/me/Documents"
+                detail: "12 files"
+                canBeRemoved: true
+                removeLabel: "Remove"
+            }
         }
     }
     Component {
@@ -80,7 +84,7 @@ Item {
         }
 
         function test_detailOfAFolderStandsApartFromItsButton() {
-            const folder = make(folders);
+            const folder = make(folders).itemAtIndex(0);
             const detail = Program.textItem("12 files", folder);
             const end = detail.mapToItem(folder, detail.width, 0).x;
             verify(end + 8 <= folder.removeButton.mapToItem(folder, 0, 0).x);

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Quillmere
 
 // One of the two lists of the scope, under its title and over the button that adds to it.
@@ -15,9 +14,8 @@ Column {
     required property var rows // QAbstractItemModel
     required property Component delegate
 
-    readonly property int gutter: Theme.unit * 3 // the scroll handle stands beside the rows, not over them
-
     signal added
+    signal opened(int row) // by key; a click is the row's own
 
     spacing: Theme.unit * 2
 
@@ -32,26 +30,29 @@ Column {
             Accessible.name: text
         }
         ActionButton {
+            id: add
             anchors.right: parent.right
             text: column.addText
             symbol: column.addSymbol
             onClicked: column.added()
         }
     }
-    ListView {
+    RowList {
         id: list
         objectName: column.listName
-        width: parent.width + column.gutter
+        width: parent.width + gutter
         height: column.listHeight
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
+        focus: false // it is not what the screen is for
+        activeFocusOnTab: count > 0
         model: column.rows
         delegate: column.delegate
-        Accessible.role: Accessible.List
+        onRowOpened: row => column.opened(row)
+        onRowToggled: row => column.opened(row)
+        onRanOut: add.forceActiveFocus(Qt.TabFocusReason)
         Accessible.name: column.title
-        T.ScrollBar.vertical: ScrollHandle { }
 
         BodyText {
+            parent: list
             anchors.centerIn: parent
             width: column.width
             visible: text.length > 0
@@ -60,6 +61,8 @@ Column {
             color: Theme.secondText
             wrapMode: Text.Wrap
             elide: Text.ElideNone
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

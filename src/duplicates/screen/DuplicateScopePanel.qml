@@ -33,13 +33,11 @@ Card {
             rows: panel.scope.scanPaths
             listName: "scanPathList"
             onAdded: panel.scope.addFolder()
+            onOpened: row => panel.scope.changeScanPath(row)
             delegate: FolderRow {
-                required property int index
                 required property string pathText
-                width: folders.width
                 text: pathText
-                tip: panel.view.texts.changeFolderTip
-                Accessible.description: RowTexts.told(tip, RowTexts.place(index, ListView.view ? ListView.view.count : 0))
+                hint: panel.view.texts.changeFolderTip
                 canBeRemoved: true
                 removeLabel: panel.view.texts.removeScanPath
                 removeTip: panel.view.texts.removeScanPathTip
@@ -59,12 +57,12 @@ Card {
             listName: "ruleList"
             onAdded: panel.scope.addExclusion()
             delegate: RuleRow {
-                required property int index
                 required property string ruleText
                 required property bool isOverridden
-                width: folders.width
+                required symbol
+                required hint
+                required canBeRemoved
                 text: ruleText
-                Accessible.description: RowTexts.told(tip, RowTexts.place(index, ListView.view ? ListView.view.count : 0))
                 suffix: isOverridden ? panel.view.texts.overridden : ""
                 removeTip: panel.view.texts.removeExclusionTip
                 removeButton.objectName: "removeExclusion"

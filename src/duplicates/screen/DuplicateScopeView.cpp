@@ -27,6 +27,20 @@ bool isSame(const QString &left, const QString &right)
     return left == right;
 }
 
+/// Takes a new list. A record that was changed for another keeps its row, and with it the keyboard where it is.
+void take(RecordListModel<QString> &rows, const QStringList &list)
+{
+    const std::vector<QString> &before = rows.records();
+    std::vector<QString> now = recordsOf(list);
+    const auto [old, other] = std::mismatch(before.begin(), before.end(), now.begin(), now.end());
+    const bool isOneChanged = before.size() == now.size() && old != before.end()
+                              && std::equal(old + 1, before.end(), other + 1, now.end());
+    if (isOneChanged)
+        rows.replace(static_cast<int>(old - before.begin()), *other);
+    else
+        rows.update(std::move(now), isSame);
+}
+
 /// The folders among the places, links followed, each without a slash at its end. Blocks for as long as the disk does.
 QStringList foldersAmong(const QList<QUrl> &urls)
 {
@@ -51,7 +65,7 @@ DuplicateScopeView::DuplicateScopeView(const Platform &platform, DuplicateServic
     , ruleRows_({
           {"ruleText", [this](const QString &rule) { return ruleText(rule); }},
           {"symbol", [this](const QString &rule) { return ruleSymbol(rule); }},
-          {"tip", [this](const QString &rule) { return ruleTip(rule); }},
+          {"hint", [this](const QString &rule) { return ruleHint(rule); }},
           {"isOverridden", [this](const QString &rule) { return service_.isOverridden(rule); }},
           {"canBeRemoved", [this](const QString &rule) { return canBeRemoved(rule); }},
       })
@@ -73,7 +87,7 @@ const std::vector<DuplicateScopeView::MinSizeOption> &DuplicateScopeView::minSiz
 
 void DuplicateScopeView::takeScope()
 {
-    scanPathRows_.update(recordsOf(service_.scanPaths()), isSame);
+    take(scanPathRows_, service_.scanPaths());
     ruleRows_.update(recordsOf(service_.ignorePaths()), isSame);
     emit scopeChanged();
 }
@@ -90,7 +104,7 @@ QString DuplicateScopeView::ruleSymbol(const QString &rule) const
     return service_.isBuiltIn(rule) ? QStringLiteral("lock.fill") : QStringLiteral("folder.badge.minus");
 }
 
-QString DuplicateScopeView::ruleTip(const QString &rule) const
+QString DuplicateScopeView::ruleHint(const QString &rule) const
 {
     if (service_.isOverridden(rule))
         return QStringLiteral(

@@ -37,7 +37,7 @@ public:
 
     /// Rows: pathText.
     QAbstractItemModel *scanPaths() { return &scanPathRows_; }
-    /// Rows: ruleText, symbol, tip (empty for a rule of the user's own), isOverridden, canBeRemoved.
+    /// Rows: ruleText, symbol, hint (empty for a rule of the user's own), isOverridden, canBeRemoved.
     QAbstractItemModel *rules() { return &ruleRows_; }
     bool hasScanPaths() const { return !service_.scanPaths().isEmpty(); }
     QStringList minSizeLabels() const;
@@ -62,7 +62,7 @@ private:
     void takeScope();
     QString ruleText(const QString &rule) const;
     QString ruleSymbol(const QString &rule) const;
-    QString ruleTip(const QString &rule) const;
+    QString ruleHint(const QString &rule) const;
     bool canBeRemoved(const QString &rule) const;
     void chooseFolder(const QString &message, const QString &start,
                       const std::function<void(DuplicateService &service, const QString &folder)> &use);

@@ -67,7 +67,7 @@ TEST_F(DuplicateScopeViewTest, beginsWithTheHomeFolderAndTheBuiltInLocks)
     EXPECT_TRUE(view->hasScanPaths());
     for (int row = 0; row < 8; ++row) {
         EXPECT_EQ(rowValue(view->rules(), row, "symbol"), u"lock.fill"_s) << row;
-        EXPECT_EQ(rowValue(view->rules(), row, "tip"), lockTip) << row;
+        EXPECT_EQ(rowValue(view->rules(), row, "hint"), lockTip) << row;
         EXPECT_EQ(rowValue(view->rules(), row, "isOverridden"), false) << row;
         EXPECT_EQ(rowValue(view->rules(), row, "canBeRemoved"), false) << row;
     }
@@ -98,7 +98,7 @@ TEST_F(DuplicateScopeViewTest, opensTheLockOfAFolderThatAScanPathLeadsInto)
         duplicates.addScanPath(home + inside);
         EXPECT_EQ(rule(u"~/Library"_s, "isOverridden"), true);
         EXPECT_EQ(rule(u"~/Library"_s, "symbol"), u"lock.open.fill"_s);
-        EXPECT_EQ(rule(u"~/Library"_s, "tip"), openLockTip);
+        EXPECT_EQ(rule(u"~/Library"_s, "hint"), openLockTip);
         EXPECT_EQ(rule(u"~/Library"_s, "canBeRemoved"), false);
         EXPECT_EQ(rule(u"~/.Trash"_s, "symbol"), u"lock.fill"_s);
         view->removeScanPath(1);
@@ -121,7 +121,7 @@ TEST_F(DuplicateScopeViewTest, hasNoLockOnARuleOfTheUsersOwn)
 {
     duplicates.addIgnorePath(home); // and a scan path as well, which is no override
     EXPECT_EQ(rule(u"~"_s, "symbol"), u"folder.badge.minus"_s);
-    EXPECT_EQ(rule(u"~"_s, "tip"), QString());
+    EXPECT_EQ(rule(u"~"_s, "hint"), QString());
     EXPECT_EQ(rule(u"~"_s, "isOverridden"), false);
     EXPECT_EQ(rule(u"~"_s, "canBeRemoved"), true);
 }
@@ -182,6 +182,19 @@ TEST_F(DuplicateScopeViewTest, asksForAnotherFolderInThePlaceOfOne)
     EXPECT_EQ(folderTexts(), u"~ /chosen /b"_s);
     view->changeScanPath(1); // the same once more
     EXPECT_EQ(folderTexts(), u"~ /chosen /b"_s);
+}
+
+TEST_F(DuplicateScopeViewTest, keepsTheRowOfAFolderThatIsChanged)
+{
+    duplicates.addScanPath(u"/a"_s);
+    duplicates.addScanPath(u"/b"_s);
+    const QSignalSpy gone(view->scanPaths(), &QAbstractItemModel::rowsRemoved);
+    const QSignalSpy changed(view->scanPaths(), &QAbstractItemModel::dataChanged);
+    test.workspace.chosenFolder = u"/chosen"_s;
+    view->changeScanPath(1);
+    EXPECT_EQ(folderTexts(), u"~ /chosen /b"_s);
+    EXPECT_EQ(gone.count(), 0);
+    EXPECT_EQ(changed.count(), 1);
 }
 
 TEST_F(DuplicateScopeViewTest, dropsAFolderThatIsReplacedByAnotherOfTheList)

@@ -43,32 +43,44 @@ Column {
     GallerySection {
         control: "FolderRow"
         role: Accessible.ListItem
+        toldStates: ["selectable"]
+        poses: ["normal", "hovered", "pressed", "disabled", "long text", "right to left"]
         GalleryCell {
             id: folder
             usual: "/home/robin/Documents"
-            FolderRow {
-                width: 300
-                text: folder.word
-                detail: "12 files"
-                canBeRemoved: true
-                removeLabel: "Remove"
+            RowList {
+                width: 300 + gutter
+                height: Theme.controlHeight
+                activeFocusOnTab: false
+                model: 1
+                delegate: FolderRow {
+                    text: folder.word
+                    detail: "12 files"
+                    canBeRemoved: true
+                    removeLabel: "Remove"
+                }
             }
         }
     }
     GallerySection {
         control: "RuleRow"
         role: Accessible.ListItem
-        poses: GalleryPoses.still
+        toldStates: ["selectable"]
+        poses: ["normal", "hovered", "pressed", "disabled", "long text", "right to left"]
         GalleryCell {
             id: rule
             usual: "node_modules"
-            RuleRow {
-                width: 300
-                text: rule.word
-                symbol: "lock.fill"
-                tip: ""
-                canBeRemoved: true
-                removeTip: "Remove"
+            RowList {
+                width: 300 + gutter
+                height: Theme.controlHeight
+                activeFocusOnTab: false
+                model: 1
+                delegate: RuleRow {
+                    text: rule.word
+                    symbol: "lock.fill"
+                    canBeRemoved: true
+                    removeTip: "Remove"
+                }
             }
         }
     }
