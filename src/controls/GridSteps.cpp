@@ -57,6 +57,16 @@ int GridSteps::target(int key, int modifiers, int current, int count, int column
     return std::clamp(next, 0, count - 1);
 }
 
+int GridSteps::firstWhole(double top, double cellHeight, int count, int columns)
+{
+    if (count < 1)
+        return -1;
+    const int across = std::max(1, columns);
+    const int lastRow = (count - 1) / across;
+    const double row = cellHeight > 0 ? std::ceil(top / cellHeight) : 0;
+    return static_cast<int>(std::clamp(row, 0.0, static_cast<double>(lastRow))) * across;
+}
+
 int GridSteps::mirrored(int key)
 {
     return key == Qt::Key_Left ? Qt::Key_Right : key == Qt::Key_Right ? Qt::Key_Left : key;

@@ -17,6 +17,10 @@ public:
     Q_INVOKABLE static int target(int key, int modifiers, int current, int count, int columns,
                                   double rowsInView);
 
+    /// The first cell of the first row that is whole in a view which begins `top` below the first row; where the last row is
+    /// cut as well, its first cell. -1 for an empty grid.
+    Q_INVOKABLE static int firstWhole(double top, double cellHeight, int count, int columns);
+
     /// The key that means the same where one reads from the right.
     Q_INVOKABLE static int mirrored(int key);
 };

@@ -11,7 +11,7 @@ ListView {
     property int gutter: Theme.unit * 3
     readonly property real rowWidth: width - gutter
 
-    property bool beginsByKey: true // whoever uses keys has a current row at once when other rows have come
+    property alias beginsByKey: hands.beginsByKey
     property int menuRow: -1 // the row whose context menu is open (RowMenu's `shownRow`)
 
     signal rowOpened(int row)  // by Return or Enter
@@ -28,9 +28,7 @@ ListView {
 
     // Makes that row the current one and shows it whole.
     function goTo(row) {
-        currentIndex = row;
-        forceLayout();
-        positionViewAtIndex(row, ListView.Contain);
+        hands.goTo(row);
     }
 
     // The first row that is whole in view becomes the current one, so that the view stays where it is.
@@ -42,26 +40,12 @@ ListView {
         currentIndex = isCut ? row + 1 : row;
     }
 
-    // Other rows are about to come. A row that waits to be used again must not keep the keyboard.
+    // Other rows are about to come.
     function goToTop() {
-        if (currentItem)
-            currentItem.focus = false;
-        currentIndex = -1;
-        positionViewAtBeginning();
-        beginning.restart();
+        hands.goToTop();
     }
 
-    // Where the rows have changed under the keyboard it goes on at the first of them.
-    function beginByKey() {
-        if (!activeFocus || !beginsByKey || !InputWatch.wasKeyLast())
-            return;
-        if (count === 0)
-            ranOut();
-        forceLayout();
-        takeFirstInView();
-    }
-
-    // The same at a row of its own: the one that whoever comes back had left by. A click is answered with no current row.
+    // Whoever comes back goes on at the row that they had left by. A click is answered with no current row.
     function goOnAt(row) {
         if (InputWatch.wasKeyLast())
             goTo(row);
@@ -84,11 +68,6 @@ ListView {
     }
     property var heldPlace: null
 
-    function scrollBy(distance) {
-        cancelFlick();
-        contentY += distance;
-        returnToBounds();
-    }
     function walk(key, modifiers) {
         const from = currentIndex;
         const row = RowSteps.target(key, modifiers, from, count, contentHeight > 0 ? height * count / contentHeight : 1);
@@ -98,17 +77,6 @@ ListView {
         if (modifiers & Qt.ShiftModifier)
             selectionExtended(from, row);
         return true;
-    }
-    function askForMenu(key, modifiers) {
-        if (currentIndex < 0 || !RowSteps.asksForMenu(key, modifiers))
-            return false;
-        menuRequested(currentIndex, currentItem);
-        return true;
-    }
-    function askForMenuAt(x, y) {
-        const row = indexAt(x + contentX, y + contentY);
-        if (row >= 0)
-            menuRequested(row, null);
     }
 
     clip: true
@@ -121,47 +89,21 @@ ListView {
     keyNavigationEnabled: false // its own keys know neither pages nor the ends
     highlightFollowsCurrentItem: false // a frame late, and more keys may come before; goTo is not
 
-    // Whoever comes by key sees where they are. A menu that closes gives the focus back, and changes nothing else.
-    readonly property bool isFocusByKey: InputWatch.isFocusByKey
-    onActiveFocusChanged: if (activeFocus && isFocusByKey) takeFirstInView()
-
-    onCountChanged: beginning.restart()
-
-    // Rows go and come one after the other: it begins when all is done.
-    Timer {
-        id: beginning
-        interval: 0
-        onTriggered: list.beginByKey()
-    }
-
     // A list that is out of sight keeps the focus for its return, but takes no keys.
     Keys.enabled: visible
-    Keys.onReturnPressed: event => event.accepted = list.actOn(list.rowOpened)
-    Keys.onEnterPressed: event => event.accepted = list.actOn(list.rowOpened)
-    Keys.onSpacePressed: event => event.accepted = list.actOn(list.rowToggled)
-    Keys.onPressed: event => event.accepted = list.walk(event.key, event.modifiers) || list.askForMenu(event.key, event.modifiers)
-
-    function actOn(signal) {
-        if (currentIndex >= 0)
-            signal(currentIndex);
-        return currentIndex >= 0;
-    }
+    Keys.onPressed: event => event.accepted = list.walk(event.key, event.modifiers) || hands.take(event.key, event.modifiers)
 
     Accessible.role: Accessible.List
 
     T.ScrollBar.vertical: ScrollHandle { }
 
-    // A notch goes its way at once: as a movement it would paint the list a dozen times. What a touchpad tells is the view's.
-    WheelHandler {
-        acceptedDevices: PointerDevice.Mouse
-        onWheel: event => list.scrollBy(RowSteps.wheelDistance(event.angleDelta.y))
-    }
-    // One for all rows. No TapHandler: it would make a row take the right button for a click of its own.
-    MouseArea {
-        parent: list
-        anchors.fill: parent
-        z: 1
-        acceptedButtons: Qt.RightButton
-        onClicked: mouse => list.askForMenuAt(mouse.x, mouse.y)
+    ViewHands {
+        id: hands
+        view: list
+        onOpened: row => list.rowOpened(row)
+        onToggled: row => list.rowToggled(row)
+        onMenuRequested: (row, item) => list.menuRequested(row, item)
+        onCurrentMissed: list.takeFirstInView()
+        onRanOut: list.ranOut()
     }
 }

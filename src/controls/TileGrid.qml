@@ -25,20 +25,17 @@ GridView {
 
     // Makes that cell the current one and shows it whole.
     function goTo(cell) {
-        currentIndex = cell;
-        forceLayout();
-        positionViewAtIndex(cell, GridView.Contain);
+        hands.goTo(cell);
     }
 
+    // The first cell that is whole in view becomes the current one, so that the view stays where it is.
+    function takeFirstInView() {
+        currentIndex = GridSteps.firstWhole(contentY - originY, cellHeight, count, columns);
+    }
+
+    // Other cells are about to come.
     function goToTop() {
-        currentIndex = -1;
-        positionViewAtBeginning();
-    }
-
-    function scrollBy(distance) {
-        cancelFlick();
-        contentY += distance;
-        returnToBounds();
+        hands.goToTop();
     }
 
     function walk(key, modifiers) {
@@ -52,25 +49,6 @@ GridView {
         return true;
     }
 
-    function askForMenu(key, modifiers) {
-        if (currentIndex < 0 || !RowSteps.asksForMenu(key, modifiers))
-            return false;
-        menuRequested(currentIndex, currentItem);
-        return true;
-    }
-
-    function askForMenuAt(x, y) {
-        const cell = indexAt(x + contentX, y + contentY);
-        if (cell >= 0)
-            menuRequested(cell, null);
-    }
-
-    function actOn(signal) {
-        if (currentIndex >= 0)
-            signal(currentIndex);
-        return currentIndex >= 0;
-    }
-
     clip: true
     focus: true
     activeFocusOnTab: true
@@ -81,31 +59,20 @@ GridView {
     keyNavigationEnabled: false // its own keys know neither pages nor the ends
     highlightFollowsCurrentItem: false // a frame late, and more keys may come before; goTo is not
 
-    // Whoever comes by key sees where they are.
-    onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
-
     // A grid that is out of sight keeps the focus for its return, but takes no keys.
     Keys.enabled: visible
-    Keys.onReturnPressed: event => event.accepted = grid.actOn(grid.cellOpened)
-    Keys.onEnterPressed: event => event.accepted = grid.actOn(grid.cellOpened)
-    Keys.onSpacePressed: event => event.accepted = grid.actOn(grid.cellToggled)
-    Keys.onPressed: event => event.accepted = grid.walk(event.key, event.modifiers) || grid.askForMenu(event.key, event.modifiers)
+    Keys.onPressed: event => event.accepted = grid.walk(event.key, event.modifiers) || hands.take(event.key, event.modifiers)
 
     Accessible.role: Accessible.List
 
     T.ScrollBar.vertical: ScrollHandle { }
 
-    // A notch goes its way at once: as a movement it would paint the grid a dozen times. What a touchpad tells is the view's.
-    WheelHandler {
-        acceptedDevices: PointerDevice.Mouse
-        onWheel: event => grid.scrollBy(RowSteps.wheelDistance(event.angleDelta.y))
-    }
-    // One for all cells. No TapHandler: it would make a cell take the right button for a click of its own.
-    MouseArea {
-        parent: grid
-        anchors.fill: parent
-        z: 1
-        acceptedButtons: Qt.RightButton
-        onClicked: mouse => grid.askForMenuAt(mouse.x, mouse.y)
+    ViewHands {
+        id: hands
+        view: grid
+        onOpened: cell => grid.cellOpened(cell)
+        onToggled: cell => grid.cellToggled(cell)
+        onMenuRequested: (cell, item) => grid.menuRequested(cell, item)
+        onCurrentMissed: grid.takeFirstInView()
     }
 }

@@ -32,6 +32,21 @@ TEST(GridSteps, keepsToItsColumn)
     EXPECT_EQ(step(Qt::Key_Down, 7), 9) << "to the last one, where the row below is short";
 }
 
+TEST(GridSteps, findsTheFirstCellThatIsWholeInView)
+{
+    EXPECT_EQ(GridSteps::firstWhole(0, 80, 10, 4), 0);
+    EXPECT_EQ(GridSteps::firstWhole(1, 80, 10, 4), 4) << "the row above is cut";
+    EXPECT_EQ(GridSteps::firstWhole(80, 80, 10, 4), 4);
+    EXPECT_EQ(GridSteps::firstWhole(200, 80, 10, 4), 8) << "the last row, though it is cut";
+    EXPECT_EQ(GridSteps::firstWhole(-5, 80, 10, 4), 0);
+}
+
+TEST(GridSteps, findsNoCellWhereThereIsNoneAndTheFirstWhereNothingHasRoom)
+{
+    EXPECT_EQ(GridSteps::firstWhole(0, 80, 0, 4), -1);
+    EXPECT_EQ(GridSteps::firstWhole(50, 0, 10, 0), 0);
+}
+
 TEST(GridSteps, goesByPagesAndToTheEnds)
 {
     EXPECT_EQ(step(Qt::Key_PageDown, 1), 5);

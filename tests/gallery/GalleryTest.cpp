@@ -31,6 +31,7 @@ const std::map<QString, std::string> apart = {
     {u"Tip"_s, "makes the TipPopup, which is shown"},
     {u"RemovableRow"_s, "what FolderRow and RuleRow have in common"},
     {u"RowMenu"_s, "a PopupMenu that knows its row"},
+    {u"ViewHands"_s, "what RowList and TileGrid have in common, and nothing to see"},
 };
 
 /// What no section of a control shows of the usual poses, and why.

@@ -30,6 +30,11 @@ Item {
         }
     }
 
+    Component {
+        id: models
+        ListModel { }
+    }
+
     ControlCase {
         name: "ControlGrid"
         stage: stage
@@ -92,6 +97,68 @@ Item {
             compare(asked[3].signalArguments[0][1], 1);
             mouseClick(grid, 250, 20);
             compare(grid.currentIndex, 2);
+        }
+
+        function cells(count) {
+            const model = createTemporaryObject(models, stage);
+            for (let i = 0; i < count; ++i)
+                model.append({ number: i });
+            return model;
+        }
+
+        // All of them go, and others come.
+        function change(grid) {
+            grid.goToTop();
+            grid.model.clear();
+            for (let i = 0; i < 12; ++i)
+                grid.model.append({ number: i });
+            tryCompare(grid, "count", 12, patience);
+            Program.settle();
+        }
+
+        // The grid has the keyboard by a click, no current cell, and is some way down; its first row on view is cut.
+        function leftByClick() {
+            const grid = make(grids, { model: cells(30) });
+            grid.contentY = 100;
+            mousePress(stage, 700, 500);
+            mouseRelease(stage, 700, 500);
+            grid.forceActiveFocus(Qt.MouseFocusReason);
+            verify(grid.activeFocus);
+            return grid;
+        }
+
+        function test_focusThatNoKeyHasBroughtLightsNoCellAndMovesNothing() {
+            const grid = leftByClick();
+            compare(grid.currentIndex, -1);
+            compare(grid.contentY, 100);
+            stage.forceActiveFocus(Qt.MouseFocusReason);
+            grid.forceActiveFocus(Qt.PopupFocusReason);
+            compare(grid.currentIndex, -1);
+            compare(grid.contentY, 100);
+        }
+
+        function test_focusByKeyLightsTheFirstCellThatIsWholeInView() {
+            const grid = leftByClick();
+            stage.forceActiveFocus(Qt.MouseFocusReason);
+            press(Qt.Key_Tab);
+            verify(grid.activeFocus);
+            compare(grid.currentIndex, 8);
+            compare(grid.contentY, 100);
+        }
+
+        function test_otherCellsUnderTheKeyboardBeginAnew() {
+            const grid = make(grids, { model: cells(30) });
+            press(Qt.Key_Tab);
+            press(Qt.Key_End);
+            change(grid);
+            tryCompare(grid, "currentIndex", 0, patience);
+            compare(grid.contentY, 0);
+        }
+
+        function test_otherCellsUnderThePointerAreNotLit() {
+            const grid = leftByClick();
+            change(grid);
+            compare(grid.currentIndex, -1);
         }
 
         function test_emptyGridTakesNoKeys() {
