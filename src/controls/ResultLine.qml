@@ -14,6 +14,7 @@ Pill {
     property string symbol: tone === ResultLine.Success ? "checkmark.circle.fill"
                           : tone === ResultLine.Warning ? "exclamationmark.triangle.fill" : "xmark.circle.fill"
     property string dismissLabel // without one there is no cross
+    property alias dismissButton: cross
     default property alias commands: commandRow.data
 
     signal dismissed

@@ -44,17 +44,12 @@ Row {
             anchors.right: parent.right
             visible: commands.isScanning
             spacing: Theme.unit * 2
-            Spinner {
+            LoadingLine {
                 anchors.verticalCenter: parent.verticalCenter
-                visible: commands.showsSpinner
-                size: 13
-            }
-            BodyText {
-                anchors.verticalCenter: parent.verticalCenter
-                width: Math.ceil(implicitWidth)
                 visible: text.length > 0
                 text: commands.busyText
-                color: Theme.secondText
+                hasSpinner: commands.showsSpinner
+                size: 13
             }
             ActionButton {
                 objectName: "stopButton"

@@ -86,16 +86,9 @@ FocusScope {
         symbol: "folder"
         text: card.view.texts.emptyDirectory
     }
-    Row {
+    LoadingLine {
         anchors.centerIn: list
         visible: card.view.isScanningDeeper
-        spacing: Theme.unit * 2
-        Spinner {
-            anchors.verticalCenter: parent.verticalCenter
-        }
-        BodyText {
-            text: card.view.texts.loadingContents
-            color: Theme.secondText
-        }
+        text: card.view.texts.loadingContents
     }
 }

@@ -66,6 +66,7 @@ const std::map<QString, Lack> lacks = {
     {u"FolderRow"_s, {{u"focused"_s}, "as a ListRow"}},
     {u"FootBar"_s, {doings, "its button has a section"}},
     {u"ListRow"_s, {{u"focused"_s}, "the list has the keyboard, and the row is the current one"}},
+    {u"LoadingLine"_s, {doings + longText, "it only tells; its text is short"}},
     {u"NumberField"_s,
      {{u"pressed"_s, u"long text"_s}, "a press only brings the keyboard; a number is short"}},
     {u"PlainAlert"_s, {doings + off, "as a ConfirmDialog"}},

@@ -64,17 +64,9 @@ FocusScope {
         symbol: area.view.emptySymbol
         text: area.view.emptyText
     }
-    Row {
+    LoadingLine {
         anchors.centerIn: parent
         visible: area.view.isSlow
-        spacing: Theme.unit * 2
-        Spinner {
-            anchors.verticalCenter: parent.verticalCenter
-            size: 15
-        }
-        BodyText {
-            text: area.view.texts.loading
-            color: Theme.secondText
-        }
+        text: area.view.texts.loading
     }
 }

@@ -47,6 +47,36 @@ Column {
         }
     }
     GallerySection {
+        control: "EmptyState"
+        variant: "of a whole screen"
+        role: Accessible.Heading
+        poses: GalleryPoses.still
+        GalleryCell {
+            id: whole
+            usual: "Search"
+            EmptyState {
+                width: 260
+                isScreen: true
+                symbol: "magnifyingglass"
+                text: whole.word
+                detail: whole.word
+            }
+        }
+    }
+    GallerySection {
+        control: "LoadingLine"
+        role: Accessible.StaticText
+        toldStates: ["readOnly"]
+        poses: ["normal", "disabled", "right to left"]
+        GalleryCell {
+            id: loading
+            usual: "Loading contents..."
+            LoadingLine {
+                text: loading.word
+            }
+        }
+    }
+    GallerySection {
         control: "ToolHead"
         role: Accessible.Heading
         poses: ["normal", "disabled", "right to left"]
