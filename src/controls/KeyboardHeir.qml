@@ -1,22 +1,55 @@
 import QtQuick
 import Quillmere
 
-// What had the keyboard may go or come to rest, and leaves it to its screen, on which nothing shows it. Then the heir has it.
+// Where the keyboard of a tool's screen goes on when what had it is gone, hidden or rests: at the button that has begun a scan as
+// soon as that may be pressed again, else in the list of results, else at what stops a scan or starts one.
 Item {
     id: passing
 
     required property Item screen
-    required property Item heir // as things are; null where nothing can have it
+    required property ScanCommands commands
+    required property RowList list
+    property bool isWaiting: false // rows that a moment brings: until then it stays where it is
 
-    readonly property Item next: Window.activeFocusItem === screen ? heir : null
+    readonly property Item stop: commands.stopButton
+    readonly property Item start: commands.startButton
+    readonly property Item rows: list
+    readonly property Item holder: Window.activeFocusItem
+    readonly property bool isOrphaned: holder === screen || (holder !== null && !holder.visible && isWithin(holder))
+    readonly property bool hasRows: canTake(rows) && list.count > 0
+    readonly property Item heir: !isOrphaned || isWaiting ? null
+                               : hasBegun && canTake(start) ? start
+                               : hasRows ? rows
+                               : canTake(stop) ? stop
+                               : canTake(start) ? start : null
+    property bool hasBegun: false // the last scan, by the button that had the keyboard then
 
-    onNextChanged: later.restart()
-
-    function passOn() {
-        next?.forceActiveFocus(InputWatch.wasKeyLast() ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    function canTake(item) {
+        return item.visible && item.enabled;
     }
 
-    // What has just gone may be followed by something else that takes it.
+    function isWithin(item) {
+        while (item && item !== screen)
+            item = item.parent;
+        return item === screen;
+    }
+
+    function note(item) {
+        if (item && item !== screen && item !== stop)
+            hasBegun = item === start;
+    }
+
+    // Who uses the pointer looks elsewhere: Space, which is meant for something else, must not stop the scan.
+    function passOn() {
+        if (heir === null || (heir === stop && !InputWatch.wasKeyLast()))
+            return;
+        heir.forceActiveFocus(InputWatch.wasKeyLast() ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    }
+
+    onHolderChanged: note(holder)
+    onHeirChanged: later.restart()
+
+    // Other things may be hidden and shown at the same time: it goes on when all is done.
     Timer {
         id: later
         interval: 0

@@ -21,6 +21,7 @@ Row {
     property int leastRoom: 0 // at the left of the start, for all that may stand there
     property bool isPrimary: false
     property alias startButton: start
+    property alias stopButton: stop
     default property alias rest: restRow.data // in the room of Stop while no scan runs
 
     signal started
@@ -52,8 +53,9 @@ Row {
                 size: 13
             }
             ActionButton {
+                id: stop
                 objectName: "stopButton"
-                enabled: commands.canStop
+                enabled: commands.isScanning && commands.canStop
                 text: commands.stopText
                 labels: commands.stopLabels
                 symbol: "xmark"

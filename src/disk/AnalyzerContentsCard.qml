@@ -8,6 +8,7 @@ FocusScope {
     id: card
 
     required property DiskAnalyzerView view
+    readonly property RowList rows: list
 
     Card {
         anchors.fill: parent

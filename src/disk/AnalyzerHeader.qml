@@ -6,6 +6,7 @@ ToolHead {
     id: header
 
     required property DiskAnalyzerView view
+    readonly property ScanCommands scanCommands: scan
 
     title: view.title
     symbol: view.symbol
@@ -17,6 +18,7 @@ ToolHead {
         onClicked: header.view.changeFolder()
     }
     ScanCommands {
+        id: scan
         isScanning: header.view.isScanning
         showsSpinner: header.view.hasEntry
         leastRoom: Theme.unit * 48

@@ -12,6 +12,12 @@ FocusScope {
         onActivated: screen.view.refresh()
     }
 
+    KeyboardHeir {
+        screen: screen
+        commands: header.scanCommands
+        list: table.rows
+        isWaiting: screen.view.isListAwaited
+    }
     AnalyzerHeader {
         id: header
         anchors.left: parent.left

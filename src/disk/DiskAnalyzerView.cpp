@@ -103,6 +103,11 @@ QString DiskAnalyzerView::stoppedText() const
     return hasStopped() ? texts().scanStopped : texts().stopping;
 }
 
+bool DiskAnalyzerView::isListAwaited() const
+{
+    return isScanningDeeper_ || (isTreeMissing() && stop_ == Stop::stopping);
+}
+
 QString DiskAnalyzerView::location() const
 {
     const Entry entry = currentEntry();

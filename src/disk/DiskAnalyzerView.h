@@ -34,6 +34,7 @@ class DiskAnalyzerView final : public QObject,
     Q_PROPERTY(QString progressText READ progressText NOTIFY contentChanged)
     Q_PROPERTY(QString stoppedText READ stoppedText NOTIFY contentChanged)
     Q_PROPERTY(bool hasStopped READ hasStopped NOTIFY contentChanged)
+    Q_PROPERTY(bool isListAwaited READ isListAwaited NOTIFY contentChanged)
     Q_PROPERTY(bool hasEntry READ hasEntry NOTIFY contentChanged)
     Q_PROPERTY(QString location READ location NOTIFY contentChanged)
     Q_PROPERTY(AgePillView *pill READ pill CONSTANT)
@@ -69,6 +70,7 @@ public:
     /// What stands in the place of a tree that does not come, since its scan was cancelled; else empty.
     QString stoppedText() const;
     bool hasStopped() const { return isTreeMissing() && stop_ == Stop::stopped; } ///< nobody waits any more
+    bool isListAwaited() const; ///< a moment brings the rows: of a deeper level, or of what was stopped
     bool hasEntry() const { return currentEntry() != nullptr; }
     QString location() const; ///< the path of the entry on view, which `openInFinder` shows
     bool canGoBack() const { return !breadcrumb_.empty(); }

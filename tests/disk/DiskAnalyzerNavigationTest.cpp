@@ -106,6 +106,7 @@ TEST_F(DiskAnalyzerNavigationTest, listsAFolderAtTheDepthLimitOneLevelOnAClick)
     std::filesystem::remove(paths::toBytes(test.temp.at("probed")).toStdString());
     open("Deep");
     EXPECT_TRUE(view->isScanningDeeper());
+    EXPECT_TRUE(view->isListAwaited());
     EXPECT_EQ(crumbs(), QStringLiteral("Documents"));
     EXPECT_EQ(test.workQueue.lastPriority(), WorkPriority::userInitiated);
     test.workQueue.run();

@@ -100,10 +100,12 @@ TEST_F(DiskAnalyzerViewTest, tellsThatACancelledScanIsStoppingUntilItsTreeComes)
     EXPECT_FALSE(view->hasEntry());
     EXPECT_EQ(view->stoppedText(), QStringLiteral("Stopping…"));
     EXPECT_FALSE(view->hasStopped());
+    EXPECT_TRUE(view->isListAwaited());
     EXPECT_FALSE(view->pill()->isShown()); // what it tells of is no longer there
     test.settle();
     EXPECT_TRUE(view->pill()->isShown());
     EXPECT_TRUE(view->hasEntry());
+    EXPECT_FALSE(view->isListAwaited());
     EXPECT_EQ(view->stoppedText(), QString());
     test.mainQueue.advance(60);
     EXPECT_EQ(view->stoppedText(), QString());
@@ -124,6 +126,7 @@ TEST_F(DiskAnalyzerViewTest, tellsThatAScanHasStoppedWhereNoTreeComes)
     EXPECT_EQ(changes.count(), 1);
     EXPECT_EQ(view->stoppedText(), QStringLiteral("Scan stopped"));
     EXPECT_TRUE(view->hasStopped());
+    EXPECT_FALSE(view->isListAwaited());
     test.settle(); // the disk answers after all
     EXPECT_EQ(view->stoppedText(), QString());
     EXPECT_EQ(names(), QStringLiteral("Documents,notes.txt"));

@@ -6,7 +6,7 @@ ToolHead {
     id: header
 
     required property SmartCleanupView view
-    readonly property Item startButton: scan.startButton
+    readonly property ScanCommands scanCommands: scan
 
     title: view.title
     symbol: view.symbol

@@ -9,6 +9,7 @@ FocusScope {
     id: holder
 
     required property SmartCleanupView view
+    readonly property RowList rows: list
 
     readonly property var menus: ({ category: categoryMenu, guide: guideMenu, file: fileMenu, end: endMenu })
 

@@ -12,7 +12,8 @@ FocusScope {
     // Clean rests when its run begins, Rescan when a scan does, and a list goes once the system is clean.
     KeyboardHeir {
         screen: screen
-        heir: list.visible ? list : header.startButton.enabled ? header.startButton : null
+        commands: header.scanCommands
+        list: list.rows
     }
     CleanupHeader {
         id: header

@@ -9,12 +9,11 @@ FocusScope {
 
     required property DuplicateFinderView view
 
-    // Move to Trash rests when its run begins, Start when a scan does.
+    // Move to Trash rests when its run begins, Start when a scan does, and the list goes.
     KeyboardHeir {
         screen: screen
-        heir: screen.view.isScanning ? null
-              : groups.visible && groups.count > 0 ? groups
-              : header.startButton.enabled ? header.startButton : null
+        commands: header.scanCommands
+        list: groups.rows
     }
     DuplicateHeader {
         id: header

@@ -9,7 +9,7 @@ FocusScope {
     id: holder
 
     required property DuplicateFinderView view
-    readonly property int count: list.count
+    readonly property RowList rows: list
 
     function openMenu(row, item) {
         const menu = view.isFile(row) ? fileMenu : groupMenu;
