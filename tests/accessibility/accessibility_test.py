@@ -163,6 +163,13 @@ class DuplicateFinderAtRestTest(ScreenTest):
         window = self.window_with("label", "Configure scan directories above and click Start Scan")
         self.assert_sound(window)
 
+    def test_the_scope_is_walked(self):
+        window = self.window_with("list", "Scan Directories")
+        folder, = window.find("list", "Scan Directories")[0].find("list item")
+        self.assertEqual((folder.name, folder.description), ("~", "Click to change this folder, 1 of 1"))
+        lock = "Built-in default — always excluded"
+        self.assert_walks("Ignore Directories", ("~/Library", f"{lock}, 1 of 8"), ("~/.Trash", f"{lock}, 2 of 8"))
+
 
 class DuplicateFinderTest(ScreenTest):
     """The Duplicate Finder, and the sheet with what it has done."""
