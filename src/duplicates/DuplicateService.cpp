@@ -186,6 +186,12 @@ void DuplicateService::resetScope()
     emit scopeChanged();
 }
 
+bool DuplicateService::isScopeAsAtStart() const
+{
+    return scanPaths_ == QStringList{platform_.home}
+           && ignorePaths_ == platform_.locations->duplicateIgnoreRules;
+}
+
 void DuplicateService::setMinFileSize(qint64 bytes)
 {
     minFileSize_ = bytes;

@@ -77,6 +77,7 @@ public:
     void addIgnorePath(const QString &rule); ///< nothing where the list holds it
     void removeIgnorePath(const QString &rule);
     void resetScope();                         ///< both lists as at the start
+    bool isScopeAsAtStart() const;             ///< both lists are
     void setMinFileSize(qint64 bytes);         ///< kept in the settings
     bool isBuiltIn(const QString &rule) const; ///< one of the default rules
     /// A built-in rule that a scan path leads into, so that its folder is scanned after all.

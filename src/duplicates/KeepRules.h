@@ -2,6 +2,8 @@
 
 #include "duplicates/DuplicateFileGroup.h"
 
+#include <vector>
+
 /// Which files of a group stay; all others of it go at the next delete run.
 namespace keeprules {
 
@@ -17,5 +19,13 @@ void keepAll(DuplicateFileGroup &group);
 
 /// `file` is an index in the group.
 void keepOnly(DuplicateFileGroup &group, size_t file);
+
+// Whether such a rule would change nothing.
+
+bool isNewestKept(const DuplicateFileGroup &group);
+bool isOldestKept(const DuplicateFileGroup &group);
+bool isFirstKept(const DuplicateFileGroup &group);
+bool isAllKept(const DuplicateFileGroup &group);
+bool isSoInAll(const std::vector<DuplicateFileGroup> &groups, bool (*isSo)(const DuplicateFileGroup &group));
 
 } // namespace keeprules

@@ -115,7 +115,7 @@ DuplicatesCase {
         const way = [Program.named("settingsButton"), scanButton(), Program.itemWith("text", screen(), "Add Folder"),
                      Program.itemWith("text", screen(), "Add Exclusion"), Program.named("minSizePicker"),
                      Program.named("resetScope"), chip("all"),
-                     Program.itemWith("text", screen(), "Select All Duplicates"),
+                     Program.itemWith("text", screen(), "Select None"),
                      Program.itemWith("text", screen(), "Keep Oldest"), list()].map(position);
         verify(way.every((place, i) => place >= 0 && (i === 0 || place > way[i - 1])), way.join());
     }

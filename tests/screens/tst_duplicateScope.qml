@@ -129,6 +129,7 @@ ScopeCase {
     }
 
     function test_resetBringsBackTheDefaults() {
+        verify(!Program.named("resetScope").enabled); // there is nothing to bring back
         add(twins);
         exclude(home + "/Movies");
         clickOn(Program.named("removeScanPath"));
@@ -136,5 +137,6 @@ ScopeCase {
         press(Qt.Key_Return);
         compare(scanPaths(), ["~"]);
         compare(rules().length, 8);
+        verify(!Program.named("resetScope").enabled);
     }
 }

@@ -7,6 +7,7 @@
 #include "common/Appearing.h"
 #include "common/Confirmation.h"
 #include "duplicates/DuplicateService.h"
+#include "duplicates/KeepRules.h"
 #include "duplicates/screen/DeleteNote.h"
 #include "duplicates/screen/DuplicateFigures.h"
 #include "duplicates/screen/DuplicateRows.h"
@@ -45,6 +46,10 @@ class DuplicateFinderView final : public QObject,
     Q_PROPERTY(bool isDeleting READ isDeleting NOTIFY stateChanged)
     Q_PROPERTY(bool canScan READ canScan NOTIFY stateChanged)
     Q_PROPERTY(bool canChoose READ canChoose NOTIFY stateChanged)
+    Q_PROPERTY(bool canSelectAllDuplicates READ canSelectAllDuplicates NOTIFY stateChanged)
+    Q_PROPERTY(bool canSelectNone READ canSelectNone NOTIFY stateChanged)
+    Q_PROPERTY(bool canKeepNewest READ canKeepNewest NOTIFY stateChanged)
+    Q_PROPERTY(bool canKeepOldest READ canKeepOldest NOTIFY stateChanged)
     Q_PROPERTY(bool canDelete READ canDelete NOTIFY stateChanged)
     Q_PROPERTY(bool canStop READ canStop NOTIFY stateChanged)
     Q_PROPERTY(QString stopText READ stopText NOTIFY stateChanged)
@@ -97,6 +102,11 @@ public:
     bool isDeleting() const { return service_.isDeleting(); }
     bool canScan() const;
     bool canChoose() const; ///< there are files, and nothing is at work on them
+    // The choices for all groups at once, where they would change anything, also in groups that the filter hides.
+    bool canSelectAllDuplicates() const { return canChooseBy(keeprules::isFirstKept); }
+    bool canSelectNone() const { return canChooseBy(keeprules::isAllKept); }
+    bool canKeepNewest() const { return canChooseBy(keeprules::isNewestKept); }
+    bool canKeepOldest() const { return canChooseBy(keeprules::isOldestKept); }
     bool canDelete() const; ///< a file on view is set to go
     bool canStop() const { return isScanning() && !service_.cancelRequested(); }
     QString stopText() const;
@@ -160,6 +170,10 @@ signals:
     void rowsWillChange(); ///< the list is about to show others, from its top
 
 private:
+    bool canChooseBy(bool (*isSo)(const DuplicateFileGroup &group)) const
+    {
+        return canChoose() && !keeprules::isSoInAll(service_.groups(), isSo);
+    }
     void observeService();
     void showGroups();
     void takeFigures();

@@ -117,6 +117,7 @@ Card {
             }
             ActionButton {
                 objectName: "resetScope"
+                enabled: panel.scope.canReset
                 text: panel.view.texts.reset
                 symbol: "arrow.uturn.backward"
                 tip: panel.view.texts.resetTip

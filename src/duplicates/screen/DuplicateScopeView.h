@@ -19,6 +19,7 @@ class DuplicateScopeView final : public QObject
     Q_PROPERTY(QAbstractItemModel *scanPaths READ scanPaths CONSTANT)
     Q_PROPERTY(QAbstractItemModel *rules READ rules CONSTANT)
     Q_PROPERTY(bool hasScanPaths READ hasScanPaths NOTIFY scopeChanged)
+    Q_PROPERTY(bool canReset READ canReset NOTIFY scopeChanged)
     Q_PROPERTY(QStringList minSizeLabels READ minSizeLabels CONSTANT)
     Q_PROPERTY(int minSizeIndex READ minSizeIndex NOTIFY minSizeChanged)
     Q_PROPERTY(QString minSizeText READ minSizeText NOTIFY minSizeChanged)
@@ -40,6 +41,7 @@ public:
     /// Rows: ruleText, symbol, hint (empty for a rule of the user's own), isOverridden, canBeRemoved.
     QAbstractItemModel *rules() { return &ruleRows_; }
     bool hasScanPaths() const { return !service_.scanPaths().isEmpty(); }
+    bool canReset() const { return !service_.isScopeAsAtStart(); }
     QStringList minSizeLabels() const;
     int minSizeIndex() const;    ///< -1 where the setting is none of the choices
     QString minSizeText() const; ///< the choice, else the setting itself

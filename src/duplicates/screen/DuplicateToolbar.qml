@@ -25,25 +25,25 @@ Item {
         y: bar.isNarrow ? Theme.controlHeight + Theme.unit * 2 : 0
         spacing: Theme.unit * 2
         ActionButton {
-            enabled: bar.view.canChoose
+            enabled: bar.view.canSelectAllDuplicates
             text: bar.view.texts.selectAllDuplicates
             symbol: "checkmark.circle.fill"
             onClicked: bar.view.selectAllDuplicates()
         }
         ActionButton {
-            enabled: bar.view.canChoose
+            enabled: bar.view.canSelectNone
             text: bar.view.texts.selectNone
             symbol: "circle"
             onClicked: bar.view.selectNone()
         }
         ActionButton {
-            enabled: bar.view.canChoose
+            enabled: bar.view.canKeepNewest
             text: bar.view.texts.keepNewest
             symbol: "clock.arrow.circlepath"
             onClicked: bar.view.keepNewest()
         }
         ActionButton {
-            enabled: bar.view.canChoose
+            enabled: bar.view.canKeepOldest
             text: bar.view.texts.keepOldest
             symbol: "clock.fill"
             onClicked: bar.view.keepOldest()

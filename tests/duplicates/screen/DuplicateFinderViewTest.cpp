@@ -118,6 +118,32 @@ TEST_F(DuplicateFinderViewTest, findsAFinishedResultWhenItIsMade)
     EXPECT_EQ(view->scanText(), u"Rescan"_s);
 }
 
+TEST_F(DuplicateFinderViewTest, offersTheChoicesThatWouldChangeSomething)
+{
+    const auto offered = [this] {
+        return QStringList({view->canSelectAllDuplicates() ? u"all"_s : u"-"_s,
+                            view->canSelectNone() ? u"none"_s : u"-"_s,
+                            view->canKeepNewest() ? u"newest"_s : u"-"_s,
+                            view->canKeepOldest() ? u"oldest"_s : u"-"_s})
+            .join(u' ');
+    };
+    EXPECT_EQ(offered(), u"- - - -"_s) << "there are no files";
+    scan();
+    EXPECT_EQ(offered(), u"- none newest oldest"_s);
+    view->selectNone();
+    EXPECT_EQ(offered(), u"all - newest oldest"_s);
+    view->keepNewest();
+    EXPECT_EQ(offered(), u"all none - oldest"_s);
+    view->keepOldest();
+    EXPECT_EQ(offered(), u"all none newest -"_s);
+    view->selectAllDuplicates();
+    EXPECT_EQ(offered(), u"- none newest oldest"_s);
+    choose(u"images"_s);
+    view->toggleKeep(2); // of a group on view
+    choose(u"documents"_s);
+    EXPECT_TRUE(view->canSelectAllDuplicates()) << "in a group that the filter hides";
+}
+
 TEST_F(DuplicateFinderViewTest, choosesTheFilesOfAllGroups)
 {
     scan();

@@ -228,6 +228,21 @@ TEST_F(DuplicateScopeViewTest, opensNoPickerForARowThatIsNotThere)
     EXPECT_EQ(folderTexts(), u"~"_s);
 }
 
+TEST_F(DuplicateScopeViewTest, offersTheDefaultsWhereTheyWouldChangeSomething)
+{
+    EXPECT_FALSE(view->canReset());
+    duplicates.addScanPath(u"/a"_s);
+    EXPECT_TRUE(view->canReset());
+    duplicates.removeScanPath(u"/a"_s);
+    EXPECT_FALSE(view->canReset());
+    duplicates.addIgnorePath(u"/b"_s);
+    EXPECT_TRUE(view->canReset());
+    view->resetToDefaults();
+    EXPECT_FALSE(view->canReset());
+    view->chooseMinSize(4);
+    EXPECT_FALSE(view->canReset()) << "the smallest file is no part of the two lists";
+}
+
 TEST_F(DuplicateScopeViewTest, goesBackToTheDefaults)
 {
     duplicates.addScanPath(u"/a"_s);
