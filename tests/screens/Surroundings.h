@@ -90,6 +90,7 @@ private:
     FakeWorkspace workspace_;
     FakeRecycler recycler_;
     TrashFolder trash_{temp_, recycler_};
+    FakeApplications applications_;
     FakeSystemLog systemLog_;
     FakeSystemInfo systemInfo_;
     GatedDu du_{temp_};
@@ -98,9 +99,9 @@ private:
         temp_.script(QStringLiteral("shell"), "case \"$2\" in find*) exec /bin/sh \"$@\";; esac\n"
                                               "touch \"$(dirname \"$0\")/relaunched\"\n");
     Platform platform_{
-        home_,           locations_, defaults_,  clock_,         {.du = du_.program(), .sh = shell_},
-        KeyStyle::words, mainQueue_, workQueue_, notifications_, workspace_,
-        recycler_,       systemLog_, systemInfo_};
+        home_,           locations_,    defaults_,  clock_,         {.du = du_.program(), .sh = shell_},
+        KeyStyle::words, mainQueue_,    workQueue_, notifications_, workspace_,
+        recycler_,       applications_, systemLog_, systemInfo_};
     Appearance appearance_;
     QStringList posted_;
 };
