@@ -1,6 +1,5 @@
 #include "support/MadeBundle.h"
 
-#include "base/Files.h"
 #include "base/Paths.h"
 #include "support/MadeFiles.h"
 #include "support/PropertyLists.h"
@@ -8,7 +7,7 @@
 void MadeBundle::make() const
 {
     const QString contents = paths::join(path, QStringLiteral("Contents"));
-    files::makeDirectories(contents);
+    madefiles::makeFolder(contents);
     if (!description.isEmpty()) {
         const QByteArray list =
             form == Form::binary ? propertylists::binary(description) : propertylists::xml(description);

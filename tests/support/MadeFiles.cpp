@@ -1,11 +1,11 @@
 #include "support/MadeFiles.h"
 
-#include "base/Files.h"
 #include "base/Paths.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
+#include <filesystem>
 #include <system_error>
 
 #include <fcntl.h>
@@ -26,9 +26,14 @@ void require(bool done, const QString &path)
 
 namespace madefiles {
 
+void makeFolder(const QString &path)
+{
+    std::filesystem::create_directories(paths::toBytes(path).toStdString());
+}
+
 void make(const QString &path, const QByteArray &content, qint64 size, int days)
 {
-    files::makeDirectories(paths::parent(path));
+    makeFolder(paths::parent(path));
     const int descriptor =
         open(paths::toBytes(path).constData(), O_CREAT | O_WRONLY | O_TRUNC | O_CLOEXEC, 0644);
     require(descriptor != -1, path);

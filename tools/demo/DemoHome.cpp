@@ -1,31 +1,27 @@
 #include "DemoHome.h"
 
 #include "base/Paths.h"
-
-#include <QStringList>
+#include "DemoApplications.h"
+#include "support/MadeFiles.h"
 
 #include <array>
 #include <cerrno>
-#include <ctime>
 #include <filesystem>
 #include <system_error>
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr qint64 kilobyte = 1024;
 constexpr qint64 megabyte = 1024 * kilobyte;
-constexpr time_t day = time_t(24) * 60 * 60;
 
 struct DemoFile
 {
     const char *path; // below the root
     qint64 size;
     int age;             // days since its last change
-    const char *content; // repeated to fill the file; files of equal content and size are duplicates
+    const char *content; // at the beginning of the file; files of equal content and size are duplicates
 };
 
 constexpr std::array demoFiles = {
@@ -90,38 +86,11 @@ constexpr std::array demoFiles = {
     DemoFile{"Users/robin/.Trash/old-report.pdf", 5 * megabyte, 35, "report"},
     DemoFile{"Users/robin/.Trash/Screen Recording 2026-08-30.mov", 29 * megabyte, 62, "recording"},
     DemoFile{"Users/robin/.Trash/old drafts/draft-1.pages", 1 * megabyte, 90, "first draft"},
-    DemoFile{"Applications/Sketchpad.app/Contents/MacOS/Sketchpad", 44 * megabyte, 60, "sketchpad"},
-    DemoFile{"Applications/Xcode.app/Contents/MacOS/Xcode", 38 * megabyte, 120, "xcode"},
-    DemoFile{"Applications/Tide Tables.app/Contents/MacOS/Tide Tables", 19 * megabyte, 200, "tides"},
 };
 
 std::filesystem::path native(const QString &path)
 {
     return paths::toBytes(path).toStdString();
-}
-
-void require(bool done, const std::filesystem::path &path)
-{
-    if (!done)
-        throw std::system_error(errno, std::generic_category(), path.string());
-}
-
-/// A file of that size which begins with its content; the room is taken, not written, so that this is quick.
-void makeFile(const std::filesystem::path &path, const DemoFile &file)
-{
-    std::filesystem::create_directories(path.parent_path());
-    const int descriptor = open(path.c_str(), O_CREAT | O_WRONLY | O_TRUNC | O_CLOEXEC, 0644);
-    require(descriptor != -1, path);
-    const std::string content = file.content;
-    const bool isWritten =
-        write(descriptor, content.data(), content.size()) == static_cast<ssize_t>(content.size());
-    const bool isSized =
-        posix_fallocate(descriptor, 0, file.size) == 0 || ftruncate(descriptor, file.size) == 0;
-    const time_t changed = time(nullptr) - file.age * day;
-    const timespec times[2] = {{changed, 0}, {changed, 0}};
-    const bool isDated = futimens(descriptor, times) == 0;
-    close(descriptor);
-    require(isWritten && isSized && isDated, path);
 }
 
 } // namespace
@@ -130,14 +99,16 @@ DemoHome::DemoHome()
 {
     std::string pattern = std::filesystem::canonical(std::filesystem::temp_directory_path()).string()
                           + "/quillmere-demo-XXXXXX";
-    require(mkdtemp(pattern.data()) != nullptr, pattern);
+    if (mkdtemp(pattern.data()) == nullptr)
+        throw std::system_error(errno, std::generic_category(), pattern);
     root_ = paths::fromBytes(pattern);
 }
 
 void DemoHome::fill() const
 {
     for (const DemoFile &file : demoFiles)
-        makeFile(native(paths::join(root_, QString::fromUtf8(file.path))), file);
+        madefiles::make(paths::join(root_, QString::fromUtf8(file.path)), file.content, file.size, file.age);
+    demoapplications::make(applicationsFolder(), home());
     for (const char *folder :
          {"Users/robin/Documents/Empty Folder", "Users/robin/Documents/Talks/2024",
           "Users/robin/Desktop/New Folder", "Users/robin/Downloads/unpacked", "Users/robin/Library/Safari"})

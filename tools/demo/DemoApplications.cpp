@@ -1,0 +1,108 @@
+#include "DemoApplications.h"
+
+#include "base/Paths.h"
+#include "support/MadeBundle.h"
+#include "support/MadeFiles.h"
+
+#include <array>
+
+namespace {
+
+constexpr qint64 kilobyte = 1024;
+constexpr qint64 megabyte = 1024 * kilobyte;
+
+struct DemoBundle
+{
+    const char *path; // below the applications folder
+    const char *name;
+    const char *version;
+    const char *identifier; // none where it is empty
+    qint64 size;
+    int days; // since it was last changed
+    MadeBundle::Form form;
+};
+
+constexpr auto xml = MadeBundle::Form::xml;
+constexpr auto binary = MadeBundle::Form::binary;
+
+constexpr std::array bundles = {
+    DemoBundle{"Sketchpad.app", "Sketchpad", "4.2", "com.example.sketchpad", 44 * megabyte, 60, binary},
+    DemoBundle{"Xcode.app", "Xcode", "15.4", "com.apple.dt.Xcode", 38 * megabyte, 120, binary},
+    // One vendor with three of them, so that all of its data is spared.
+    DemoBundle{"Tide Tables.app", "Tide Tables", "2.1.3", "com.harbour.tidetables", 19 * megabyte, 200, xml},
+    DemoBundle{"Harbour Charts.app", "Charts", "7.0", "com.harbour.charts", 31 * megabyte, 12, binary},
+    DemoBundle{"Utilities/Harbour Log.app", "Harbour Log", "1.9", "com.harbour.log", 6 * megabyte, 380, xml},
+    DemoBundle{"Browser.app", "Browser", "121.0", "com.example.browser", 96 * megabyte, 0, binary},
+    DemoBundle{"Maps Offline.app", "Maps Offline", "3.0 (beta)", "com.example.maps", 27 * megabyte, 1, xml},
+    DemoBundle{"Caf\u00e9 Ledger \u2615.app", "Caf\u00e9 Ledger, \"Pro\"", "12", "coop.bohne.ledger",
+               8 * megabyte, 45, xml},
+    DemoBundle{"Handmade Script.app", "Handmade Script", "", "", 300 * kilobyte, 900, xml},
+};
+
+struct DemoLeftover
+{
+    const char *path; // below the library
+    qint64 size;
+    int days;
+};
+
+constexpr std::array leftovers = {
+    // Of live applications: their own, helpers', a team's container, and an earlier application of a vendor that is here.
+    DemoLeftover{"Application Support/Tide Tables/stations.db", 5 * megabyte, 30},
+    DemoLeftover{"Caches/com.harbour.tidetables/tiles.db", 9 * megabyte, 2},
+    DemoLeftover{"Caches/com.harbour.tidetables.helper/queue.db", 300 * kilobyte, 2},
+    DemoLeftover{"Preferences/com.harbour.tidetables.plist", 3 * kilobyte, 2},
+    DemoLeftover{"Containers/com.harbour.charts/Data/charts.db", 12 * megabyte, 12},
+    DemoLeftover{"Group Containers/ABCDE12345.com.harbour.charts/shared.db", 2 * megabyte, 12},
+    DemoLeftover{"Saved Application State/com.harbour.charts.savedState/windows.plist", 12 * kilobyte, 12},
+    DemoLeftover{"HTTPStorages/com.example.browser/cookies.db", 700 * kilobyte, 0},
+    DemoLeftover{"WebKit/com.example.browser/storage.db", 4 * megabyte, 0},
+    DemoLeftover{"Caches/com.harbour.pilot/pilot.db", 1 * megabyte, 700},
+    // Of one that is gone, in six folders.
+    DemoLeftover{"Application Support/com.oldmill.grindstone/projects.db", 23 * megabyte, 510},
+    DemoLeftover{"Caches/com.oldmill.grindstone/Cache.db", 14 * megabyte, 510},
+    DemoLeftover{"Containers/com.oldmill.grindstone/Data/state.db", 3 * megabyte, 510},
+    DemoLeftover{"Group Containers/9XYZ88PQRS.com.oldmill.grindstone/shared.db", 1 * megabyte, 510},
+    DemoLeftover{"Saved Application State/com.oldmill.grindstone.savedState/windows.plist", 20 * kilobyte,
+                 510},
+    DemoLeftover{"Preferences/com.oldmill.grindstone.plist", 4 * kilobyte, 510},
+    // Of others that are gone: a crash reporter's, cookies', and a folder with a plain name.
+    DemoLeftover{"Caches/net.quietfox.radio-player/stream.cache", 6 * megabyte, 820},
+    DemoLeftover{"HTTPStorages/net.quietfox.radio-player.binarycookies", 40 * kilobyte, 820},
+    DemoLeftover{"Application Support/Lantern Festival/levels.bin", 18 * megabyte, 1100},
+    // Looks as if its owner were here: the last word is an installed application's name.
+    DemoLeftover{"Caches/org.driftwood.sketchpad/thumbnails.db", 7 * megabyte, 300},
+    DemoLeftover{"Preferences/org.driftwood.sketchpad.plist", 5 * kilobyte, 300},
+};
+
+QJsonObject descriptionOf(const DemoBundle &bundle)
+{
+    QJsonObject description;
+    const auto tell = [&description](const QString &key, const char *text) {
+        if (*text != '\0')
+            description.insert(key, QString::fromUtf8(text));
+    };
+    tell(QStringLiteral("CFBundleName"), bundle.name);
+    tell(QStringLiteral("CFBundleShortVersionString"), bundle.version);
+    tell(QStringLiteral("CFBundleIdentifier"), bundle.identifier);
+    return description;
+}
+
+} // namespace
+
+namespace demoapplications {
+
+void make(const QString &applications, const QString &home)
+{
+    for (const DemoBundle &bundle : bundles) {
+        MadeBundle{paths::join(applications, QString::fromUtf8(bundle.path)), descriptionOf(bundle),
+                   bundle.form, bundle.size, bundle.days}
+            .make();
+    }
+    const QString library = paths::join(home, QStringLiteral("Library"));
+    for (const DemoLeftover &leftover : leftovers)
+        madefiles::make(paths::join(library, QString::fromUtf8(leftover.path)), leftover.path, leftover.size,
+                        leftover.days);
+}
+
+} // namespace demoapplications
