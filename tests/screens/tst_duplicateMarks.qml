@@ -105,16 +105,4 @@ DuplicatesCase {
         clickOn(Program.named("confirmCancel"));
         tryGone("Confirm Deletion");
     }
-
-    function test_bulkButtonsThatWouldChangeNothingRest() {
-        const button = text => Program.itemWith("text", screen(), text);
-        verify(!button("Select All Duplicates").enabled); // as the scan has left them
-        verify(button("Select None").enabled);
-        click("Select None", screen());
-        verify(!button("Select None").enabled && button("Select All Duplicates").enabled);
-        click("Keep Newest", screen());
-        verify(!button("Keep Newest").enabled && button("Keep Oldest").enabled);
-        clickFile("b/photo.jpg");
-        verify(button("Keep Newest").enabled);
-    }
 }
