@@ -28,7 +28,7 @@ public:
         QString message;                   ///< what is saved; the panel's title
         QString suggestedName;             ///< the file's name to begin with, without a folder
         QString start;                     ///< the folder to begin with; empty for the desktop's own choice
-        FileType fileType = FileType::any; ///< the desktop's panel shows files of this type
+        FileType fileType = FileType::any; ///< what the panel offers to save it as
     };
 
     /// Takes what the user chose in a panel, or none where the user cancelled.

@@ -30,7 +30,10 @@ void FallbackPanel::chooseFolder(const Workspace::FolderRequest &request, const 
 
 void FallbackPanel::chooseSavePath(const Workspace::SaveRequest &request, const Workspace::PathChosen &chosen)
 {
-    show({request.message, request.start, false, request.suggestedName}, chosen);
+    const bool isList = request.fileType == Workspace::FileType::commaSeparatedText;
+    show({request.message, request.start, false, request.suggestedName,
+          isList ? QStringLiteral("csv") : QString()},
+         chosen);
 }
 
 void FallbackPanel::giveUp()

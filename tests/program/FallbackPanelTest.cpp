@@ -32,9 +32,9 @@ TEST_F(FallbackPanelTest, savesUnderTheSuggestedNameInTheFolderToBeginWith)
 
 TEST_F(FallbackPanelTest, savesInTheHomeFolderWhereNoneIsNamed)
 {
-    choosePath({u"Export"_s, u"a.csv"_s, {}});
+    choosePath({u"Export"_s, u"a"_s, {}, Workspace::FileType::commaSeparatedText});
     ASSERT_TRUE(clickOn(u"panelAccept"_s));
-    EXPECT_EQ(path_, at(u"a.csv"_s));
+    EXPECT_EQ(path_, at(u"a.csv"_s)); // with the extension of its type
 }
 
 TEST_F(FallbackPanelTest, typesTheNameOverItsStem)

@@ -68,6 +68,35 @@ TEST_F(SavePanelViewTest, takesAPathForAName)
     }
 }
 
+TEST_F(SavePanelViewTest, givesAFileTheExtensionOfItsType)
+{
+    folder(u"inner.x"_s);
+    make({u"Export"_s, {}, false, u"a.csv"_s, u"csv"_s});
+    settle();
+    EXPECT_EQ(view_->resultText(), u"~/a.csv"_s);
+    for (const auto &[typed, result] :
+         {std::pair(u"b"_s, u"~/b.csv"_s), std::pair(u"b.CSV"_s, u"~/b.CSV"_s),
+          std::pair(u"b 2.0"_s, u"~/b 2.0.csv"_s), std::pair(u"inner.x/b"_s, u"~/inner.x/b.csv"_s)}) {
+        view_->setFileName(typed);
+        EXPECT_EQ(view_->resultText(), result);
+    }
+    view_->accept();
+    settle();
+    EXPECT_EQ(path_, at(u"inner.x/b.csv"_s));
+}
+
+TEST_F(SavePanelViewTest, asksAboutTheFileThatItsTypeMakesIt)
+{
+    file(u"b.csv"_s);
+    make({u"Export"_s, {}, false, u"a.csv"_s, u"csv"_s});
+    settle();
+    view_->setFileName(u"b"_s);
+    view_->accept();
+    settle();
+    EXPECT_EQ(answers_, 0);
+    EXPECT_TRUE(view_->replaceQuestion()->isUp());
+}
+
 TEST_F(SavePanelViewTest, savesNothingWithoutAName)
 {
     save(u"a.csv"_s);

@@ -342,7 +342,10 @@ void FilePanelView::takeRows(const std::vector<folderlisting::Entry> &entries)
 
 QString FilePanelView::savePath() const
 {
-    return name_.pathFrom(folder_, platform_.home);
+    const QString path = name_.pathFrom(folder_, platform_.home);
+    const bool isComplete = path.isEmpty() || name_.meansFolder() || request_.extension.isEmpty()
+                            || paths::extension(path).compare(request_.extension, Qt::CaseInsensitive) == 0;
+    return isComplete ? path : path + u'.' + request_.extension;
 }
 
 void FilePanelView::save()

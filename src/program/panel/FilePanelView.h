@@ -54,6 +54,7 @@ public:
         QString start; ///< the folder to begin with; the home folder where it is empty
         bool showsHidden = false;
         std::optional<QString> suggestedName; ///< of the file to be saved; none where a folder is asked for
+        QString extension = {}; ///< that this file is given where its name has another; empty for any
     };
 
     /// `chosen` gets the path, or none when the user cancels, once at most; it may delete this object in a later turn of the
