@@ -1,4 +1,3 @@
-import QtQml.Models
 import QtQuick
 import QtQuick.Templates as T
 import Quillmere
@@ -16,8 +15,6 @@ T.MenuItem {
     rightPadding: Theme.unit * 2.5
     hoverEnabled: true
     activeFocusOnTab: enabled // and so the arrows pass over the others
-    // The Tab key moves the keyboard alone, and Return would then do what another line than the lit one says.
-    onActiveFocusChanged: if (activeFocus && menu) menu.currentIndex = ObjectModel.index
     Accessible.name: text
     Accessible.ignored: isDivider
 

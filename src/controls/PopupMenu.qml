@@ -17,10 +17,20 @@ Menu {
 
     // Whoever opens a menu by key goes on by key, so its first line that does something is the current one.
     function lightFirst() {
-        let first = 0;
-        while (first < count && !itemAt(first).enabled)
-            ++first;
-        currentIndex = first < count ? first : -1;
+        currentIndex = -1;
+        step(1);
+    }
+
+    // Lights the next line (1) or the one before (-1) that does something, round the menu.
+    function step(by) {
+        let next = by < 0 ? Math.max(currentIndex, 0) : currentIndex;
+        for (let tried = 0; tried < count; ++tried) {
+            next = (next + by + count) % count;
+            if (itemAt(next).enabled) {
+                currentIndex = next;
+                return;
+            }
+        }
     }
 
     padding: Theme.unit
@@ -39,5 +49,17 @@ Menu {
         for (let i = 0; i < count; ++i)
             widest = Math.max(widest, itemAt(i).implicitWidth);
         return widest + leftPadding + rightPadding;
+    }
+
+    // Left to the toolkit, Tab would take the keyboard on into the window behind (Qt 6.8) or move it without the light.
+    Shortcut {
+        sequence: "Tab"
+        enabled: menu.visible
+        onActivated: menu.step(1)
+    }
+    Shortcut {
+        sequences: ["Backtab", "Shift+Tab"]
+        enabled: menu.visible
+        onActivated: menu.step(-1)
     }
 }

@@ -140,8 +140,10 @@ QAccessible::State AccessibleItem::state() const
     QAccessible::State state = inner() ? inner()->state() : QAccessible::State();
     if (!item_)
         return state;
-    if (!item_->isEnabled())
+    if (!item_->isEnabled()) {
         state.disabled = true;
+        state.focusable = false; // toolkits before 6.8 say that it is
+    }
     const QVariant toldChecked = item_->property("toldChecked");
     if (toldChecked.isValid()) {
         state.checkable = true;

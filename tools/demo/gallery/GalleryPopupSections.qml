@@ -22,10 +22,10 @@ Column {
                     id: menu
                     title: lines.word
                     parent: menuPlace
-                    visible: true
                     focus: false
                     margins: -1
                     closePolicy: T.Popup.NoAutoClose
+                    Component.onCompleted: visible = true // once it has its place
                     MenuLine {
                         text: lines.word
                         keysText: "Ctrl+T"

@@ -67,10 +67,10 @@ void dragOver(QQuickItem *item)
 /// another stop.
 bool isOfTheStop(const QQuickItem *ring)
 {
-    QList<int> policies; // of what is around it, from within
+    QList<int> policies; // of the controls around it, from within
     for (const QQuickItem *around = ring; around; around = around->parentItem()) {
-        if (const QVariant policy = around->property("focusPolicy"); policy.isValid())
-            policies << policy.toInt();
+        if (around->inherits("QQuickControl")) // newer toolkits give every item a policy
+            policies << around->property("focusPolicy").toInt();
     }
     const auto stops =
         std::count_if(policies.begin(), policies.end(), [](int policy) { return policy & Qt::TabFocus; });
