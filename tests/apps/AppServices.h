@@ -4,7 +4,7 @@
 #include "apps/AppService.h"
 #include "base/Paths.h"
 #include "filesystem/FileSystemService.h"
-#include "support/MadeBundle.h"
+#include "makers/MadeBundle.h"
 #include "support/TestPlatform.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "base/PropertyList.h"
 
-#include "support/PropertyLists.h"
+#include "makers/PropertyLists.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

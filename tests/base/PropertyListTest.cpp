@@ -1,7 +1,7 @@
 #include "base/PropertyList.h"
 
 #include "base/PropertyListBounds.h"
-#include "support/PropertyLists.h"
+#include "makers/PropertyLists.h"
 #include "support/TempHome.h"
 
 #include <QJsonArray>

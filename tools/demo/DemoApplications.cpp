@@ -1,8 +1,8 @@
 #include "DemoApplications.h"
 
 #include "base/Paths.h"
-#include "support/MadeBundle.h"
-#include "support/MadeFiles.h"
+#include "makers/MadeBundle.h"
+#include "makers/MadeFiles.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 
 #include "base/Paths.h"
 #include "DemoApplications.h"
-#include "support/MadeFiles.h"
+#include "makers/MadeFiles.h"
 
 #include <array>
 #include <cerrno>

@@ -2,8 +2,8 @@
 
 #include "base/Files.h"
 #include "base/Paths.h"
-#include "support/MadeBundle.h"
-#include "support/PropertyLists.h"
+#include "makers/MadeBundle.h"
+#include "makers/PropertyLists.h"
 #include "support/TempHome.h"
 
 #include <QJsonArray>

@@ -2,7 +2,7 @@
 
 #include "apps/ghosts/GhostScan.h"
 #include "base/Paths.h"
-#include "support/PropertyLists.h"
+#include "makers/PropertyLists.h"
 #include "support/TestPlatform.h"
 
 #include <QHash>

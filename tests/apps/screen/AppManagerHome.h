@@ -3,8 +3,8 @@
 #include "apps/screen/AppManagerView.h"
 #include "apps/uninstall/UninstallHome.h"
 #include "base/Files.h"
+#include "makers/PropertyLists.h"
 #include "support/LocaleGuard.h"
-#include "support/PropertyLists.h"
 #include "support/Rows.h"
 
 #include <QAbstractItemModelTester>

@@ -1,8 +1,8 @@
-#include "support/MadeBundle.h"
+#include "makers/MadeBundle.h"
 
 #include "base/Paths.h"
-#include "support/MadeFiles.h"
-#include "support/PropertyLists.h"
+#include "makers/MadeFiles.h"
+#include "makers/PropertyLists.h"
 
 void MadeBundle::make() const
 {

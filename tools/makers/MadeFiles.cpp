@@ -1,4 +1,4 @@
-#include "support/MadeFiles.h"
+#include "makers/MadeFiles.h"
 
 #include "base/Paths.h"
 

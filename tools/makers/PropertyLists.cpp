@@ -1,4 +1,4 @@
-#include "support/PropertyLists.h"
+#include "makers/PropertyLists.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
