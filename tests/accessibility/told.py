@@ -10,6 +10,8 @@ from gi.repository import Atspi, GLib  # pylint: disable=wrong-import-position
 # These hold others and need no name of their own; all else does.
 HOLDERS = {"menu bar", "filler", "panel"}
 STATES_OF_ALL = {"visible", "showing"}
+# Roles that newer versions of the interface name otherwise (trixie has 2.56), by the names that bookworm has.
+NEWER_NAMES = {"button": "push button"}
 
 
 @dataclasses.dataclass
@@ -62,7 +64,8 @@ def read(source, parent=None):
         if "Action" in interfaces:
             actions = [Atspi.Action.get_action_name(source, index)
                        for index in range(Atspi.Action.get_n_actions(source))]
-        node = Told(source, source.get_role_name(), source.get_name() or "", source.get_description() or "",
+        role = source.get_role_name()
+        node = Told(source, NEWER_NAMES.get(role, role), source.get_name() or "", source.get_description() or "",
                     {state.value_nick for state in source.get_state_set().get_states()}, actions, rect, parent)
         for index in range(source.get_child_count()):
             child = source.get_child_at_index(index)
