@@ -144,43 +144,59 @@ QString place(const QQuickItem *item)
     return types.join(QStringLiteral(" < "));
 }
 
-/// What can be read and used: all of the window, or what opens over it while a backdrop dims the rest.
-QQuickItem &front(QQuickWindow &window)
+/// What stands over the window, the frontmost last: popups, and the backdrops that dim what is behind them.
+std::vector<QQuickItem *> layers(const QQuickWindow &window)
 {
-    QQuickItem *overlay = scene::item(window.contentItem(),
-                                      [](const QQuickItem *item) { return item->inherits("QQuickOverlay"); });
-    if (!overlay)
-        return *window.contentItem();
-    const QList<QQuickItem *> open = overlay->childItems();
-    const bool isDimmed = std::any_of(open.begin(), open.end(), [](const QQuickItem *item) {
-        return item->isVisible() && !item->inherits("QQuickPopupItem");
-    });
-    return isDimmed ? *overlay : *window.contentItem();
+    const QQuickItem *overlay = scene::item(
+        window.contentItem(), [](const QQuickItem *item) { return item->inherits("QQuickOverlay"); });
+    std::vector<QQuickItem *> layers;
+    for (QQuickItem *item : overlay ? overlay->childItems() : QList<QQuickItem *>()) {
+        if (item->isVisible() && item->opacity() > 0)
+            layers.push_back(item);
+    }
+    std::stable_sort(layers.begin(), layers.end(),
+                     [](const QQuickItem *one, const QQuickItem *other) { return one->z() < other->z(); });
+    return layers;
 }
 
-/// What opens over the window, with its place there.
-struct Cover
+bool isPopup(const QQuickItem *item)
 {
-    const QQuickItem *popup;
-    QRectF place;
-};
-
-std::vector<Cover> covers(const QQuickWindow &window)
-{
-    std::vector<Cover> covers;
-    for (const QQuickItem *popup : scene::items(
-             window.contentItem(), [](QQuickItem *item) { return item->inherits("QQuickPopupItem"); }))
-        covers.push_back({popup, popup->mapRectToScene(QRectF(0, 0, popup->width(), popup->height()))});
-    return covers;
+    return item->inherits("QQuickPopupItem");
 }
 
-/// Whether one of them hides a part of the text.
-bool isCovered(const QQuickItem *text, const std::vector<Cover> &covers)
+/// What can be read and used: all of the window, or what stands in front of its last backdrop.
+std::vector<QQuickItem *> front(const QQuickWindow &window)
+{
+    const std::vector<QQuickItem *> all = layers(window);
+    const auto backdrop =
+        std::find_if(all.rbegin(), all.rend(), [](const QQuickItem *item) { return !isPopup(item); });
+    if (backdrop == all.rend())
+        return {window.contentItem()};
+    return {backdrop.base(), all.end()};
+}
+
+std::vector<QQuickItem *> inksOf(const std::vector<QQuickItem *> &roots)
+{
+    std::vector<QQuickItem *> inks;
+    for (QQuickItem *root : roots) {
+        const std::vector<QQuickItem *> found = scene::items(root, isInk);
+        inks.insert(inks.end(), found.begin(), found.end());
+    }
+    return inks;
+}
+
+/// Whether a popup in front of it hides a part of the text.
+bool isCovered(const QQuickItem *text, const std::vector<QQuickItem *> &layers)
 {
     const QRectF place = text->mapRectToScene(QRectF(0, 0, text->width(), text->height()));
-    return std::any_of(covers.begin(), covers.end(), [&](const Cover &cover) {
-        return !cover.popup->isAncestorOf(text) && place.intersects(cover.place);
-    });
+    for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
+        if ((*layer)->isAncestorOf(text))
+            return false;
+        const QRectF whole(0, 0, (*layer)->width(), (*layer)->height());
+        if (isPopup(*layer) && place.intersects((*layer)->mapRectToScene(whole)))
+            return true;
+    }
+    return false;
 }
 
 QString report(const QQuickItem *item, double ratio, const QColor &ink, QRgb ground)
@@ -199,14 +215,14 @@ namespace contrast {
 
 Measure measure(QQuickWindow &window)
 {
-    const std::vector<QQuickItem *> texts = scene::items(&front(window), isInk);
+    const std::vector<QQuickItem *> texts = inksOf(front(window));
     std::vector<QColor> colors;
     for (const QQuickItem *item : texts)
         colors.push_back(item->property("color").value<QColor>());
     const Pictures pictures = paint(window, texts, colors);
     const double ratio = static_cast<double>(pictures.whole.width()) / window.width(); // pixels a point
 
-    const std::vector<Cover> open = covers(window);
+    const std::vector<QQuickItem *> open = layers(window);
     Measure measure;
     for (size_t i = 0; i < texts.size(); ++i) {
         const QRect seen = seenPixels(texts[i], ratio, pictures.whole.rect());

@@ -75,7 +75,7 @@ void ProgramUnderTest::forget()
     surroundings_.forget();
     exits_ = 0;
     lettings_ = 0;
-    folderAnswers_.clear();
+    panelAnswers_.clear();
 }
 
 QQuickItem *ProgramUnderTest::rootOf(QQuickItem *under) const
@@ -241,7 +241,17 @@ void ProgramUnderTest::setActive(bool isActive)
 
 void ProgramUnderTest::askForFolder(const QString &message)
 {
-    panel_.chooseFolder({message, {}, false}, [this](const std::optional<QString> &path) {
-        folderAnswers_ << path.value_or(QStringLiteral("none"));
-    });
+    panel_.chooseFolder({message, {}, false}, answerTaker());
+}
+
+void ProgramUnderTest::askForSavePath(const QString &message, const QString &name)
+{
+    panel_.chooseSavePath({message, name, {}}, answerTaker());
+}
+
+Workspace::PathChosen ProgramUnderTest::answerTaker()
+{
+    return [this](const std::optional<QString> &path) {
+        panelAnswers_ << path.value_or(QStringLiteral("none"));
+    };
 }

@@ -104,21 +104,24 @@ public:
     Q_INVOKABLE QString activationToken() const { return qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); }
     /// Shows the program's own folder panel, as on a desktop that has none.
     Q_INVOKABLE void askForFolder(const QString &message);
-    /// What that panel has answered, a line each; "none" where it was cancelled.
-    Q_INVOKABLE QString folderAnswers() const { return folderAnswers_.join(u'\n'); }
+    /// The same of the panel for saving.
+    Q_INVOKABLE void askForSavePath(const QString &message, const QString &name);
+    /// What those panels have answered, a line each; "none" where they were cancelled.
+    Q_INVOKABLE QString panelAnswers() const { return panelAnswers_.join(u'\n'); }
     /// A text field in the window, as a screen of a later day will have one.
     Q_INVOKABLE QQuickItem *addTextField(const QString &text);
     Q_INVOKABLE void removeTextField() { textField_.reset(); }
 
 private:
     QQuickItem *rootOf(QQuickItem *under) const;
+    Workspace::PathChosen answerTaker();
 
     Surroundings &surroundings_;
     QString firstScreen_;
     int exits_ = 0;
     int lettings_ = 0;
     bool beganEarly_ = false;
-    QStringList folderAnswers_;
+    QStringList panelAnswers_;
     FallbackPanel panel_;
     std::unique_ptr<Composition> composition_;
     std::unique_ptr<QQuickItem> textField_;

@@ -69,7 +69,7 @@ ScreenCase {
         find("Which folder?");
         checkBothWays();
         press(Qt.Key_Escape);
-        tryVerify(() => Program.folderAnswers() === "none", patience, "the panel is cancelled");
+        tryVerify(() => Program.panelAnswers() === "none", patience, "the panel is cancelled");
     }
 
     function test_openQuestionFollows() {

@@ -29,9 +29,49 @@ AnalyzerCase {
         meter.measure("panel");
         const list = Program.named("panelList");
         meter.measureHovered([find("Movies", list), find("Home", Program.named("panelPlaces"))], "panel hovered");
+        askForName("a/b");
+        meter.measure("new folder");
+        meter.measureHovered([Program.named("promptField"), Program.named("promptCancel"), Program.named("promptAction")], "new folder hovered");
+        press(Qt.Key_Return);
+        find("No folder can have the name “a/b”");
+        meter.measure("no new folder");
         press(Qt.Key_Escape);
         tryGone("Which folder?");
     }
+
+    function askForName(name) {
+        clickOn(Program.named("panelNewFolder"));
+        tryVerify(() => Program.named("promptField")?.activeFocus, patience, "the question is up");
+        meter.measure("new folder without a name");
+        for (const letter of name)
+            keyClick(letter);
+        Program.settle();
+    }
+
+    function test_savePanel_data() {
+        return meter.palettes;
+    }
+
+    function test_savePanel(palette) {
+        Surroundings.setDark(palette.isDark);
+        Program.askForSavePath("Save as", "notes.txt");
+        find("Movies", Program.named("panelList"));
+        meter.measure("save panel");
+        const list = Program.named("panelList");
+        meter.measureHovered([find("Movies", list), Program.named("panelName"), Program.named("panelAccept")], "save panel hovered");
+        askForName("albums");
+        meter.measure("save panel new folder");
+        press(Qt.Key_Escape);
+        tryVerify(() => !Program.named("promptField"), patience, "the question is gone");
+        clickOn(Program.named("panelAccept"));
+        tryVerify(() => Program.named("confirmCancel")?.activeFocus, patience, "it asks whether to replace");
+        meter.measure("save panel question");
+        press(Qt.Key_Escape);
+        tryVerify(() => !Program.named("confirmCancel"), patience, "the question is gone");
+        press(Qt.Key_Escape);
+        tryGone("Save as");
+    }
+
 
     function test_stoppedScan_data() {
         return meter.palettes;

@@ -21,7 +21,7 @@ ScreenCase {
     }
 
     function tryAnswer(expected) {
-        tryVerify(() => Program.folderAnswers() === expected, patience, "the answer is there");
+        tryVerify(() => Program.panelAnswers() === expected, patience, "the answer is there");
         tryGone("Which folder?");
     }
 

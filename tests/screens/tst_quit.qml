@@ -136,7 +136,7 @@ ScreenCase {
 
     function test_windowThatClosesTakesTheFolderPanelDown() {
         Program.askForFolder("Which folder?");
-        compare(Program.folderAnswers(), "");
-        closeWindow(() => tryVerify(() => Program.folderAnswers() === "none", patience, "the panel is cancelled"));
+        compare(Program.panelAnswers(), "");
+        closeWindow(() => tryVerify(() => Program.panelAnswers() === "none", patience, "the panel is cancelled"));
     }
 }
