@@ -3,9 +3,10 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Quillmere
 
-// The way to what is on view, a crumb for each step. Where it is too long for its room it scrolls, its end on view, and shows
-// whole crumbs only: a sign stands for those that it leaves out, and a press on it is for the nearest of them. It is one
-// stop of the Tab key, at its last crumb; the arrows, Home and End go along it. A long name is cut and told by its tooltip.
+// The way to what is on view, a crumb for each step. Where it is too long for its room it scrolls, its end on view. A sign
+// stands for those that it leaves out, and a press on it is for the nearest of them, or for the one beside it that it cuts:
+// a crumb that reaches below the sign is narrowed where enough is left of it to be read, else left out. It is one stop of
+// the Tab key, at its last crumb; the arrows, Home and End go along it. A long name is cut and told by its tooltip.
 ListView {
     id: crumbs
 
@@ -17,6 +18,7 @@ ListView {
 
     readonly property bool isMirrored: LayoutMirroring.enabled
     readonly property int signRoom: Theme.unit * 6
+    readonly property int leastSeen: Theme.unit * 22 // of a crumb that is narrowed
     readonly property real leftEnd: contentX > originX + 0.5 ? contentX + signRoom : contentX
     readonly property real rightEnd: contentX + width - (contentX + width < originX + contentWidth - 0.5 ? signRoom : 0)
 
@@ -71,9 +73,13 @@ ListView {
     delegate: Crumb {
         required property var model
 
+        readonly property real seen: width - cutLeft - cutRight
+
         height: crumbs.height
         room: crumbs.width - crumbs.signRoom * 2
-        opacity: x >= crumbs.leftEnd - 0.5 && x + width <= crumbs.rightEnd + 0.5 ? 1 : 0
+        cutLeft: Math.max(0, crumbs.leftEnd - x)
+        cutRight: Math.max(0, x + width - crumbs.rightEnd)
+        opacity: seen >= width - 0.5 || seen >= crumbs.leastSeen ? 1 : 0
         isMirrored: crumbs.isMirrored
         hasSign: index > 0 || crumbs.beginsWithSign
         text: model[crumbs.textRole]

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtTest
 import Quillmere
 import Quillmere.Screens
 
@@ -38,6 +39,11 @@ Item {
             text: labels[0]
             labels: ["just now", "44 min ago", "refreshing soon"]
         }
+    }
+
+    SignalSpy {
+        id: chosen
+        signalName: "chosen"
     }
 
     ControlCase {
@@ -81,6 +87,29 @@ Item {
             way.model = ["home", "me"];
             tryVerify(() => isOnView("home") && isOnView("me"), patience);
             verifyWholeCrumbs(way, 0);
+        }
+
+        function test_longNameIsNarrowedBelowTheSign_data() {
+            return [{ tag: "from the left", isMirrored: false }, { tag: "from the right", isMirrored: true }];
+        }
+
+        function test_longNameIsNarrowedBelowTheSign(row) {
+            const name = "a name that is longer than its room";
+            const way = make(ways);
+            way.width = 330;
+            way.LayoutMirroring.enabled = row.isMirrored;
+            way.model = ["home", name, "folder"];
+            tryVerify(() => isOnView(name) && isOnView("folder") && !isOnView("home"), patience);
+            const word = Program.textItem(name, way);
+            const left = word.mapToItem(way, 0, 0).x;
+            verify(word.truncated && left >= 0 && left + word.width <= way.width, "it is cut, and not cut off");
+            chosen.clear();
+            chosen.target = way;
+            mouseClick(way, row.isMirrored ? way.width - way.signRoom / 2 : way.signRoom / 2, way.height / 2);
+            compare(chosen.count, 1);
+            compare(chosen.signalArguments[0][0], 1);
+            way.model = ["home", name, "a folder with a name that takes the rest"];
+            tryVerify(() => !isOnView(name), patience, "too little is left of it to be read");
         }
 
         function test_detailOfAFolderStandsApartFromItsButton() {
