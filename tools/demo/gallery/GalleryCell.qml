@@ -19,6 +19,9 @@ Column {
     }
 
     spacing: Theme.unit * 1.5
+    // So that assistive technology goes through a cell at a time, and not through all that the gallery shows.
+    Accessible.role: Accessible.Grouping
+    Accessible.name: pose
 
     CaptionText {
         text: cell.pose

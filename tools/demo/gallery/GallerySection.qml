@@ -15,8 +15,11 @@ Column {
 
     width: parent ? parent.width : 0
     spacing: Theme.unit * 3
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title.text
 
     BodyText {
+        id: title
         text: section.variant.length > 0 ? section.control + ", " + section.variant : section.control
         font.weight: Font.DemiBold
     }
