@@ -37,12 +37,10 @@ T.MenuItem {
             color: !line.enabled ? Theme.disabledText : line.highlighted ? Theme.text : Theme.secondText
             font.pixelSize: Theme.smallSize
         }
-        Rectangle {
+        Divider {
             anchors.verticalCenter: parent.verticalCenter
             width: parent.width
-            height: 1
             visible: line.isDivider
-            color: Theme.line
         }
     }
     background: Pill {

@@ -91,11 +91,9 @@ T.Popup {
                 onClicked: sheet.close()
             }
         }
-        Rectangle {
+        Divider {
             anchors.top: head.bottom
             width: parent.width
-            height: 1
-            color: Theme.line
         }
         FocusScope {
             id: content

@@ -22,12 +22,10 @@ FocusRow {
     Accessible.role: Accessible.PageTabList
     Accessible.name: label
 
-    Rectangle {
+    Divider {
         anchors.bottom: parent.bottom
         z: -1
         width: parent.width
-        height: 1
-        color: Theme.line
     }
     delegate: ButtonBase {
         id: tab

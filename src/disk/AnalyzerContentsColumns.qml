@@ -39,10 +39,8 @@ Item {
         color: Theme.secondText
         font.pixelSize: Theme.captionSize
     }
-    Rectangle {
+    Divider {
         anchors.bottom: parent.bottom
         width: parent.width
-        height: 1
-        color: Theme.line
     }
 }

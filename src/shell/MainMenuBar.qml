@@ -47,11 +47,9 @@ Rectangle {
             }
         }
     }
-    Rectangle {
+    Divider {
         anchors.bottom: parent.bottom
         width: parent.width
-        height: 1
-        color: Theme.line
     }
     Shortcut {
         sequence: "F10" // the usual key for the menu bar

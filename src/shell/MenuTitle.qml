@@ -46,10 +46,9 @@ T.Button {
         Loader {
             y: words.baselineOffset + 1
             active: InputWatch.isAltDown
-            sourceComponent: Rectangle {
+            sourceComponent: Divider {
                 objectName: "letterLine"
                 width: metrics.advanceWidth
-                height: 1
                 color: Theme.text
                 TextMetrics {
                     id: metrics

@@ -55,10 +55,8 @@ Rectangle {
             sidebar: bar.sidebar
         }
     }
-    Rectangle {
+    Divider {
         anchors.right: parent.right
-        width: 1
         height: parent.height
-        color: Theme.line
     }
 }

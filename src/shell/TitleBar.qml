@@ -81,11 +81,9 @@ Item {
             text: bar.main.searchTip
         }
     }
-    Rectangle {
+    Divider {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        height: 1
-        color: Theme.line
     }
 }

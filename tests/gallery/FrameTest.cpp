@@ -135,6 +135,25 @@ TEST_F(GalleryTest, drawsAFrameAsThickOnAllSides)
     EXPECT_GT(seen.size(), 15) << seen.join(u' ').toStdString();
 }
 
+TEST_F(GalleryTest, drawsEachDividerAsThick)
+{
+    const QImage window = gallery->window().grabWindow();
+    const double ratio = ratioOf(window);
+    const std::vector<QQuickItem *> dividers = ofType(u"Divider"_s);
+    EXPECT_GT(dividers.size(), 10U);
+    for (const QQuickItem *divider : dividers) {
+        const QRect line = pixelsOf(divider, ratio);
+        const bool isUpright = line.height() > line.width();
+        const QPoint along = isUpright ? QPoint(0, 1) : QPoint(1, 0);
+        const QPoint across = isUpright ? QPoint(1, 0) : QPoint(0, 1);
+        int pixels = 0; // where nothing covers it, as a tab does
+        for (int at = 0; pixels == 0 && at < std::max(line.width(), line.height()); ++at)
+            pixels = thickness(window, line.topLeft() + at * along - 2 * across, across,
+                               divider->property("color").value<QColor>().rgb());
+        EXPECT_EQ(pixels, std::max(1, static_cast<int>(ratio))) << line.x() << ", " << line.y();
+    }
+}
+
 TEST_F(GalleryTest, drawsALargePillAsASmallOne)
 {
     constexpr int corner = 24; // points

@@ -57,6 +57,7 @@ const std::map<QString, Lack> lacks = {
     {u"ChipRow"_s, {doings + longText, "its chips have a section"}},
     {u"ConfirmDialog"_s,
      {doings + off, "its buttons have sections, and it stands only while it can be answered"}},
+    {u"Divider"_s, {QStringList(u"normal"_s) + doings + off + wording, "a line; its ways are shown instead"}},
     {u"ElidedText"_s, {doings, "it only tells"}},
     {u"EmptyState"_s, {doings, "it only tells"}},
     {u"Figure"_s, {doings, "it only tells"}},

@@ -22,6 +22,7 @@ const std::map<QString, std::string> silent = {
     {u"CaptionText"_s, "the same"},
     {u"Card"_s, "a ground"},
     {u"CardSlice"_s, "a ground"},
+    {u"Divider"_s, "a line"},
     {u"ElidedText"_s, "as a BodyText"},
     {u"FolderDrop"_s, "an offer to the pointer; a button beside it does the same"},
     {u"RowBackground"_s, "a ground; its row tells its states"},

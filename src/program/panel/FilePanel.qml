@@ -65,13 +65,11 @@ SheetFrame {
             }
         }
     }
-    Rectangle {
+    Divider {
         id: divider
         anchors.left: placeColumn.right
         anchors.bottom: foot.top
-        width: 1
         height: placeColumn.height
-        color: Theme.line
     }
     IconButton {
         id: upButton
@@ -107,11 +105,9 @@ SheetFrame {
         focus: !panel.view.isForSaving
         view: panel.view
     }
-    Rectangle {
+    Divider {
         anchors.bottom: foot.top
         width: parent.width
-        height: 1
-        color: Theme.line
     }
     FilePanelFoot {
         id: foot

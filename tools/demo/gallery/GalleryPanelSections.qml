@@ -8,6 +8,17 @@ Column {
     spacing: Theme.unit * 8
 
     GallerySection {
+        control: "Divider"
+        poses: ["across", "upright"]
+        GalleryCell {
+            id: divider
+            Divider {
+                width: divider.pose === "across" ? divider.room : implicitWidth
+                height: divider.pose === "upright" ? Theme.controlHeight : implicitHeight
+            }
+        }
+    }
+    GallerySection {
         control: "Card"
         poses: ["normal"]
         GalleryCell {
