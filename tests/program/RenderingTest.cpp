@@ -1,14 +1,17 @@
 #include "program/Rendering.h"
 
+#include <QByteArray>
+
 #include <string>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-bool drawsInSoftwareWith(bool hasGraphicsCard, const std::string &variable)
+bool drawsInSoftwareWith(bool hasGraphicsCard, const std::string &variable, const QByteArray &value = "1")
 {
-    return rendering::drawsInSoftware(hasGraphicsCard, [&](const char *name) { return name == variable; });
+    return rendering::drawsInSoftware(
+        hasGraphicsCard, [&](const char *name) { return name == variable ? value : QByteArray(); });
 }
 
 } // namespace
@@ -32,4 +35,16 @@ TEST(Rendering, isLeftToTheUserWhoHasChosen)
 TEST(Rendering, passesOverWhatChoosesNothing)
 {
     EXPECT_TRUE(drawsInSoftwareWith(false, "QT_QPA_PLATFORM"));
+}
+
+TEST(Rendering, isNotInSoftwareAtAScaleThatTheSoftwareCannotDraw)
+{
+    for (const char *scale : {"0.5", "0.99", "1;0.5", "DP-1=0.75", "DP-1=2;HDMI-1=0.75"}) {
+        EXPECT_FALSE(drawsInSoftwareWith(false, "QT_SCALE_FACTOR", scale)) << scale;
+        EXPECT_FALSE(drawsInSoftwareWith(false, "QT_SCREEN_SCALE_FACTORS", scale)) << scale;
+    }
+    for (const char *scale : {"", "0", "1", "1.5", "2", "1;1.5", "DP-1=1;DP-2=2", "small", "DP-0.5=1"}) {
+        EXPECT_TRUE(drawsInSoftwareWith(false, "QT_SCALE_FACTOR", scale)) << scale;
+        EXPECT_TRUE(drawsInSoftwareWith(false, "QT_SCREEN_SCALE_FACTORS", scale)) << scale;
+    }
 }
