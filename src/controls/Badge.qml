@@ -28,6 +28,8 @@ Pill {
     Row {
         id: content
         anchors.centerIn: parent
+        anchors.horizontalCenterOffset: label.font.letterSpacing / 2 // there is one behind the last letter as well
+        anchors.alignWhenCentered: false
         spacing: Theme.unit
         Symbol {
             id: icon

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <functional>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -96,6 +97,19 @@ QImage part(const QImage &window, const QQuickItem &item)
     const QRectF seen =
         item.mapRectToScene(QRectF(-margin, -margin, item.width() + 2 * margin, item.height() + 2 * margin));
     return window.copy(QRectF(seen.topLeft() * ratio, seen.size() * ratio).toAlignedRect());
+}
+
+/// The first and the last column in which something has that colour; before and behind the picture where nothing does.
+std::pair<int, int> columnsOf(const QImage &picture, QRgb ink)
+{
+    std::pair<int, int> columns(picture.width(), -1);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (isGround(picture.pixel(x, y), ink))
+                columns = {std::min(columns.first, x), std::max(columns.second, x)};
+        }
+    }
+    return columns;
 }
 
 /// How many pixels of a line are met on the way through the middle, from the left, the right, the top and the bottom.
@@ -204,4 +218,25 @@ TEST_F(GalleryTest, drawsTheMarkOfARowEvenly)
         EXPECT_EQ(widths, std::vector<int>(4, widths.front()));
     });
     EXPECT_EQ(seen, 1);
+}
+
+TEST_F(GalleryTest, setsTheWordOfABadgeInItsMiddle)
+{
+    const QImage window = gallery->window().grabWindow();
+    int seen = 0;
+    forEachCell([&](const QQuickItem *section, QQuickItem *cell) {
+        if (GalleryTest::told(section, "control") != "Badge"
+            || GalleryTest::told(section, "variant").isEmpty() // whose symbol stands ahead of it
+            || GalleryTest::told(cell, "pose") != "normal")
+            return;
+        ++seen;
+        QQuickItem *badge = qobject_cast<QQuickItem *>(GalleryTest::control(section, cell));
+        const QImage picture = cropped(part(window, *badge), ground());
+        const auto [first, last] = columnsOf(picture, badge->property("tint").value<QColor>().rgb());
+        const double point =
+            window.width() / static_cast<double>(gallery->window().width()); // the ends of letters differ
+        EXPECT_NEAR(first, picture.width() - 1 - last, point)
+            << GalleryTest::told(section, "variant").toStdString();
+    });
+    EXPECT_EQ(seen, 2);
 }
