@@ -22,14 +22,6 @@ Pill {
     FocusRing {
         visible: face.hasRing
         radius: parent.radius
-        // On a ground of its own colour the ring is not seen: there a second line goes inside of it, in the colour of the words.
-        Pill {
-            objectName: "innerRing"
-            anchors.fill: parent
-            anchors.margins: 2
-            visible: Qt.colorEqual(face.color, Theme.accent)
-            radius: parent.radius - 2
-            borderColor: Theme.accentText
-        }
+        isDouble: Qt.colorEqual(face.color, Theme.accent)
     }
 }

@@ -63,7 +63,8 @@ Item {
                 }
                 FocusRing {
                     visible: part.visualFocus
-                    anchors.margins: -2
+                    anchors.margins: -borderWidth
+                    isDouble: true
                 }
             }
         }
