@@ -9,6 +9,7 @@ Text {
     font.letterSpacing: 0.6
     textFormat: Text.PlainText
     elide: Text.ElideRight
+    horizontalAlignment: Text.AlignLeft // so that it is mirrored with what it is the head of
     maximumLineCount: 1
     verticalAlignment: Text.AlignVCenter
 }

@@ -15,6 +15,7 @@ Pill {
 
     Pill {
         objectName: "shareFill"
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: bar.share > 0 ? Math.min(parent.width, Math.max(2, Math.round(parent.width * bar.share))) : 0
         height: width < parent.height ? parent.height - 2 : parent.height

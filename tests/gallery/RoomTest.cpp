@@ -65,6 +65,23 @@ TEST_F(GalleryTest, keepsTextsOfAllKindsInsideOfTheirControls)
     }
 }
 
+TEST_F(GalleryTest, beginsTextsAtTheRightWhereTheLayoutIsMirrored)
+{
+    int seen = 0;
+    forEachCell([&seen](const QQuickItem *, QQuickItem *cell) {
+        if (told(cell, "pose") != u"right to left"_s)
+            return;
+        QQuickItem *stage =
+            scene::item(cell, [](QQuickItem *item) { return item->objectName() == u"stage"_s; });
+        for (const QQuickItem *text : scene::texts(stage)) {
+            ++seen;
+            EXPECT_NE(text->property("effectiveHorizontalAlignment").toInt(), Qt::AlignLeft)
+                << shown(text).toStdString();
+        }
+    });
+    EXPECT_GT(seen, 40);
+}
+
 TEST_F(GalleryTest, keepsTextsAndSymbolsApart)
 {
     int pairs = 0;
