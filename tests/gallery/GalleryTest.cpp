@@ -70,6 +70,7 @@ const std::map<QString, Lack> lacks = {
     {u"LoadingLine"_s, {doings + longText, "it only tells; its text is short"}},
     {u"NumberField"_s,
      {{u"pressed"_s, u"long text"_s}, "a press only brings the keyboard; a number is short"}},
+    {u"Picture"_s, {doings + wording, "it only tells, and has no text"}},
     {u"PlainAlert"_s, {doings + off, "as a ConfirmDialog"}},
     {u"PopupMenu"_s, {doings + off, "its lines have a section"}},
     {u"ProgressRing"_s, {doings + wording, "it only tells, and has no text"}},

@@ -28,6 +28,7 @@ const std::map<QString, std::string> silent = {
     {u"RowBackground"_s, "a ground; its row tells its states"},
     {u"ScrollHandle"_s, "lists follow the keys"},
     {u"ShareBar"_s, "the figure beside it is told"},
+    {u"Picture"_s, "the word beside it is told"},
     {u"Spinner"_s, "the word beside it is told"},
     {u"Symbol"_s, "the word beside it is told"},
 };

@@ -1,7 +1,9 @@
 #include "gallery/Gallery.h"
 
+#include "controls/Pictures.h"
 #include "gallery/GalleryPoses.h"
 #include "program/AccessibleItems.h"
+#include "program/PictureProvider.h"
 
 #include <QFontDatabase>
 #include <QQuickWindow>
@@ -18,6 +20,7 @@ Gallery::Gallery(bool isDark)
     QFontDatabase::addApplicationFont(
         QStringLiteral(":/qt/qml/Quillmere/controls/symbols/QuillmereSymbols.ttf"));
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine_.addImageProvider(Pictures::provider, new PictureProvider);
     engine_.setInitialProperties({{QStringLiteral("isDark"), isDark}});
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/Gallery/gallery/GalleryWindow.qml")));
     if (!engine_.rootObjects().isEmpty())

@@ -1,8 +1,10 @@
 #include "gallery/GalleryPoses.h"
 
+#include <QColor>
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QHoverEvent>
+#include <QImage>
 #include <QMimeData>
 #include <QQuickItem>
 #include <QUrl>
@@ -95,6 +97,17 @@ QStringList GalleryPoses::all()
 QStringList GalleryPoses::still()
 {
     return {normal, disabled, longText, rightToLeft};
+}
+
+QString GalleryPoses::picture()
+{
+    if (!picture_.isOpen() && picture_.open()) {
+        QImage image(64, 64, QImage::Format_RGB32);
+        image.fill(QColor(u"#1f9e9a"_s));
+        image.save(&picture_, "png");
+        picture_.flush();
+    }
+    return picture_.fileName();
 }
 
 void GalleryPoses::setSample(const QString &sample)

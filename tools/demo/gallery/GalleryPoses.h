@@ -4,6 +4,7 @@
 #include <QQuickItem>
 #include <QString>
 #include <QStringList>
+#include <QTemporaryFile>
 #include <QtQml/qqmlregistration.h>
 
 /// The states in which the gallery shows each control, and what it writes on them.
@@ -14,6 +15,7 @@ class GalleryPoses final : public QObject
     QML_SINGLETON
     Q_PROPERTY(QStringList all READ all CONSTANT)
     Q_PROPERTY(QStringList still READ still CONSTANT)
+    Q_PROPERTY(QString picture READ picture CONSTANT)
     Q_PROPERTY(QString sample READ sample WRITE setSample NOTIFY sampleChanged)
 
 public:
@@ -21,6 +23,9 @@ public:
     static QStringList all();
     /// Those of what takes no pointer and no keys.
     static QStringList still();
+
+    /// The key of a picture that is there.
+    QString picture();
 
     /// What is to stand on every control in place of the pose's own word; empty for that.
     QString sample() const { return sample_; }
@@ -36,5 +41,6 @@ signals:
     void sampleChanged();
 
 private:
+    QTemporaryFile picture_;
     QString sample_;
 };

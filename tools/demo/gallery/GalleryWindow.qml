@@ -45,6 +45,7 @@ ApplicationWindow {
             GalleryFieldSections { }
             GalleryChoiceSections { }
             GalleryMarkSections { }
+            GalleryPictureSections { }
             GalleryRowSections { }
             GalleryPanelSections { }
             GalleryPopupSections { }
