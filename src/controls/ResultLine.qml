@@ -81,7 +81,7 @@ Pill {
         readonly property bool isHovered: commandPointer.hovered
 
         anchors.right: cross.left
-        anchors.rightMargin: width > 0 ? Theme.unit : 0
+        anchors.rightMargin: width === 0 ? 0 : cross.visible ? Theme.unit : Theme.unit * 2
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.unit * 2
         HoverHandler {

@@ -13,6 +13,7 @@ Row {
     required property string scanText
     required property string scanSymbol
     property list<string> scanLabels // all that `scanText` may read
+    property string scanTip
     required property string stopText
     required property string stopTip
     property list<string> stopLabels
@@ -72,6 +73,7 @@ Row {
         text: commands.scanText
         labels: commands.scanLabels
         symbol: commands.scanSymbol
+        tip: enabled ? commands.scanTip : ""
         isPrimary: commands.isPrimary
         onClicked: commands.started()
     }

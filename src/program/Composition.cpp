@@ -1,12 +1,15 @@
 #include "program/Composition.h"
 
+#include "apps/screen/AppManagerView.h"
 #include "cleanup/screen/SmartCleanupView.h"
 #include "common/NotificationNames.h"
 #include "common/SettingsKeys.h"
+#include "controls/Pictures.h"
 #include "disk/DiskAnalyzerView.h"
 #include "duplicates/screen/DuplicateFinderView.h"
 #include "program/AccessibleItems.h"
 #include "program/FallbackPanel.h"
+#include "program/PictureProvider.h"
 #include "program/Popups.h"
 #include "shell/UpcomingView.h"
 
@@ -74,6 +77,12 @@ CleanupViewModel &Composition::cleanup()
                                     [this]() -> HistoryService & { return history(); });
 }
 
+AppService &Composition::apps()
+{
+    return AppService::shared(platform_, sizeProbes(), fileSystem(),
+                              [this]() -> HistoryService & { return history(); });
+}
+
 FDAService &Composition::access()
 {
     return FDAService::shared(platform_, {relaunch_.executable,
@@ -118,6 +127,11 @@ MainContentView::Screens Composition::screens()
         [this] { return std::make_shared<SmartCleanupView>(platform_, cleanup(), fileSystem(), access()); },
         {},
     };
+    screens[SidebarItem::appManager] = {
+        QStringLiteral("apps/screen/AppManagerScreen.qml"),
+        [this] { return std::make_shared<AppManagerView>(platform_, apps(), sizeProbes(), fileSystem()); },
+        {},
+    };
     return screens;
 }
 
@@ -127,6 +141,7 @@ bool Composition::show()
     QFontDatabase::addApplicationFont(
         QStringLiteral(":/qt/qml/Quillmere/controls/symbols/QuillmereSymbols.ttf"));
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine_.addImageProvider(Pictures::provider, new PictureProvider);
     engine_.setInitialProperties({
         {QStringLiteral("content"), QVariant::fromValue(&content_)},
         {QStringLiteral("sidebar"), QVariant::fromValue(&sidebar_)},

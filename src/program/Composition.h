@@ -2,6 +2,7 @@
 
 #include "activity/FDAService.h"
 #include "activity/HistoryService.h"
+#include "apps/AppService.h"
 #include "cleanup/CleanupViewModel.h"
 #include "disk/DiskService.h"
 #include "duplicates/DuplicateService.h"
@@ -50,6 +51,7 @@ public:
     DiskService &disk();
     DuplicateService &duplicates();
     CleanupViewModel &cleanup();
+    AppService &apps();
     HistoryService &history();
     FDAService &access();
 

@@ -15,10 +15,6 @@ const std::map<SidebarItem, QString> &UpcomingView::descriptions()
              "You will rename many files at once here, through a chain of rules with a live preview.")},
         {SidebarItem::organizer,
          QStringLiteral("Files will be sorted into folders here, by rules, with a preview and an undo.")},
-        {SidebarItem::appManager,
-         QStringLiteral(
-             "Your applications will be listed here, to be removed together with the files that they leave "
-             "behind.")},
     };
     return descriptions;
 }

@@ -310,6 +310,74 @@ class SmartCleanupTest(ScreenTest):
         self.settle(lambda told: not told.find("alert"), "the question gone")
 
 
+class AppManagerTest(ScreenTest):
+    """The App Manager: its lists, their panes, the sheet and the questions."""
+
+    arguments = ["--screen", "appManager"]
+    LIST = "Installed"
+    GHOSTS = "Ghost Files"
+
+    def row(self, window, name):
+        return window.find("list item", name)[0]
+
+    def open_ghosts(self):
+        self.node("page tab", self.GHOSTS).do("Press")
+        return self.window_with("list item", "Grindstone")
+
+    def test_the_screen_is_told(self):
+        window = self.window_with("list item", "Browser")
+        self.assert_sound(window)
+        self.assert_tells(window, ("heading", "App Manager"), ("label", "Installed: 12"), ("page tab", "Installed"),
+                          ("page tab", "Ghost Files"), ("push button", "Export"), ("push button", "Refresh"),
+                          ("label", "Select an app"), ("combo box", "Sort by"), ("list", self.LIST))
+        browser = self.row(window, "Browser")
+        self.assertEqual(browser.description, "121.0, 96 MB, Today, 1 of 12")
+        self.assertIn("checkable", browser.states)
+        self.assertNotIn("checked", browser.states)
+
+    def test_the_rows_are_walked(self):
+        self.window_with("list item", "Browser")
+        self.assert_walks(self.LIST, ("Browser", "1 of 12"), ("Sketchpad", "2 of 12"))
+
+    def test_details_and_the_sheet_are_told(self):
+        self.window_with("list item", "Sketchpad")
+        self.node("list item", "Sketchpad").do("Press")
+        window = self.window_with("push button", "Uninstall Sketchpad")
+        self.assert_sound(window)
+        self.assert_tells(window, ("heading", "Sketchpad"), ("heading", "SIZE BREAKDOWN"), ("label", "Application: 44 MB"),
+                          ("heading", "LOCATION"), ("link", "Show in Finder"))
+        window.find("push button", "Uninstall Sketchpad")[0].do("Press")
+        window = self.window_with("alert", "Uninstall Sketchpad?")
+        self.assert_sound(window)
+        sheet = window.find("alert")[0]
+        self.assertEqual(sheet.description, "The app and selected associated files will be moved to Trash.")
+        files = sheet.find("list", "Associated Files")[0].children
+        self.assertEqual([file.name for file in files], ["com.example.sketchpad.plist", "Sketchpad"])
+        self.assertTrue(all("checked" in file.states for file in files))
+        DESKTOP.press("Escape")
+        self.settle(lambda told: not told.find("alert"), "the sheet gone")
+
+    def test_several_are_asked_about(self):
+        window = self.window_with("list item", "Sketchpad")
+        self.row(window, "Sketchpad").find("check box")[0].do("Press")
+        window = self.window_with("label", "1 apps selected")
+        self.assert_sound(window)
+        self.assertIn("checked", self.row(window, "Sketchpad").states)
+        self.assert_tells(window, ("push button", "Clear selection"))
+
+    def test_ghosts_are_told(self):
+        window = self.open_ghosts()
+        self.assert_sound(window)
+        ghost = self.row(window, "Sketchpad")
+        self.assertTrue(ghost.description.startswith("LOOKS INSTALLED, 2 files, "), ghost.description)
+        self.assertIn("checked", ghost.states)
+        ghost.do("Press")
+        window = self.window_with("heading", "SIZE BY CATEGORY")
+        self.assert_sound(window)
+        self.assert_tells(window, ("heading", "Sketchpad"), ("label", "Files: 2"), ("label", "Categories: 2"),
+                          ("link", "Select None"), ("label", "Selected files will be moved to Trash"))
+
+
 class BrokenBusTest(unittest.TestCase):
     """The window matters more than what listens to it."""
 

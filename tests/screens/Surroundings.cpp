@@ -1,5 +1,6 @@
 #include "screens/Surroundings.h"
 
+#include "base/FileRemoval.h"
 #include "base/Files.h"
 #include "base/Paths.h"
 
@@ -78,6 +79,26 @@ bool Surroundings::exists(const QString &path) const
 void Surroundings::remove(const QString &path) const
 {
     std::filesystem::remove(path.toStdString());
+}
+
+QString Surroundings::saveRequest() const
+{
+    return workspace_.saveRequest.message + u'\n' + workspace_.saveRequest.suggestedName;
+}
+
+void Surroundings::administratorAgrees()
+{
+    recycler_.administrator = [](const QString &path) {
+        files::removeTree(path);
+        return std::optional<Recycler::AdminFailure>();
+    };
+}
+
+void Surroundings::administratorFails(int number, const QString &message)
+{
+    recycler_.administrator = [number, message](const QString &) {
+        return std::optional(Recycler::AdminFailure{.number = number, .message = message});
+    };
 }
 
 void Surroundings::setVolume(double total, double available, const QString &name)

@@ -46,6 +46,7 @@ public:
     Q_INVOKABLE QString folderStart() const { return workspace_.folderRequest.start; }
     Q_INVOKABLE QString settingsPage() const { return QString::fromLatin1(workspace_.settingsPage); }
     Q_INVOKABLE QString recycled() const { return recycler_.recycled.join(u'\n'); }
+    Q_INVOKABLE QString saveRequest() const; ///< its title and the name that it proposes
 
     // What it finds.
 
@@ -57,6 +58,12 @@ public:
     Q_INVOKABLE void remove(const QString &path) const;
     Q_INVOKABLE void userWillChoose(const QString &folder) { workspace_.chosenFolder = folder; }
     Q_INVOKABLE void userWillCancel() { workspace_.chosenFolder.reset(); }
+    Q_INVOKABLE void userWillSaveAs(const QString &path) { workspace_.chosenSavePath = path; }
+    /// The programs that run, by their paths.
+    Q_INVOKABLE void setRunning(const QStringList &paths) { applications_.running = paths; }
+    /// An administrator who is asked takes away what the user may not, or fails with that number.
+    Q_INVOKABLE void administratorAgrees();
+    Q_INVOKABLE void administratorFails(int number, const QString &message);
     Q_INVOKABLE void setVolume(double total, double available, const QString &name);
     Q_INVOKABLE void loseVolume() { systemInfo_.volume.reset(); }
     Q_INVOKABLE void setDark(bool isDark) { appearance_.setDark(isDark); }

@@ -25,9 +25,9 @@ class AppLists final : public QObject
 public:
     AppLists(const Clock &clock, AppService &service);
 
-    /// Rows: see installedlist::roles, and isCurrent (it is in the pane).
+    /// Rows: see installedlist::roles, and isInPane (it is in the pane).
     QAbstractItemModel *installed() { return installed_.model(); }
-    /// Rows: see ghostlist::roles, and isCurrent.
+    /// Rows: see ghostlist::roles, and isInPane.
     QAbstractItemModel *ghosts() { return ghosts_.model(); }
     int installedCount() const { return installed_.count(); }
     int ghostCount() const { return ghosts_.count(); }

@@ -44,6 +44,7 @@ class AppManagerTexts
     Q_PROPERTY(QString retry MEMBER retry CONSTANT)
     Q_PROPERTY(QString retryNote MEMBER retryNote CONSTANT)
     Q_PROPERTY(QString revealNote MEMBER revealNote CONSTANT)
+    Q_PROPERTY(QString dismiss MEMBER dismiss CONSTANT)
 
 public:
     QString rescan = QStringLiteral("Refresh");
@@ -84,5 +85,6 @@ public:
     QString retry = QStringLiteral("Retry with password");
     QString retryNote = QStringLiteral(
         "macOS will prompt for your password (or Touch ID) and remove the app with elevated privileges.");
+    QString dismiss = QStringLiteral("Dismiss");
     QString revealNote = QStringLiteral("Open the app in Finder so you can drag it to the Trash manually.");
 };

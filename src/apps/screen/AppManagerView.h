@@ -46,6 +46,7 @@ class AppManagerView final : public QObject,
     Q_PROPERTY(bool canStop READ canStop NOTIFY stateChanged)
     Q_PROPERTY(QString stopText READ stopText NOTIFY stateChanged)
     Q_PROPERTY(QList<QString> stopLabels READ stopLabels CONSTANT)
+    Q_PROPERTY(bool hasGhosts READ hasGhosts NOTIFY listsChanged)
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY listsChanged)
     Q_PROPERTY(QString selectionText READ selectionText NOTIFY listsChanged)
     Q_PROPERTY(QString selectionAction READ selectionAction NOTIFY listsChanged)
@@ -89,6 +90,7 @@ public:
     QString stopText() const;
     QStringList stopLabels() const; ///< all that it may read, so that its button keeps one width
 
+    bool hasGhosts() const { return !service_.ghosts().empty(); }
     bool hasSelection() const; ///< something is ticked on the tab on view
     QString selectionText() const;
     QString selectionAction() const;
@@ -130,6 +132,7 @@ public:
     // Of the banner.
     Q_INVOKABLE void retry();
     Q_INVOKABLE void revealFailed();
+    Q_INVOKABLE void dismissBanner() { banner_.clear(); }
 
 signals:
     void stateChanged();

@@ -41,6 +41,7 @@ std::vector<RecordListModel<Row>::Role> roles()
         {"filesText", filesText},
         {"totalText", [](const Row &row) { return sizeText(row.totalSize); }},
         {"badgeText", [](const Row &row) { return badgeText(row.looksInstalled); }},
+        {"badgeNote", [](const Row &row) { return badgeNote(row.looksInstalled); }},
         {"looksInstalled", [](const Row &row) { return row.looksInstalled; }},
         {"spokenText",
          [](const Row &row) {

@@ -23,7 +23,8 @@ std::vector<Row> rows(const std::vector<GhostApp> &ghosts, const QString &search
 
 Row row(const GhostApp &ghost);
 
-/// appName, bundleID, filesText, totalText, badgeText, looksInstalled, spokenText (what stands beside the name), isTicked.
+/// appName, bundleID, filesText, totalText, badgeText, badgeNote, looksInstalled, spokenText (what stands beside the name),
+/// isTicked.
 std::vector<RecordListModel<Row>::Role> roles();
 
 /// What a ghost is tagged with, and what that means.

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <utility>
 
-/// A list for QML of rows that are known by their `id`, one of which may be the current one: its role `isCurrent` is true.
-/// Each row is a copy of what it shows, so that the list that it comes from may change at any time. Main thread.
+/// A list for QML of rows that are known by their `id`, one of which may be in the pane beside it: its role `isInPane` is
+/// true. Each row is a copy of what it shows, so that the list that it comes from may change at any time. Main thread.
 template<typename Row>
 class IdentifiedRows
 {
@@ -64,7 +64,7 @@ private:
     std::vector<typename RecordListModel<Row>::Role>
     withCurrent(std::vector<typename RecordListModel<Row>::Role> roles)
     {
-        roles.push_back({"isCurrent", [this](const Row &row) { return row.id == current_; }});
+        roles.push_back({"isInPane", [this](const Row &row) { return row.id == current_; }});
         return roles;
     }
 

@@ -62,7 +62,7 @@ std::vector<RecordListModel<Row>::Role> roles(const Clock &clock)
         {"versionText", [](const Row &row) { return paths::inOneLine(row.version); }},
         {"bundleID", [](const Row &row) { return paths::inOneLine(row.bundleID); }},
         {"path", [](const Row &row) { return paths::inOneLine(row.path); }},
-        {"icon", [](const Row &row) { return row.icon.value_or(QString()); }},
+        {"picture", [](const Row &row) { return row.icon.value_or(QString()); }},
         {"sizeText", [](const Row &row) { return sizeText(row.size); }},
         {"totalText", [](const Row &row) { return sizeText(row.totalSize); }},
         {"lastUsedText", [&clock](const Row &row) { return relativeDayText(row.lastUsed, clock.now()); }},

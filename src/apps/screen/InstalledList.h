@@ -36,7 +36,7 @@ std::vector<Row> rows(const std::vector<RealInstalledApp> &apps, const QString &
 
 Row row(const RealInstalledApp &app);
 
-/// appName, versionText, bundleID, path, icon (a key; empty for none), sizeText (of the bundle), totalText, lastUsedText,
+/// appName, versionText, bundleID, path, picture (a key; empty for none), sizeText (of the bundle), totalText, lastUsedText,
 /// spokenText (what stands beside the name), isTicked.
 std::vector<RecordListModel<Row>::Role> roles(const Clock &clock);
 

@@ -64,12 +64,12 @@ TEST_F(AppPanesTest, breakTheSizeDown)
 TEST_F(AppPanesTest, markTheRowOfWhatTheyShow)
 {
     view->select(1);
-    EXPECT_EQ(columnTexts(view->lists()->installed(), "isCurrent").join(u' '), u"false true false");
+    EXPECT_EQ(columnTexts(view->lists()->installed(), "isInPane").join(u' '), u"false true false");
     view->select(0);
-    EXPECT_EQ(columnTexts(view->lists()->installed(), "isCurrent").join(u' '), u"true false false");
+    EXPECT_EQ(columnTexts(view->lists()->installed(), "isInPane").join(u' '), u"true false false");
     service->scanInstalledApps();
     test.settle(); // of another scan nothing is the same
-    EXPECT_EQ(columnTexts(view->lists()->installed(), "isCurrent").join(u' '), u"false false false");
+    EXPECT_EQ(columnTexts(view->lists()->installed(), "isInPane").join(u' '), u"false false false");
     EXPECT_EQ(view->pane(), u"app");
 }
 
