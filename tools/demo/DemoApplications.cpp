@@ -1,6 +1,7 @@
 #include "DemoApplications.h"
 
 #include "base/Paths.h"
+#include "DemoPictures.h"
 #include "makers/MadeBundle.h"
 #include "makers/MadeFiles.h"
 
@@ -20,23 +21,36 @@ struct DemoBundle
     qint64 size;
     int days; // since it was last changed
     MadeBundle::Form form;
+    const char *tint = ""; // of its picture; none where it is empty
 };
 
 constexpr auto xml = MadeBundle::Form::xml;
 constexpr auto binary = MadeBundle::Form::binary;
 
 constexpr std::array bundles = {
-    DemoBundle{"Sketchpad.app", "Sketchpad", "4.2", "com.example.sketchpad", 44 * megabyte, 60, binary},
-    DemoBundle{"Xcode.app", "Xcode", "15.4", "com.apple.dt.Xcode", 38 * megabyte, 120, binary},
+    DemoBundle{"Sketchpad.app", "Sketchpad", "4.2", "com.example.sketchpad", 44 * megabyte, 60, binary,
+               "#e5734b"},
+    DemoBundle{"Xcode.app", "Xcode", "15.4", "com.apple.dt.Xcode", 38 * megabyte, 120, binary, "#3f8efc"},
     // One vendor with three of them, so that all of its data is spared.
-    DemoBundle{"Tide Tables.app", "Tide Tables", "2.1.3", "com.harbour.tidetables", 19 * megabyte, 200, xml},
-    DemoBundle{"Harbour Charts.app", "Charts", "7.0", "com.harbour.charts", 31 * megabyte, 12, binary},
-    DemoBundle{"Utilities/Harbour Log.app", "Harbour Log", "1.9", "com.harbour.log", 6 * megabyte, 380, xml},
-    DemoBundle{"Browser.app", "Browser", "121.0", "com.example.browser", 96 * megabyte, 0, binary},
-    DemoBundle{"Maps Offline.app", "Maps Offline", "3.0 (beta)", "com.example.maps", 27 * megabyte, 1, xml},
+    DemoBundle{"Tide Tables.app", "Tide Tables", "2.1.3", "com.harbour.tidetables", 19 * megabyte, 200, xml,
+               "#1f9e9a"},
+    DemoBundle{"Harbour Charts.app", "Charts", "7.0", "com.harbour.charts", 31 * megabyte, 12, binary,
+               "#2f6fb5"},
+    DemoBundle{"Utilities/Harbour Log.app", "Harbour Log", "1.9", "com.harbour.log", 6 * megabyte, 380, xml,
+               "#8a63d2"},
+    DemoBundle{"Browser.app", "Browser", "121.0", "com.example.browser", 96 * megabyte, 0, binary, "#4fae4a"},
+    DemoBundle{"Maps Offline.app", "Maps Offline", "3.0 (beta)", "com.example.maps", 27 * megabyte, 1, xml,
+               "#c9a02c"},
     DemoBundle{"Caf\u00e9 Ledger \u2615.app", "Caf\u00e9 Ledger, \"Pro\"", "12", "coop.bohne.ledger",
-               8 * megabyte, 45, xml},
+               8 * megabyte, 45, xml, "#8b5a3c"},
     DemoBundle{"Handmade Script.app", "Handmade Script", "", "", 300 * kilobyte, 900, xml},
+    // Of another user's, as what an administrator has put there.
+    DemoBundle{"Utilities/Firewall Warden.app", "Firewall Warden", "4.1", "com.bulwark.firewall",
+               33 * megabyte, 30, binary, "#c4473a"},
+    DemoBundle{"Utilities/Clock Guard.app", "Clock Guard", "1.2", "com.bulwark.clock", 6 * megabyte, 33, xml,
+               "#b58a2b"},
+    DemoBundle{"Utilities/Sealed Vault.app", "Sealed Vault", "7.0", "com.bulwark.vault", 12 * megabyte, 34,
+               binary, "#5b6675"},
 };
 
 struct DemoLeftover
@@ -57,6 +71,7 @@ constexpr std::array leftovers = {
     DemoLeftover{"Saved Application State/com.harbour.charts.savedState/windows.plist", 12 * kilobyte, 12},
     DemoLeftover{"HTTPStorages/com.example.browser/cookies.db", 700 * kilobyte, 0},
     DemoLeftover{"WebKit/com.example.browser/storage.db", 4 * megabyte, 0},
+    DemoLeftover{"Caches/com.bulwark.clock/times.db", 2 * megabyte, 33},
     DemoLeftover{"Caches/com.harbour.pilot/pilot.db", 1 * megabyte, 700},
     // Of one that is gone, in six folders.
     DemoLeftover{"Application Support/com.oldmill.grindstone/projects.db", 23 * megabyte, 510},
@@ -85,7 +100,18 @@ QJsonObject descriptionOf(const DemoBundle &bundle)
     tell(QStringLiteral("CFBundleName"), bundle.name);
     tell(QStringLiteral("CFBundleShortVersionString"), bundle.version);
     tell(QStringLiteral("CFBundleIdentifier"), bundle.identifier);
+    if (*bundle.tint != '\0')
+        tell(QStringLiteral("CFBundleIconFile"), "AppIcon");
     return description;
+}
+
+void makeBundle(const QString &path, const DemoBundle &bundle)
+{
+    if (*bundle.tint != '\0')
+        madefiles::make(paths::join(path, QStringLiteral("Contents/Resources/AppIcon.icns")),
+                        demopictures::set(QString::fromUtf8(bundle.name), QString::fromUtf8(bundle.tint)), 0,
+                        bundle.days);
+    MadeBundle{path, descriptionOf(bundle), bundle.form, bundle.size, bundle.days}.make();
 }
 
 } // namespace
@@ -94,11 +120,8 @@ namespace demoapplications {
 
 void make(const QString &applications, const QString &home)
 {
-    for (const DemoBundle &bundle : bundles) {
-        MadeBundle{paths::join(applications, QString::fromUtf8(bundle.path)), descriptionOf(bundle),
-                   bundle.form, bundle.size, bundle.days}
-            .make();
-    }
+    for (const DemoBundle &bundle : bundles)
+        makeBundle(paths::join(applications, QString::fromUtf8(bundle.path)), bundle);
     const QString library = paths::join(home, QStringLiteral("Library"));
     for (const DemoLeftover &leftover : leftovers)
         madefiles::make(paths::join(library, QString::fromUtf8(leftover.path)), leftover.path, leftover.size,

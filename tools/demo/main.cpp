@@ -4,6 +4,7 @@
 #include "common/NotificationNames.h"
 #include "DemoHome.h"
 #include "DemoOptions.h"
+#include "DemoRecycler.h"
 #include "gallery/Gallery.h"
 #include "platform/Appearance.h"
 #include "platform/linux/AccessibilityBus.h"
@@ -72,7 +73,8 @@ struct DemoDesktop
                               std::bind_front(&FallbackPanel::chooseSavePath, &panel)},
                              workQueue};
     LinuxSystemLog systemLog{clock};
-    LinuxRecycler recycler{ChildPrograms().pkexec, ChildPrograms().mv, systemLog};
+    LinuxRecycler trash{ChildPrograms().pkexec, ChildPrograms().mv, systemLog};
+    DemoRecycler recycler{trash};
     const LinuxApplications applications{locations, {}};
     const LinuxSystemInfo systemInfo;
     const Platform platform;
@@ -90,7 +92,8 @@ void savePictureWhenReady(Composition &composition, const QString &file, const s
     auto *timer = new QTimer(composition.window());
     QObject::connect(timer, &QTimer::timeout, timer, [&composition, file, exitNow, timer] {
         if (composition.disk().isScanningAnalyzer() || composition.duplicates().isScanning()
-            || composition.cleanup().isScanning())
+            || composition.cleanup().isScanning() || composition.apps().isLoading()
+            || composition.apps().isScanningGhosts())
             return;
         timer->stop();
         // One more turn, so that the last result is painted.
