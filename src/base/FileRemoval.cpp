@@ -4,6 +4,7 @@
 #include "base/FileCalls.h"
 #include "base/OpenFolder.h"
 #include "base/Paths.h"
+#include "base/SystemCalls.h"
 
 #include <QStringList>
 
@@ -39,6 +40,14 @@ Place placeOf(int folder)
     if (fstat(folder, &status) == -1)
         throw errors::fromErrno(errno);
     return {status.st_dev, status.st_ino};
+}
+
+/// Throws Error for an open folder of another volume than `device`, or at which a part of that one is mounted: what it holds
+/// lies elsewhere as well.
+void requireNothingMounted(int folder, dev_t device)
+{
+    if (placeOf(folder).device != device || systemcalls::isMountPoint(folder, ""))
+        throw errors::fromErrno(EXDEV);
 }
 
 bool isFolder(int folder, const char *name)
@@ -122,7 +131,7 @@ public:
         , path_(std::move(path))
         , device_(device)
     {
-        requireDevice(folder_);
+        requireNothingMounted(folder_.number(), device_);
         enter({}, {});
     }
 
@@ -147,13 +156,6 @@ private:
         Place place;
         std::vector<QByteArray> folders; ///< that are still in it
     };
-
-    /// Throws Error for another volume's folder.
-    void requireDevice(const Descriptor &folder) const
-    {
-        if (placeOf(folder.number()).device != device_)
-            throw errors::fromErrno(EXDEV);
-    }
 
     /// Removes all but folders from the folder at hand.
     void enter(const QByteArray &name, std::vector<QByteArray> folders)
@@ -208,7 +210,7 @@ private:
     void enterFolder(const QByteArray &name)
     {
         Descriptor child = openFolder(folder_.number(), name.constData());
-        requireDevice(child);
+        requireNothingMounted(child.number(), device_);
         std::swap(folder_, child);
         path_ += '/' + name;
         try {
@@ -311,8 +313,7 @@ void removeTree(const OpenFolder &folder, const QString &relative)
     std::optional<OpenFolder> inner;
     for (const QString &name : std::as_const(names)) {
         inner = (inner ? *inner : folder).inner(name);
-        if (placeOf(inner->number()).device != device)
-            throw errors::fromErrno(EXDEV);
+        requireNothingMounted(inner->number(), device);
     }
     removeAt((inner ? *inner : folder).number(), last, paths::toBytes(paths::join(folder.path(), relative)));
 }

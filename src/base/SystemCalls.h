@@ -5,7 +5,7 @@
 #include <sys/stat.h>
 
 /// The few system calls that differ between systems. Each system has its own source file for them, which the
-/// build picks; base/Files and base/ChildProcess are their only callers.
+/// build picks; base/ alone calls them.
 namespace systemcalls {
 
 /// Attributes of the entry itself at `path`, relative to the open folder `directory` (or AT_FDCWD). None, with
@@ -17,6 +17,11 @@ std::optional<files::Extent> entryExtent(int directory, const char *path);
 
 /// The same with a link followed. None for one that leads nowhere.
 std::optional<files::Extent> followedExtent(int directory, const char *path);
+
+/// True for a folder at which something is mounted, be it a part of the volume that it is on: one device may stand in many
+/// places. `path` is the folder's, relative to the open folder `directory`; empty for that folder itself. False where the
+/// system can't tell.
+bool isMountPoint(int directory, const char *path);
 
 /// When the content was last changed; the field's name differs between systems.
 Date modificationDate(const struct stat &status);

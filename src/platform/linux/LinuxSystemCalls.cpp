@@ -66,6 +66,14 @@ std::optional<files::Extent> followedExtent(int directory, const char *path)
     return extent(directory, path, 0);
 }
 
+bool isMountPoint(int directory, const char *path)
+{
+    struct statx status = {};
+    const int flags = AT_EMPTY_PATH | AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
+    return statx(directory, path, flags, STATX_TYPE, &status) == 0
+           && (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0; // never set by kernels before 5.8
+}
+
 Date modificationDate(const struct stat &status)
 {
     return dates::fromUnix(status.st_mtim.tv_sec, status.st_mtim.tv_nsec);
