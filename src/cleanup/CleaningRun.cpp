@@ -116,21 +116,43 @@ void CleaningRun::run(const FileSystemService &fileSystem, Recycler &recycler) c
         if (part.picked.isEmpty())
             cleanAll(part, trashed, fileSystem, recycler);
         else
-            cleanPicked(part, fileSystem, recycler);
+            cleanPicked(part, trashed, fileSystem, recycler);
     }
 }
 
-/// What lies in the Trash as the run begins. What the run itself moves there stays, so that it can be taken back.
+/// What is to go from the Trash, as it lies there when the run begins. What the run itself moves there stays, so that it can
+/// be taken back.
 CleaningRun::Contents CleaningRun::trashContents() const
 {
     Contents trashed;
     for (const Part &part : parts_) {
-        if (part.category.id != cleanupids::trash || !part.picked.isEmpty())
+        if (part.category.id != cleanupids::trash)
             continue;
         for (const QString &place : part.category.paths)
-            trashed[place] = contents(place);
+            trashed[place] = entriesAt(part.picked.isEmpty() ? contents(place) : part.picked.values());
     }
     return trashed;
+}
+
+CleaningRun::Entries CleaningRun::entriesAt(const QStringList &paths)
+{
+    Entries entries;
+    for (const QString &path : paths) {
+        if (const auto identity = files::identity(path))
+            entries[path] = *identity;
+    }
+    return entries;
+}
+
+/// The paths at which still the same entries lie: a name may have come back with another one, which stays.
+QStringList CleaningRun::unchanged(const Entries &entries)
+{
+    QStringList same;
+    for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+        if (files::identity(entry.key()) == entry.value())
+            same.append(entry.key());
+    }
+    return same;
 }
 
 void CleaningRun::cleanAll(const Part &part, const Contents &trashed, const FileSystemService &fileSystem,
@@ -142,7 +164,7 @@ void CleaningRun::cleanAll(const Part &part, const Contents &trashed, const File
         if (!isOpen(place))
             continue;
         if (part.category.id == cleanupids::trash) {
-            removeForGood(trashed.value(place), place, recycler);
+            removeForGood(unchanged(trashed.value(place)), place, recycler);
         } else if (part.category.id == cleanupids::emptyFolders) {
             moveIfEmpty(place, fileSystem);
         } else {
@@ -151,7 +173,8 @@ void CleaningRun::cleanAll(const Part &part, const Contents &trashed, const File
     }
 }
 
-void CleaningRun::cleanPicked(const Part &part, const FileSystemService &fileSystem, Recycler &recycler)
+void CleaningRun::cleanPicked(const Part &part, const Contents &trashed, const FileSystemService &fileSystem,
+                              Recycler &recycler)
 {
     const QStringList picked = sorted(part.picked);
     for (const QString &place : part.category.paths) {
@@ -163,7 +186,7 @@ void CleaningRun::cleanPicked(const Part &part, const FileSystemService &fileSys
             continue;
         }
         if (part.category.id == cleanupids::trash)
-            removePicked(picked, place, recycler);
+            removePicked(unchanged(trashed.value(place)), place, recycler);
         else
             movePicked(picked, place, fileSystem);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "activity/HistoryEntry.h"
+#include "base/FileIdentity.h"
 #include "cleanup/CleanupSelection.h"
 
 #include <QMap>
@@ -30,7 +31,8 @@ public:
     HistoryEntry record(Date now) const;
 
 private:
-    using Contents = QMap<QString, QStringList>; ///< entries of places
+    using Entries = QMap<QString, files::Identity>; ///< by their paths
+    using Contents = QMap<QString, Entries>;        ///< of places
 
     struct Part
     {
@@ -39,9 +41,12 @@ private:
     };
 
     Contents trashContents() const;
+    static Entries entriesAt(const QStringList &paths);
+    static QStringList unchanged(const Entries &entries);
     static void cleanAll(const Part &part, const Contents &trashed, const FileSystemService &fileSystem,
                          Recycler &recycler);
-    static void cleanPicked(const Part &part, const FileSystemService &fileSystem, Recycler &recycler);
+    static void cleanPicked(const Part &part, const Contents &trashed, const FileSystemService &fileSystem,
+                            Recycler &recycler);
     QStringList names() const;
 
     std::vector<Part> parts_;

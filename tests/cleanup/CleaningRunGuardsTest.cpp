@@ -26,6 +26,19 @@ protected:
         CleaningRun({category}, selection).run(services.fileSystem, services.test.recycler);
     }
 
+    /// Another program takes a folder of the Trash back, and moves another one of its name there, as a run moves a file.
+    void replaceTrashedFolderOnTheWay()
+    {
+        const auto moves = services.test.recycler.answers;
+        services.test.recycler.answers = [this, moves](const QStringList &paths,
+                                                       const Recycler::Completion &done) {
+            moves(paths, done);
+            services.file(u"new/file"_s); // while the old one is there, so that it can't get its number
+            files::move(at(u".Trash/folder"_s), at(u"taken back"_s));
+            files::move(at(u"new"_s), at(u".Trash/folder"_s));
+        };
+    }
+
     QString at(const QString &relative) const { return services.inHome(relative); }
 
     CleanupServices services;
@@ -196,6 +209,44 @@ TEST_F(CleaningRunGuardsTest, removesForGoodWhatTheTrashHoldsAlone)
         services.tickWhole(id);
     services.clean();
     EXPECT_EQ(services.test.recycler.removed, QStringList(at(u".Trash/old"_s)));
+}
+
+TEST_F(CleaningRunGuardsTest, sparesWhatItMovesToTheTrashUnderThePathOfAPickedFile)
+{
+    const QString trashed = services.file(u".Trash/log"_s);
+    services.file(u"Library/Logs/log"_s);
+    services.scan();
+    services.pick(u"trash"_s, {trashed});
+    services.tickWhole(u"logs"_s);
+    files::removeTree(trashed);
+    services.clean();
+    EXPECT_EQ(services.names(u"Library/Logs"_s), QStringList());
+    EXPECT_EQ(services.names(u".Trash"_s), QStringList(u"log"_s));
+}
+
+TEST_F(CleaningRunGuardsTest, sparesWhatTakesTheNameOfATrashedItemOnTheWay)
+{
+    services.file(u".Trash/folder/file"_s);
+    services.file(u".Trash/old"_s);
+    services.file(u"Library/Logs/log"_s);
+    services.scan();
+    services.tickWhole(u"trash"_s);
+    services.tickWhole(u"logs"_s);
+    replaceTrashedFolderOnTheWay();
+    services.clean();
+    EXPECT_EQ(services.names(u".Trash"_s), (QStringList{u"folder"_s, u"log"_s}));
+}
+
+TEST_F(CleaningRunGuardsTest, sparesWhatTakesThePathOfAPickedFileOnTheWay)
+{
+    const QString picked = services.file(u".Trash/folder/file"_s);
+    services.file(u"Library/Logs/log"_s);
+    services.scan();
+    services.pick(u"trash"_s, {picked});
+    services.tickWhole(u"logs"_s);
+    replaceTrashedFolderOnTheWay();
+    services.clean();
+    EXPECT_EQ(services.names(u".Trash/folder"_s), QStringList(u"file"_s));
 }
 
 TEST_F(CleaningRunGuardsTest, takesNamesInAnyBytes)
