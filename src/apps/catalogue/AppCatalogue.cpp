@@ -38,7 +38,7 @@ std::vector<RealInstalledApp> build(const Locations &locations, SizeProbes &prob
 {
     QStringList found;
     for (const QString &folder : locations.applicationsFolders)
-        found += bundles::find(folder);
+        found += bundles::find(folder, bundles::Links::insideRoot);
     std::vector<RealInstalledApp> apps;
     for (const QString &path : std::as_const(found)) {
         if (isStopped())

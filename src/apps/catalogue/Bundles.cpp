@@ -33,13 +33,16 @@ const std::array layouts = {
     Layout{u"WrappedBundle/Info.plist"_s, u"WrappedBundle"_s},
 };
 
-bool mayWalk(const QString &path, const WalkBounds &bounds)
+/// Without bounds, a link may lead to any folder.
+bool mayWalk(const QString &path, const WalkBounds *bounds)
 {
+    if (!bounds)
+        return files::isDirectory(path);
     const auto entry = files::attributes(path);
-    return entry && (entry->isDirectory() || (entry->kind == files::Kind::link && bounds.mayEnter(path)));
+    return entry && (entry->isDirectory() || (entry->kind == files::Kind::link && bounds->mayEnter(path)));
 }
 
-void collect(const QString &folder, bool isRoot, const WalkBounds &bounds, QStringList &found)
+void collect(const QString &folder, bool isRoot, const WalkBounds *bounds, QStringList &found)
 {
     for (const QString &entry : files::list(folder).value_or(std::vector<QString>())) {
         const QString path = paths::join(folder, entry);
@@ -68,10 +71,11 @@ std::optional<QString> pictureNamed(const QString &name, const QString &folder)
 
 namespace bundles {
 
-QStringList find(const QString &root)
+QStringList find(const QString &root, Links links)
 {
+    const WalkBounds bounds(root);
     QStringList found;
-    collect(root, true, WalkBounds(root), found);
+    collect(root, true, links == Links::insideRoot ? &bounds : nullptr, found);
     return found;
 }
 

@@ -19,10 +19,15 @@ struct Bundle
 /// Bundles of applications: folders whose name ends in ".app". Everything blocks for as long as the disk does; any thread.
 namespace bundles {
 
+/// Which links to a folder a search looks through.
+enum class Links {
+    insideRoot, ///< for whoever offers what is found for removal
+    all         ///< for whoever spares what belongs to it: there, an application too many does no harm
+};
+
 /// The bundles in a folder and in the folders directly inside it, no deeper, in the order in which they are listed. None
-/// inside another one and none in a hidden folder. Looks through a link to a folder where it stays below `root`. What
-/// cannot be listed holds none.
-QStringList find(const QString &root);
+/// inside another one and none in a hidden folder. What cannot be listed holds none.
+QStringList find(const QString &root, Links links);
 
 /// None where no folder is there. A bundle without a sound property list tells its name alone.
 std::optional<Bundle> read(const QString &path);

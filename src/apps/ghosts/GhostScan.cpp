@@ -29,7 +29,7 @@ InstalledWords wordsOf(const Request &request)
         words.addIdentifier(app.bundleID);
     }
     for (const QString &folder : request.locations.ghostApplicationsFolders) {
-        for (const QString &path : bundles::find(folder)) {
+        for (const QString &path : bundles::find(folder, bundles::Links::all)) {
             words.addName(paths::stem(path));
             const std::optional<Bundle> bundle = bundles::read(path);
             if (!bundle)

@@ -18,10 +18,10 @@ class BundlesTest : public testing::Test
 {
 protected:
     /// The bundles below the root, by their paths from there, in order of their names.
-    QStringList found() const
+    QStringList found(bundles::Links links = bundles::Links::insideRoot) const
     {
         QStringList all;
-        for (const QString &path : bundles::find(temp.at(u"root"_s)))
+        for (const QString &path : bundles::find(temp.at(u"root"_s), links))
             all << path.mid(temp.at(u"root/"_s).size());
         all.sort();
         return all;
@@ -68,7 +68,7 @@ TEST_F(BundlesTest, areFoundInTheOrderOfTheListing)
         for (const QString &innerName : *inner)
             expected << paths::join(path, innerName);
     }
-    EXPECT_EQ(bundles::find(temp.at(u"root"_s)), expected);
+    EXPECT_EQ(bundles::find(temp.at(u"root"_s), bundles::Links::insideRoot), expected);
 }
 
 TEST_F(BundlesTest, areNotLookedForInAHiddenFolder)
@@ -95,6 +95,21 @@ TEST_F(BundlesTest, areFoundThroughALinkThatStaysBelowTheRoot)
     temp.link(u"root/Nowhere"_s, u"missing"_s);
     temp.link(u"root/Linked.app"_s, temp.at(u"elsewhere/Two.app"_s));
     EXPECT_EQ(found(), (QStringList{u"Linked.app"_s, u"Tools/One.app"_s, u"Utilities/One.app"_s}));
+}
+
+TEST_F(BundlesTest, areFoundThroughAnyLinkWhereThatIsAskedFor)
+{
+    bundle(u"Utilities/One.app"_s);
+    temp.folder(u"elsewhere/Two.app"_s);
+    temp.folder(u"elsewhere/Deep/Three.app"_s);
+    temp.link(u"root/Tools"_s, u"Utilities"_s);
+    temp.link(u"root/Away"_s, temp.at(u"elsewhere"_s));
+    temp.link(u"root/.Hidden"_s, temp.at(u"elsewhere"_s));
+    temp.link(u"root/Round"_s, u"."_s);
+    temp.link(u"root/Nowhere"_s, u"missing"_s);
+    bundle(u"Four.app"_s);
+    EXPECT_EQ(found(bundles::Links::all), (QStringList{u"Away/Two.app"_s, u"Four.app"_s, u"Round/Four.app"_s,
+                                                       u"Tools/One.app"_s, u"Utilities/One.app"_s}));
 }
 
 TEST_F(BundlesTest, areNoneWhereNothingCanBeListed)

@@ -26,6 +26,18 @@ TEST_F(GhostScanInstalledTest, areTheBundlesInBothApplicationsFolders)
     EXPECT_EQ(scan.sortedKeys(), (QStringList{u"com.ef.three"_s, u"gamma"_s})) << "that one lies too deep";
 }
 
+// The list of applications keeps inside its folder. What belongs to one outside is spared all the same: it runs from there.
+TEST_F(GhostScanInstalledTest, areAlsoThoseBehindALinkOutOfTheFolder)
+{
+    scan.bundle(u"elsewhere/Far.app"_s, {{u"CFBundleIdentifier"_s, u"com.far.away"_s}});
+    scan.test.temp.folder(u"Applications"_s);
+    scan.test.temp.link(u"Applications/Games"_s, scan.test.temp.at(u"elsewhere"_s));
+    scan.leftover(u"Caches/com.far.away"_s);
+    scan.leftover(u"Application Support/Far Data"_s);
+    scan.leftover(u"Application Support/Other"_s);
+    EXPECT_EQ(scan.keys(), QStringList(u"other"_s));
+}
+
 TEST_F(GhostScanInstalledTest, areTheApplicationsOfTheLastScanThoughTheirBundlesAreGone)
 {
     RealInstalledApp app;
