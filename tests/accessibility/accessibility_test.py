@@ -332,7 +332,6 @@ class AppManagerTest(ScreenTest):
                           ("label", "Select an app"), ("combo box", "Sort by"), ("list", self.LIST))
         browser = self.row(window, "Browser")
         self.assertEqual(browser.description, "121.0, 96 MB, Today, 1 of 12")
-        self.assertIn("checkable", browser.states)
         self.assertNotIn("checked", browser.states)
 
     def test_the_rows_are_walked(self):
