@@ -72,6 +72,13 @@ AppsCase {
         Program.picture("apps-ghosts");
     }
 
+    function test_searchStaysWhereItIsOnAnotherTab() {
+        const left = () => Program.named("appSearch").mapToItem(null, 0, 0).x;
+        const before = left();
+        openGhosts();
+        compare(left(), before);
+    }
+
     function test_detailsOfAGhost() {
         openGhosts();
         choose("Tool");

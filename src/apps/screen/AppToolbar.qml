@@ -21,37 +21,46 @@ Item {
         currentIndex: bar.view.activeTab
         onChosen: index => bar.view.chooseTab(index)
     }
+    // Its left end stays where it is when another tab has other commands.
+    SearchField {
+        id: search
+        objectName: "appSearch"
+        anchors.right: bar.view.isGhostTab ? ticking.left : sorting.left
+        anchors.rightMargin: Theme.unit * 2
+        width: 200 + Math.max(sorting.width, ticking.width) - (bar.view.isGhostTab ? ticking.width : sorting.width)
+        placeholder: bar.view.texts.searchField
+        clearLabel: bar.view.texts.clearSearch
+        onEdited: bar.view.lists.searchText = text
+    }
     Row {
+        id: sorting
         anchors.right: parent.right
+        visible: !bar.view.isGhostTab
         spacing: Theme.unit * 2
 
-        SearchField {
-            id: search
-            objectName: "appSearch"
-            width: 220
-            placeholder: bar.view.texts.searchField
-            clearLabel: bar.view.texts.clearSearch
-            onEdited: bar.view.lists.searchText = text
-        }
         BodyText {
             anchors.verticalCenter: parent.verticalCenter
-            visible: !bar.view.isGhostTab
             leftPadding: Theme.unit
             text: bar.view.texts.sortBy
             color: Theme.secondText
         }
         Picker {
             objectName: "sortPicker"
-            visible: !bar.view.isGhostTab
             label: bar.view.texts.sortBy
             model: bar.view.lists.sortLabels
             chosenIndex: bar.view.lists.sortBy
             shownText: bar.view.lists.sortLabels[bar.view.lists.sortBy]
             onChosen: index => bar.view.lists.chooseSort(index)
         }
+    }
+    Row {
+        id: ticking
+        anchors.right: parent.right
+        visible: bar.view.isGhostTab
+        spacing: Theme.unit * 2
+
         ActionButton {
             objectName: "selectAllGhosts"
-            visible: bar.view.isGhostTab
             enabled: bar.view.canChoose && bar.view.hasGhosts
             text: bar.view.texts.selectAll
             symbol: "checkmark.circle.fill"
@@ -59,7 +68,6 @@ Item {
         }
         ActionButton {
             objectName: "selectNoGhosts"
-            visible: bar.view.isGhostTab
             enabled: bar.view.canChoose && bar.view.hasGhosts
             text: bar.view.texts.selectNone
             symbol: "circle"
