@@ -1,8 +1,10 @@
 #include "apps/uninstall/RemovalPlaces.h"
 
+#include "base/Files.h"
 #include "base/Paths.h"
 
 #include <algorithm>
+#include <cerrno>
 
 namespace {
 
@@ -29,6 +31,18 @@ bool isForBundles(const QString &path, const Locations &locations)
                           [&path](const QString &folder) {
                               return isIn(folder, path) || isIn(folder, paths::parent(path));
                           });
+}
+
+bool leadsOutOfThoseForBundles(const QString &path, const Locations &locations)
+{
+    const auto folder = files::realPath(paths::parent(path));
+    if (!folder)
+        return errno != ENOENT && errno != ENOTDIR;
+    return std::none_of(locations.applicationsFolders.begin(), locations.applicationsFolders.end(),
+                        [&folder](const QString &applications) {
+                            const auto real = files::realPath(applications);
+                            return real && paths::isAtOrBelow(*folder, *real);
+                        });
 }
 
 bool isForAssociatedFiles(const QString &path, const Locations &locations)

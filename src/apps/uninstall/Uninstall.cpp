@@ -13,10 +13,12 @@
 namespace appuninstall {
 namespace {
 
-/// Throws where the path is no bundle that a scan could have listed.
+/// Throws where the path is no bundle that a scan could have listed, or lies elsewhere by now.
 void requireListed(const QString &bundle, const Tools &tools)
 {
-    if (!removalplaces::isForBundles(bundle, *tools.platform.locations))
+    const Locations &locations = *tools.platform.locations;
+    if (!removalplaces::isForBundles(bundle, locations)
+        || removalplaces::leadsOutOfThoseForBundles(bundle, locations))
         throw errors::fromErrno(EPERM);
 }
 

@@ -193,6 +193,36 @@ TEST_F(UninstallTest, removesNothingElsewhereThanDirectlyInTheFoldersForIt)
     EXPECT_TRUE(home.isThere(deeper));
 }
 
+TEST_F(UninstallTest, removesNoBundleInAFolderThatLeadsOutOfThoseForApplications)
+{
+    const QString document = test.temp.file(u"home/Documents/Mine.app/x"_s);
+    const QString tools = test.temp.link(u"Applications/Tools"_s, test.temp.at(u"home/Documents"_s));
+    some.clear();
+    app.path = paths::join(tools, u"Mine.app"_s);
+    const UninstallReport report = run();
+    EXPECT_FALSE(report.appWasMoved);
+    ASSERT_TRUE(report.appError);
+    EXPECT_EQ(report.appError->code, EPERM);
+    EXPECT_THROW(appuninstall::runAsAdministrator(app.path, home.tools()), Error);
+    EXPECT_TRUE(home.isThere(document));
+    EXPECT_TRUE(test.recycler.recycled.isEmpty());
+    EXPECT_TRUE(test.recycler.moved.isEmpty());
+}
+
+TEST_F(UninstallTest, removesABundleBehindALinkWithinTheFolderForApplications)
+{
+    test.temp.file(u"Applications/Real/Mine.app/x"_s);
+    app.path = paths::join(test.temp.link(u"Applications/Tools"_s, u"Real"_s), u"Mine.app"_s);
+    EXPECT_TRUE(run().appWasMoved);
+}
+
+TEST_F(UninstallTest, takesABundleForMovedWhoseFolderHasVanishedToo)
+{
+    app.path = home.inApplications(u"Tools/Mine.app"_s);
+    EXPECT_TRUE(run().appWasMoved);
+    EXPECT_NO_THROW(appuninstall::runAsAdministrator(app.path, home.tools()));
+}
+
 TEST_F(UninstallTest, removesNoBundleThatAScanDoesNotList)
 {
     test.temp.file(u"home/Documents/Mine.app/x"_s);
