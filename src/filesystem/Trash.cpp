@@ -5,6 +5,7 @@
 #include "base/Paths.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <memory>
 #include <semaphore>
 
@@ -46,6 +47,12 @@ bool isThere(const QString &path)
     return files::attributes(path).has_value();
 }
 
+/// True when the system says that nothing is there; false also when it can't be asked.
+bool isGone(const QString &path)
+{
+    return !isThere(path) && (errno == ENOENT || errno == ENOTDIR);
+}
+
 bool isListedAsMoved(const Recycler::Result &result, const QString &path)
 {
     return std::any_of(result.moved.begin(), result.moved.end(), [&path](const auto &move) {
@@ -79,7 +86,7 @@ namespace trash {
 void move(Recycler &recycler, const QString &path)
 {
     const Recycler::Result result = recycled(recycler, path);
-    if (!isThere(path)) // the disk decides, whatever the service says
+    if (isGone(path)) // the disk decides, whatever the service says
         return;
     if (result.error)
         throw Error(*result.error);

@@ -1,6 +1,7 @@
 #include "base/Error.h"
 #include "base/Files.h"
 #include "filesystem/FileSystemService.h"
+#include "filesystem/InjectedFaults.h"
 #include "support/TestPlatform.h"
 
 #include <QTimer>
@@ -92,6 +93,18 @@ TEST_F(TrashTest, theServicesErrorIsThrownAsItStands)
     EXPECT_EQ(error->domain, platformError.domain);
     EXPECT_EQ(error->code, platformError.code);
     EXPECT_EQ(error->description, platformError.description);
+}
+
+TEST_F(TrashTest, aFileThatCannotBeAskedForIsNotTakenForGone)
+{
+    const InjectedFaults faults(files::Operation::attributes, path);
+    EXPECT_TRUE(trashError());
+    recyclerAnswers({{}, platformError});
+    const auto error = trashError();
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->description, platformError.description);
+    recyclerAnswers({{{path, QString()}}, std::nullopt});
+    EXPECT_FALSE(trashError()) << "the service has told that it moved it";
 }
 
 TEST_F(TrashTest, aFileThatTheServiceSilentlyRefusesIsNamedInCurlyQuotes)
