@@ -223,13 +223,14 @@ AdminFailure failureOf(const ChildProcess &process)
     return failure;
 }
 
-/// Gives the reserved name of a move that has failed back, unless something has come to lie there: a move
+/// Gives the reserved name of a move that has failed back, unless something has come to lie there, or may have: a move
 /// from another volume may end with the item copied whole and the source half removed, and that copy must be
 /// found again.
-void settle(const TrashFolder::Entry &entry, const QString &source, bool succeeded)
+void settle(const TrashFolder::Entry &entry, const Item &item, bool succeeded)
 {
-    const bool wasSkipped = succeeded && files::identity(source).has_value();
-    if (wasSkipped || !files::identity(entry.file))
+    const bool wasSkipped = succeeded && files::identity(item.path) == item.identity;
+    const bool isFree = !files::identity(entry.file) && errno == ENOENT;
+    if (wasSkipped || isFree)
         TrashFolder::release(entry);
 }
 
@@ -277,7 +278,7 @@ std::optional<AdminFailure> LinuxRecycler::moveToTrashAsAdministrator(const QStr
         const QStringList arguments{
             mv_, QStringLiteral("-n"), QStringLiteral("-T"), QStringLiteral("--"), item.path, entry.file};
         auto failure = runAsAdministrator(pkexec_, arguments);
-        settle(entry, item.path, !failure);
+        settle(entry, item, !failure);
         return failure;
     } catch (const Error &error) {
         return failureWithMessage(withName(error, path).description);

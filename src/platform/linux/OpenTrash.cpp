@@ -26,11 +26,19 @@ std::optional<files::OpenFolder> folderAround(const QString &items)
     return files::OpenFolder(paths::parent(items));
 }
 
+/// True where there are no notes, or where they lie behind a link.
+bool tellsOfNoNotes(const Error &error)
+{
+    return error.code == ENOENT || error.code == ENOTDIR || error.code == ELOOP;
+}
+
 std::optional<files::OpenFolder> notesIn(const files::OpenFolder &trash)
 {
     try {
         return trash.inner(trashnames::notes);
-    } catch (const Error &) {
+    } catch (const Error &error) {
+        if (!tellsOfNoNotes(error)) // else they would be left of items that are gone
+            throw;
         return std::nullopt;
     }
 }

@@ -13,7 +13,7 @@ class OpenTrash
 {
 public:
     /// By the folder of its items. Throws Error (the system's), ENOTDIR where this or the Trash around it is a link. Notes
-    /// behind a link count as none.
+    /// behind a link count as none; those that can't be reached are an Error.
     explicit OpenTrash(const QString &items);
 
     /// Removes what lies at a path below the items for good, and the note of a whole item right after it: whatever ends the

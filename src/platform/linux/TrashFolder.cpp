@@ -233,6 +233,8 @@ QByteArray TrashFolder::note(const QString &item) const
     if (top_.isEmpty())
         return trashinfo::text(paths::toBytes(item), std::time(nullptr));
     const QString real = paths::join(resolved(paths::parent(item)), paths::lastComponent(item));
-    const QString relative = real.sliced(top_ == u"/" ? 1 : top_.size() + 1);
-    return trashinfo::text(paths::toBytes(relative), std::time(nullptr));
+    const auto relative = paths::below(real, top_);
+    if (!relative) // its folder has gone or leads to another place by now
+        throw errors::fromErrno(ENOENT);
+    return trashinfo::text(paths::toBytes(*relative), std::time(nullptr));
 }

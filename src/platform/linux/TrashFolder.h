@@ -57,6 +57,7 @@ private:
     TrashFolder(QString path, QString top);
     Entry entry(const QString &name) const;
     std::optional<Entry> findAmongAll(const files::Identity &identity) const;
+    /// Throws Error (the system's) where the item's folder is not on this volume, or gone.
     QByteArray note(const QString &item) const;
 
     QString path_;

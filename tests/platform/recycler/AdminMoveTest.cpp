@@ -218,6 +218,14 @@ TEST_F(AdminMoveTest, keepsTheNoteOfACopyThatAFailedMoveLeaves)
     EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList(u"tree.trashinfo"_s));
 }
 
+TEST_F(AdminMoveTest, keepsTheNoteWhereAnotherItemTakesThePlaceThatWasLeft)
+{
+    const QString path = makeFile(u"file"_s);
+    EXPECT_FALSE(move(path, "\"$@\" && echo new > \"$5\"\n"));
+    EXPECT_EQ(traits(TrashHome::trash() + u"/files/file"_s).content, "content");
+    EXPECT_EQ(names(TrashHome::trash() + u"/info"_s), QStringList(u"file.trashinfo"_s));
+}
+
 TEST_F(AdminMoveTest, runsNothingWhenTheTrashCannotBeUsed)
 {
     makeFile(u".local/share"_s);

@@ -5,6 +5,7 @@
 #include "LoopVolume.h"
 #include "RecyclerTest.h"
 #include "support/OrdinaryUser.h"
+#include "support/TempHome.h"
 
 #include <cerrno>
 #include <csignal>
@@ -183,6 +184,25 @@ TEST_F(BadTrashTest, isRefusedWhenItIsNotWritable)
         expectRecycled(at(u"file"_s)); // nothing else stood in its way
     };
     EXPECT_TRUE(holdsForOrdinaryUser(checks));
+}
+
+TEST_F(BadTrashTest, keepsTheNoteOfAnAdministratorsItemThatItNoLongerTellsOf)
+{
+    const OpenHome home;
+    EXPECT_TRUE(holdsForOrdinaryUser([this] {
+        const TempHome temp;
+        for (const QByteArray &exitCode : {QByteArray("0"), QByteArray("1")}) {
+            const QString name = u"file"_s + QString::fromLatin1(exitCode);
+            const QString tool =
+                temp.script(u"pkexec"_s, "\"$@\"\nchmod 0 \"$(dirname \"$6\")\"\nexit " + exitCode + '\n');
+            LinuxRecycler recycler(tool, u"/bin/mv"_s, log_);
+            EXPECT_EQ(recycler.moveToTrashAsAdministrator(makeFile(name)).has_value(), exitCode == "1");
+            const QString items = TrashHome::trash() + u"/files"_s;
+            EXPECT_EQ(chmod(paths::toBytes(items).constData(), 0700), 0);
+            EXPECT_TRUE(isThere(paths::join(items, name)));
+            EXPECT_TRUE(isThere(TrashHome::trash() + u"/info/%1.trashinfo"_s.arg(name)));
+        }
+    }));
 }
 
 TEST_F(BadTrashTest, saysThatItIsOnAnotherVolume)

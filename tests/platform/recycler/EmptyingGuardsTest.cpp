@@ -175,6 +175,20 @@ TEST(EmptyingGuards, leaveTheNotesOfItemsThatCannotBeReached)
     }));
 }
 
+TEST(EmptyingGuards, leaveItemsWhoseNotesCannotBeReached)
+{
+    EXPECT_TRUE(holdsForOrdinaryUser([] {
+        const TempHome temp;
+        const QString item = temp.file(u"Trash/files/item"_s);
+        temp.file(u"Trash/info/item.trashinfo"_s);
+        temp.setMode(u"Trash/info"_s, 0);
+        EXPECT_EQ(failureOf({item}, temp.at(u"Trash/files"_s)), EACCES);
+        temp.setMode(u"Trash/info"_s, 0700);
+        EXPECT_TRUE(files::exists(item));
+        EXPECT_EQ(files::list(temp.at(u"Trash/info"_s))->size(), 1U);
+    }));
+}
+
 // Links.
 
 TEST_F(EmptyingGuardsTest, leavesATrashThatIsALinkAlone)

@@ -2,6 +2,7 @@
 #include "base/Paths.h"
 #include "DesktopTrash.h"
 #include "LoopVolume.h"
+#include "platform/linux/TrashFolder.h"
 #include "RecyclerTest.h"
 
 #include <unistd.h>
@@ -145,6 +146,20 @@ TEST_F(VolumeTrashTest, isNotNeededForALinkToItFromHome)
     expectRecycled(at(u"again/file"_s));
     EXPECT_EQ(names(own() + u"/files"_s), QStringList(u"file"_s));
     EXPECT_TRUE(desktoptrash::restorePath(file)) << "the note names the file's place on its volume";
+}
+
+TEST_F(VolumeTrashTest, notesNoItemWhoseFolderHasGoneOrLeadsAway)
+{
+    expectRecycled(makeFile(u"volume/first"_s)); // makes the Trash
+    const QString file = makeFile(u"volume/f/file"_s);
+    const auto trash = TrashFolder::ofVolume(file, files::identity(file)->device);
+    ASSERT_TRUE(trash);
+    files::move(at(u"volume/f"_s), at(u"volume/moved"_s));
+    EXPECT_THROW(trash->reserve(file), Error);
+    makeFile(u"elsewhere/file"_s);
+    makeLink(u"volume/f"_s, at(u"elsewhere"_s));
+    EXPECT_THROW(trash->reserve(file), Error);
+    EXPECT_EQ(names(own() + u"/info"_s), QStringList(u"first.trashinfo"_s));
 }
 
 TEST_F(VolumeTrashTest, losesNoNoteOnAFullDisk)
