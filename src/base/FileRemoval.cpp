@@ -209,6 +209,8 @@ private:
     /// Throws Error, and stays in the folder at hand.
     void enterFolder(const QByteArray &name)
     {
+        if (faults() && fails(Operation::open, paths::fromBytes(path_ + '/' + name)))
+            throw errors::fromErrno(errno);
         Descriptor child = openFolder(folder_.number(), name.constData());
         requireNothingMounted(child.number(), device_);
         std::swap(folder_, child);

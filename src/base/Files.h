@@ -162,7 +162,7 @@ enum class Operation {
     kind, ///< of `DirectoryReader`: what the listing tells of an entry; it tells nothing then
     next, ///< of `DirectoryReader`: the step to the next entry, with the folder's path
     attributes,
-    open,
+    open,  ///< of `removeTree`, of each folder inside too
     read,  ///< of `FileReader`, with no path
     write, ///< of `writeAtomically`, whose path this and the next two get
     sync,

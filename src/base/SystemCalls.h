@@ -5,7 +5,7 @@
 #include <sys/stat.h>
 
 /// The few system calls that differ between systems. Each system has its own source file for them, which the
-/// build picks; base/ alone calls them.
+/// build picks; base/ and the adapters beside it alone call them.
 namespace systemcalls {
 
 /// Attributes of the entry itself at `path`, relative to the open folder `directory` (or AT_FDCWD). None, with

@@ -6,8 +6,10 @@
 #include "support/TempHome.h"
 
 #include <cerrno>
+#include <functional>
 
 #include <fcntl.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,6 +22,17 @@ namespace {
 int removalFailure(const QString &path)
 {
     return failureOf([&path] { files::removeTree(path); });
+}
+
+/// The same where something happens right before one of its folders is opened.
+int removalFailure(const QString &path, const QString &folder, const std::function<void()> &happening)
+{
+    const InjectedFaults faults([&](files::Operation operation, const QString &at) {
+        if (operation == files::Operation::open && at == folder)
+            happening();
+        return 0;
+    });
+    return removalFailure(path);
 }
 
 } // namespace
@@ -198,20 +211,39 @@ TEST(RemoveTree, neverFollowsALinkThatHasTakenAFoldersPlace)
 {
     const TempHome temp;
     const QString kept = temp.file(u"kept/file"_s, "kept");
-    const QString trigger = temp.file(u"root/trigger"_s);
-    temp.file(u"root/folder/file"_s);
-    {
-        const InjectedFaults faults([&](files::Operation operation, const QString &path) {
-            if (operation == files::Operation::remove && path == trigger) { // the folder is listed by now
-                files::move(temp.at(u"root/folder"_s), temp.at(u"moved"_s));
-                temp.link(u"root/folder"_s, temp.at(u"kept"_s));
-            }
-            return 0;
-        });
-        EXPECT_NE(removalFailure(temp.at(u"root"_s)), 0);
-    }
+    const QString folder = paths::parent(temp.file(u"root/folder/file"_s));
+    const auto happening = [&] {
+        files::move(folder, temp.at(u"moved"_s));
+        temp.link(u"root/folder"_s, temp.at(u"kept"_s));
+    };
+    EXPECT_EQ(removalFailure(temp.at(u"root"_s), folder, happening), ENOTDIR);
     EXPECT_EQ(content(kept), "kept");
     EXPECT_EQ(names(temp.at(u"moved"_s)), std::set<QString>({u"file"_s}));
+}
+
+TEST(RemoveTree, leavesWhatIsMountedAtAFolderMeanwhile)
+{
+    const TempHome temp;
+    const QByteArray part = paths::toBytes(paths::parent(temp.file(u"kept/file"_s, "kept")));
+    const QString folder = paths::parent(temp.file(u"root/folder/file"_s));
+    const QByteArray place = paths::toBytes(folder);
+    bool isMounted = false;
+    const auto mountPart = [&] {
+        isMounted = mount(part.constData(), place.constData(), nullptr, MS_BIND, nullptr) == 0;
+    };
+    const auto mountVolume = [&] {
+        isMounted = mount("none", place.constData(), "tmpfs", 0, nullptr) == 0;
+        temp.file(u"root/folder/file"_s, "kept");
+    };
+    for (const auto &happening : {std::function<void()>(mountPart), std::function<void()>(mountVolume)}) {
+        const int failure = removalFailure(temp.at(u"root"_s), folder, happening);
+        if (!isMounted)
+            GTEST_SKIP() << "Nothing can be mounted here.";
+        EXPECT_EQ(failure, EXDEV);
+        EXPECT_EQ(content(paths::join(folder, u"file"_s)), "kept");
+        EXPECT_EQ(umount2(place.constData(), MNT_DETACH), 0);
+    }
+    EXPECT_EQ(names(folder), std::set<QString>({u"file"_s})) << "nor does what the mount has hidden go";
 }
 
 TEST(RemoveTree, stopsWhenTheFolderThatItEmptiesIsMovedAway)
