@@ -36,12 +36,12 @@ void moveBundle(const RealInstalledApp &app, const Tools &tools, UninstallReport
 
 void moveFile(const AssociatedFile &file, const Tools &tools, UninstallReport &report)
 {
+    if (!files::exists(file.path))
+        return;
     if (!removalplaces::isForAssociatedFiles(file.path, *tools.platform.locations)) {
         ++report.filesFailedCount;
         return;
     }
-    if (!files::exists(file.path))
-        return;
     try {
         tools.fileSystem.moveToTrash(file.path);
         ++report.filesRemoved;

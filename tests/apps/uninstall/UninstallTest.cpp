@@ -179,11 +179,10 @@ TEST_F(UninstallTest, removesNothingElsewhereThanDirectlyInTheFoldersForIt)
     const QString document = test.temp.file(u"home/Documents/plan.txt"_s, "mine");
     const QString deeper = test.temp.file(u"home/Library/Caches/a/b"_s, "mine");
     some.clear();
-    for (const QString &path :
-         {document, paths::parent(document), deeper, home.inLibrary(u"Caches"_s),
-          home.inLibrary(u"Caches/"_s), home.inLibrary(u"Caches/."_s), home.inLibrary(u"Caches/.."_s),
-          home.inLibrary(u"Caches/../../Documents"_s), home.inLibrary(u"Caches/a/"_s), library, test.home,
-          u"/"_s, u""_s, u"Caches/a"_s, home.inLibrary(u"Caches/a"_s) + QChar(0) + u"b"_s})
+    for (const QString &path : {document, paths::parent(document), deeper, home.inLibrary(u"Caches"_s),
+                                home.inLibrary(u"Caches/"_s), home.inLibrary(u"Caches/."_s),
+                                home.inLibrary(u"Caches/.."_s), home.inLibrary(u"Caches/../../Documents"_s),
+                                home.inLibrary(u"Caches/a/"_s), library, test.home, u"/"_s})
         some.push_back({ids::fresh(), path, u"Cache"_s, 10, true});
     const UninstallReport report = run();
     EXPECT_EQ(test.recycler.recycled, QStringList{app.path});
@@ -207,6 +206,18 @@ TEST_F(UninstallTest, removesNoBundleInAFolderThatLeadsOutOfThoseForApplications
     EXPECT_TRUE(home.isThere(document));
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
     EXPECT_TRUE(test.recycler.moved.isEmpty());
+}
+
+TEST_F(UninstallTest, passesOverVanishedFilesWhereverTheyWere)
+{
+    some.clear();
+    for (const QString &path : {u""_s, u"Caches/a"_s, home.inLibrary(u"Caches/a"_s) + QChar(0) + u"b"_s,
+                                test.temp.at(u"home/Documents/vanished"_s)})
+        some.push_back({ids::fresh(), path, u"Cache"_s, 10, true});
+    const UninstallReport report = run();
+    EXPECT_EQ(report.filesRemoved, 0);
+    EXPECT_EQ(report.filesFailedCount, 0);
+    EXPECT_EQ(test.recycler.recycled, QStringList{app.path});
 }
 
 TEST_F(UninstallTest, removesABundleBehindALinkWithinTheFolderForApplications)
