@@ -68,8 +68,9 @@ bool isOwn(const struct stat &status)
     return status.st_uid == geteuid();
 }
 
-/// Opens a folder in another one, and one of the user's own that forbids it too. Throws Error.
-Descriptor openFolder(int parent, const char *name)
+/// Opens a folder in another one, and one of the user's own that forbids it too, if it is on `device` and nothing is mounted
+/// there. Throws Error.
+Descriptor openFolder(int parent, const char *name, dev_t device)
 {
     const int number = openat(parent, name, folderFlags);
     const int code = errno;
@@ -77,7 +78,8 @@ Descriptor openFolder(int parent, const char *name)
         return Descriptor(number);
     struct stat status = {};
     const bool isOpened =
-        fstatat(parent, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && isOwn(status)
+        fstatat(parent, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && isOwn(status) && status.st_dev == device
+        && !systemcalls::isMountPoint(parent, name)
         && fchmodat(parent, name, (status.st_mode & ALLPERMS) | S_IRWXU, AT_SYMLINK_NOFOLLOW) == 0;
     if (!isOpened)
         throw errors::fromErrno(code);
@@ -211,7 +213,7 @@ private:
     {
         if (faults() && fails(Operation::open, paths::fromBytes(path_ + '/' + name)))
             throw errors::fromErrno(errno);
-        Descriptor child = openFolder(folder_.number(), name.constData());
+        Descriptor child = openFolder(folder_.number(), name.constData(), device_);
         requireNothingMounted(child.number(), device_);
         std::swap(folder_, child);
         path_ += '/' + name;
@@ -292,7 +294,7 @@ void removeAt(int folder, const QByteArray &name, const QByteArray &path)
     if (!holdsEntries(errno))
         throw errors::fromErrno(errno);
     const dev_t device = deviceAround(folder, name);
-    const int failure = Emptying(openFolder(folder, name.constData()), path, device).run();
+    const int failure = Emptying(openFolder(folder, name.constData(), device), path, device).run();
     if (failure != 0)
         throw errors::fromErrno(failure);
     if (unlinkat(folder, name.constData(), AT_REMOVEDIR) == -1)

@@ -246,6 +246,36 @@ TEST(RemoveTree, leavesWhatIsMountedAtAFolderMeanwhile)
     EXPECT_EQ(names(folder), std::set<QString>({u"file"_s})) << "nor does what the mount has hidden go";
 }
 
+TEST(RemoveTree, opensUpNothingThatIsMountedAtAFolderMeanwhile)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "An ordinary user can mount nothing.";
+    const TempHome temp;
+    temp.file(u"kept/file"_s);
+    temp.file(u"root/folder/file"_s);
+    for (const QString &name : {u""_s, u"kept"_s, u"root"_s, u"root/folder"_s})
+        ASSERT_EQ(chown(paths::toBytes(temp.at(name)).constData(), 65534, 65534), 0);
+    temp.setMode(u"kept"_s, 0);
+    const QByteArray part = paths::toBytes(temp.at(u"kept"_s));
+    const QByteArray place = paths::toBytes(temp.at(u"root/folder"_s));
+    bool isMounted = false;
+    // Permissions bind whoever is an ordinary user for a moment.
+    ASSERT_EQ(seteuid(65534), 0);
+    const int failure = removalFailure(temp.at(u"root"_s), temp.at(u"root/folder"_s), [&] {
+        EXPECT_EQ(seteuid(0), 0);
+        isMounted = mount(part.constData(), place.constData(), nullptr, MS_BIND, nullptr) == 0;
+        EXPECT_EQ(seteuid(65534), 0);
+    });
+    ASSERT_EQ(seteuid(0), 0);
+    if (!isMounted)
+        GTEST_SKIP() << "Nothing can be mounted here.";
+    struct stat status = {};
+    EXPECT_EQ(stat(part.constData(), &status), 0);
+    EXPECT_EQ(umount2(place.constData(), MNT_DETACH), 0);
+    EXPECT_EQ(failure, EACCES);
+    EXPECT_EQ(status.st_mode & ALLPERMS, 0U);
+}
+
 TEST(RemoveTree, stopsWhenTheFolderThatItEmptiesIsMovedAway)
 {
     const TempHome temp;
