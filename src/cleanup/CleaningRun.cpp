@@ -72,7 +72,7 @@ void moveContents(const QString &place, const FileSystemService &fileSystem)
 void movePicked(const QStringList &picked, const QString &place, const FileSystemService &fileSystem)
 {
     for (const QString &path : picked) {
-        if (!cleanupplaces::isLink(place) && liesIn(path, place))
+        if (liesIn(path, place) && !cleanupplaces::isLink(place))
             moveToTrash(path, fileSystem);
     }
 }
