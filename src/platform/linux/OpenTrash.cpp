@@ -2,6 +2,7 @@
 
 #include "base/AtomicWrite.h"
 #include "base/Error.h"
+#include "base/FileIdentity.h"
 #include "base/FileRemoval.h"
 #include "base/Files.h"
 #include "base/Paths.h"
@@ -88,6 +89,12 @@ void OpenTrash::forgetWhatIsGone() const
         forgetOldNotes();
 }
 
+/// True when the Trash still lies where it was as it was opened.
+bool OpenTrash::isInPlace() const
+{
+    return files::identity(around_->path()) == files::openIdentity(around_->number());
+}
+
 /// The file is the desktop's, a line for each folder: its size, its note's date and its name, percent-encoded.
 void OpenTrash::forgetSizes() const
 {
@@ -103,6 +110,8 @@ void OpenTrash::forgetSizes() const
             if (!name.isEmpty() && !items_.isGone(paths::fromBytes(name)))
                 kept += line + '\n';
         }
+        if (!isInPlace()) // the file may have been another folder's
+            return;
         if (kept.isEmpty())
             around_->remove(trashnames::sizes);
         else if (kept != content)

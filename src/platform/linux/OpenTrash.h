@@ -30,6 +30,7 @@ private:
     using Note = files::OpenFolder::Entry;
 
     void forget(const QString &item, const Note &note) const;
+    bool isInPlace() const;
     void forgetSizes() const;
     void forgetOldNotes() const;
 

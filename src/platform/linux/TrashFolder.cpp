@@ -99,7 +99,8 @@ void makePrivateFolders(const QString &path)
         throw errors::fromErrno(errno);
 }
 
-/// Writes a file of the user's alone. `flags` are those of `open`. Throws Error (the system's).
+/// Writes a file of the user's alone. `flags` are those of `open`. Throws Error (the system's), and leaves none behind then
+/// that was to be made.
 void writeFile(const QString &path, int flags, const QByteArray &content)
 {
     const int file = open(paths::toBytes(path).constData(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW | flags, 0600);
@@ -111,8 +112,11 @@ void writeFile(const QString &path, int flags, const QByteArray &content)
     // A network's or a quota's refusal may come as late as here.
     if (close(file) == -1 && failure == 0)
         failure = errno;
-    if (failure != 0)
-        throw errors::fromErrno(failure);
+    if (failure == 0)
+        return;
+    if ((flags & O_EXCL) != 0) // what was made here; another's file is never opened
+        unlink(paths::toBytes(path).constData());
+    throw errors::fromErrno(failure);
 }
 
 } // namespace
@@ -191,10 +195,8 @@ TrashFolder::Entry TrashFolder::reserve(const QString &item) const
             writeFile(place.info, O_CREAT | O_EXCL, content);
             return place;
         } catch (const Error &error) {
-            if (error.code == EEXIST)
-                continue;
-            release(place);
-            throw;
+            if (error.code != EEXIST)
+                throw;
         }
     }
 }

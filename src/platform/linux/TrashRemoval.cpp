@@ -33,6 +33,8 @@ namespace trashremoval {
 
 void remove(const QStringList &items, const QString &trash)
 {
+    if (items.isEmpty())
+        return;
     const Date begin = fileTime();
     std::optional<Error> first;
     for (const QString &item : items) {

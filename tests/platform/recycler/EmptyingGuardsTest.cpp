@@ -155,6 +155,16 @@ TEST_F(EmptyingGuardsTest, leavesANoteThatIsNotTheOneThatItsItemHad)
     EXPECT_EQ(names(notes()), QStringList(u"a.trashinfo"_s));
 }
 
+TEST_F(EmptyingGuardsTest, takesNothingWhereThereIsNothingToTake)
+{
+    makeFolder(itemsBelowHome);
+    makeNote(u"without an item"_s, 2);
+    const QString sizes = makeFile(u".local/share/Trash/directorysizes"_s, "4096 1700000000000 gone\n");
+    EXPECT_EQ(failureOf({}, items()), 0);
+    EXPECT_EQ(names(notes()).size(), 1);
+    EXPECT_TRUE(isThere(sizes));
+}
+
 TEST(EmptyingGuards, leaveTheNotesOfItemsThatCannotBeReached)
 {
     EXPECT_TRUE(holdsForOrdinaryUser([] {
@@ -217,6 +227,25 @@ TEST_F(EmptyingGuardsTest, stopsWhereTheTrashBecomesALinkOnTheWay)
     EXPECT_TRUE(isThere(note));
     EXPECT_EQ(names(at(u"moved/files"_s)), QStringList(u"b"_s));
     EXPECT_EQ(names(at(u"moved/info"_s)), QStringList(u"b.trashinfo"_s));
+}
+
+TEST_F(EmptyingGuardsTest, leavesTheSizesOfAFolderThatHasTakenTheTrashsPlace)
+{
+    const QByteArray content = "4096 1700000000000 mine\n4096 1700000000000 stays\n";
+    const QString kept = makeFile(u"kept/directorysizes"_s, content);
+    trash(u"a"_s);
+    trash(u"stays"_s);
+    const QString sizes = makeFile(u".local/share/Trash/directorysizes"_s, content);
+    const InjectedFaults faults([&](files::Operation operation, const QString &path) {
+        if (operation == files::Operation::open && path == sizes && !isThere(at(u"moved"_s))) {
+            files::move(at(u".local/share/Trash"_s), at(u"moved"_s));
+            makeLink(u".local/share/Trash"_s, at(u"kept"_s));
+        }
+        return 0;
+    });
+    EXPECT_EQ(failureOf({item(u"a"_s)}, items()), 0);
+    EXPECT_TRUE(isThere(at(u"moved"_s)));
+    EXPECT_EQ(files::readAll(kept, 1000), content);
 }
 
 TEST_F(EmptyingGuardsTest, followsNoLinkThatIsPutAboveAPickedFile)

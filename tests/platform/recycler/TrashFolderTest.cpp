@@ -2,6 +2,10 @@
 
 #include "RecyclerTest.h"
 
+#include <cerrno>
+
+#include <sys/resource.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -57,4 +61,22 @@ TEST_F(TrashFolderTest, leavesToTheLibraryOnlyANameThatItKeeps)
     EXPECT_FALSE(trash_.mightReplace(QString(236, u'b')));
     makeFile(u".local/share/Trash/files/"_s + QString(236, u'b') + u".2"_s, "orphan");
     EXPECT_TRUE(trash_.mightReplace(QString(236, u'b')));
+}
+
+TEST_F(TrashFolderTest, leavesANoteThatItHasNotWritten)
+{
+    const QString note = makeFile(u".local/share/Trash/info/file.trashinfo"_s, "another's");
+    rlimit usual = {};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &usual), 0);
+    const rlimit none = {0, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    int failure = 0;
+    try {
+        trash_.reserve(at(u"file"_s));
+    } catch (const Error &error) {
+        failure = error.code;
+    }
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &usual), 0);
+    EXPECT_EQ(failure, EMFILE);
+    EXPECT_TRUE(isThere(note));
 }
