@@ -86,6 +86,7 @@ void AppService::scanInstalledApps()
 {
     isLoading_ = true;
     setCancelInstalled(false);
+    goneApps_.clear();
     ++scans_;
     emit isLoadingChanged();
     platform_.workQueue.post(WorkPriority::userInitiated, [self = QPointer(this), scan = scans_,
@@ -102,6 +103,7 @@ void AppService::deliver(std::vector<RealInstalledApp> apps, int scan)
     if (scan != scans_) // a later one has begun meanwhile, and this one may hold what has been removed since
         return;
     apps_ = std::move(apps);
+    takeOutOf(apps_, goneApps_, &RealInstalledApp::path);
     isLoading_ = false;
     emit appsChanged();
     emit isLoadingChanged();
@@ -111,6 +113,7 @@ void AppService::scanGhosts()
 {
     isScanningGhosts_ = true;
     setCancelGhosts(false);
+    goneGhosts_.clear();
     ++ghostScans_;
     emit isScanningGhostsChanged();
     platform_.workQueue.post(WorkPriority::userInitiated, [self = QPointer(this), scan = ghostScans_,
@@ -130,6 +133,7 @@ void AppService::deliverGhosts(std::vector<GhostApp> ghosts, int scan)
     if (scan != ghostScans_) // as above
         return;
     ghosts_ = std::move(ghosts);
+    takeOutOf(ghosts_, goneGhosts_, &GhostApp::bundleID);
     isScanningGhosts_ = false;
     const bool isFirst = !std::exchange(hasScannedGhosts_, true);
     emit ghostsChanged();
@@ -186,11 +190,13 @@ UninstallReport AppService::uninstall(const RealInstalledApp &app,
 void AppService::takeOut(const std::vector<RealInstalledApp> &gone)
 {
     takeOutOf(apps_, gone, &RealInstalledApp::path);
+    goneApps_.insert(goneApps_.end(), gone.begin(), gone.end());
     emit appsShrunk();
 }
 
 void AppService::takeOut(const std::vector<GhostApp> &gone)
 {
     takeOutOf(ghosts_, gone, &GhostApp::bundleID);
+    goneGhosts_.insert(goneGhosts_.end(), gone.begin(), gone.end());
     emit ghostsShrunk();
 }

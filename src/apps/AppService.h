@@ -78,8 +78,8 @@ public:
     /// What removals work with; outlives the service.
     const appuninstall::Tools &tools() const { return tools_; }
 
-    /// Take what is gone out of the lists. A scan that has ended meanwhile has made records of its own, so they are also known
-    /// by where they lie, and by their key.
+    /// Take what is gone out of the lists, and out of that of a scan under way, which may have passed by before. A scan makes
+    /// records of its own, so they are also known by where they lie, and by their key.
     void takeOut(const std::vector<RealInstalledApp> &gone);
     void takeOut(const std::vector<GhostApp> &gone);
 
@@ -109,6 +109,9 @@ private:
 
     std::vector<RealInstalledApp> apps_;
     std::vector<GhostApp> ghosts_;
+    // Taken out since the last scan began.
+    std::vector<RealInstalledApp> goneApps_;
+    std::vector<GhostApp> goneGhosts_;
     bool isLoading_ = false;
     bool isScanningGhosts_ = false;
     bool hasScannedGhosts_ = false;

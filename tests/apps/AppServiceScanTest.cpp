@@ -227,6 +227,16 @@ TEST_F(AppServiceScanTest, endsSoonAndDeliversNothingWhenItsServiceHasGone)
     EXPECT_EQ(files::readAll(probed, 100).count('\n'), 2);
 }
 
+TEST_F(AppServiceScanTest, listsAgainWhatIsThereThoughItWasTakenOut)
+{
+    const QString path = services.bundle(u"One.app"_s);
+    services.scan();
+    services.apps->takeOut(std::vector<RealInstalledApp>(services.apps->apps()));
+    EXPECT_FALSE(services.at(path));
+    services.scan();
+    EXPECT_TRUE(services.at(path));
+}
+
 TEST_F(AppServiceScanTest, keepsTheResultOfTheLaterOfTwo)
 {
     services.bundle(u"One.app"_s);

@@ -167,6 +167,52 @@ TEST_F(BulkRemovalTest, itsQuestionGoesWithTheListThatItAsksAbout)
     EXPECT_TRUE(test.recycler.recycled.isEmpty());
 }
 
+TEST_F(BulkRemovalTest, itsQuestionGoesWithItsTab)
+{
+    view->toggleTick(0);
+    view->askToRemoveSelected();
+    ASSERT_TRUE(view->bulkQuestion()->isUp());
+    view->chooseTab(1);
+    EXPECT_FALSE(view->bulkQuestion()->isUp());
+    test.settle();
+    view->askToRemoveSelected();
+    ASSERT_TRUE(view->ghostQuestion()->isUp());
+    view->chooseTab(0);
+    EXPECT_FALSE(view->ghostQuestion()->isUp());
+    view->select(0);
+    view->askToUninstall();
+    ASSERT_TRUE(view->sheet()->isUp());
+    view->chooseTab(1);
+    EXPECT_FALSE(view->sheet()->isUp());
+}
+
+TEST_F(BulkRemovalTest, takesAppsOutOfAListThatAScanFromBeforeHasYetToDeliver)
+{
+    view->toggleTick(1);
+    view->askToRemoveSelected();
+    view->bulkQuestion()->confirm();
+    view->rescan(); // in the turn before the removal's
+    test.workQueue.run();
+    EXPECT_TRUE(isThere(at(u"Beta"_s)));
+    test.settle();
+    EXPECT_EQ(test.recycler.recycled, QStringList{at(u"Beta"_s)});
+    EXPECT_FALSE(view->isScanning());
+    EXPECT_EQ(installed(), QStringList({u"Alpha"_s, u"Gamma"_s}));
+}
+
+TEST_F(BulkRemovalTest, takesGhostsOutOfAListThatAScanFromBeforeHasYetToDeliver)
+{
+    appearWithGhosts();
+    view->toggleTick(0);
+    view->askToRemoveSelected();
+    view->ghostQuestion()->confirm();
+    view->rescan();
+    test.workQueue.run();
+    test.settle();
+    EXPECT_EQ(test.recycler.recycled, QStringList{home.inLibrary(u"Caches/org.departed.thing"_s)});
+    EXPECT_EQ(ghosts(), QStringList{u"org.vanished.tool"_s});
+}
+
 TEST_F(BulkRemovalTest, tellsWhichGhostsAreTicked)
 {
     appearWithGhosts();
