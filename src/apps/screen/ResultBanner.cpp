@@ -24,7 +24,7 @@ QString ResultBanner::detail() const
     if (!result_)
         return {};
     if (!result_->success)
-        return paths::display(result_->error.value_or(QStringLiteral("Unknown error")));
+        return paths::inOneLine(result_->error.value_or(QStringLiteral("Unknown error")));
     return QStringLiteral("%1 items moved to Trash · %2 freed")
         .arg(QString::number(result_->removedCount), sizeText(result_->freedSize));
 }

@@ -55,6 +55,9 @@ TEST_F(ResultBannerTest, tellsAFailure)
     banner.show(result);
     EXPECT_EQ(banner.title(), u"Failed: Line↵Feed");
     EXPECT_EQ(banner.detail(), u"Unknown error");
+    result.error = u"a\u202Eb\nc"_s; // a name in it is told by whoever made the application
+    banner.show(result);
+    EXPECT_EQ(banner.detail(), u"a\uFFFDb↵c");
     result.error = u"No."_s;
     result.retryableApp = RealInstalledApp();
     banner.show(result);
