@@ -206,7 +206,7 @@ QString AppManagerView::pane() const
 {
     if (isGhostTab())
         return ghostDetail_.ghost() ? QStringLiteral("ghost") : QStringLiteral("empty");
-    if (hasSelection())
+    if (hasSelection() && !(isAppChosen_ && appDetail_.app()))
         return QStringLiteral("bulk");
     return appDetail_.app() ? QStringLiteral("app") : QStringLiteral("empty");
 }
@@ -293,8 +293,10 @@ const GhostApp *AppManagerView::ghostAt(int row) const
 
 void AppManagerView::select(int row)
 {
-    if (const RealInstalledApp *app = appAt(row))
+    if (const RealInstalledApp *app = appAt(row)) {
+        isAppChosen_ = true;
         showApp(*app);
+    }
     if (const GhostApp *ghost = ghostAt(row))
         showGhost(*ghost);
 }
@@ -303,8 +305,10 @@ void AppManagerView::toggleTick(int row)
 {
     if (!canChoose())
         return;
-    if (const RealInstalledApp *app = appAt(row))
+    if (const RealInstalledApp *app = appAt(row)) {
+        isAppChosen_ = false;
         service_.toggleApp(app->id);
+    }
     if (const GhostApp *ghost = ghostAt(row))
         service_.toggleGhost(ghost->id);
 }

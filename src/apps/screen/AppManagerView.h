@@ -104,7 +104,8 @@ public:
     } ///< ticks may change, and something may be removed
     bool canUninstall() const { return appDetail_.app() && canChoose(); }
     bool canRemoveFiles() const { return ghostDetail_.hasTicked() && canChoose(); }
-    QString pane() const; ///< "app", "ghost", "bulk" while applications are ticked, else "empty"
+    /// "ghost"; "bulk" while applications are ticked, unless one was chosen later; "app"; "empty".
+    QString pane() const;
 
     void appear() override;
 
@@ -157,6 +158,7 @@ private:
     SizeProbes &probes_;
     FileSystemService &fileSystem_;
     Tab activeTab_ = Tab::installed;
+    bool isAppChosen_ = false;                      // later than any tick
     bool willScan_ = false;                         // as soon as the screen has been seen
     selectiontexts::SelectedApps pendingUninstall_; // what the questions speak of
     ghostlist::Pending pendingGhostRemove_;

@@ -49,6 +49,23 @@ TEST_F(AppPanesTest, showAnApp)
     EXPECT_EQ(test.workspace.calls, QStringList{u"reveal "_s + at(u"Alpha"_s)});
 }
 
+TEST_F(AppPanesTest, showWhatWasLastAskedFor)
+{
+    view->select(0);
+    view->toggleTick(1);
+    EXPECT_EQ(view->pane(), u"bulk");
+    const QSignalSpy changes(view.get(), &AppManagerView::paneChanged);
+    view->select(2);
+    EXPECT_GE(changes.count(), 1);
+    EXPECT_EQ(view->pane(), u"app");
+    EXPECT_EQ(view->appDetail()->name(), u"Gamma");
+    EXPECT_EQ(view->selectionText(), u"1 apps selected");
+    view->toggleTick(0);
+    EXPECT_EQ(view->pane(), u"bulk");
+    view->clearSelection();
+    EXPECT_EQ(view->pane(), u"app");
+}
+
 TEST_F(AppPanesTest, breakTheSizeDown)
 {
     view->select(0);
