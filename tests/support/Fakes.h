@@ -48,6 +48,8 @@ public:
     std::optional<QString> chosenFolder;   ///< what the user will choose; none cancels
     SaveRequest saveRequest;               ///< the last one
     std::optional<QString> chosenSavePath; ///< what the user will choose; none cancels
+    bool leavesSavePanelUp = false;
+    PathChosen savePanel; ///< takes the answer to the one that was left up
 
     void open(const QString &path) override { calls << QStringLiteral("open ") + path; }
     void openAddress(const QByteArray &text) override { address = text; }
@@ -65,7 +67,10 @@ public:
     void chooseSavePath(const SaveRequest &request, PathChosen chosen) override
     {
         saveRequest = request;
-        chosen(chosenSavePath);
+        if (leavesSavePanelUp)
+            savePanel = std::move(chosen);
+        else
+            chosen(chosenSavePath);
     }
 };
 

@@ -136,6 +136,7 @@ TEST_F(AssociatedFilesTest, areNotThereWhereALinkLeadsNowhere)
 TEST_F(AssociatedFilesTest, lieDirectlyInsideTheirFolderWhateverTheApplicationCallsItself)
 {
     services.file(u"Caches/data"_s);
+    services.file(u"Caches/com.example.notes/data"_s);
     services.file(u"Application Support/data"_s);
     services.file(u"Application Support/a/b/data"_s);
     services.file(u"Application Support/Other/data"_s);
@@ -162,6 +163,7 @@ TEST_F(AssociatedFilesTest, lieDirectlyInsideTheirFolderWhateverTheApplicationCa
         EXPECT_EQ(scanned(name, name).name, name);
         EXPECT_EQ(scanned(name, name).bundleID, name);
         // The sound one of the two finds its file all the same.
+        EXPECT_EQ(told(scanned(name, id)), QStringList(u"Cache Caches/com.example.notes"_s));
         EXPECT_EQ(told(scanned(u"Other"_s, name)), QStringList(u"Support Application Support/Other"_s));
     }
 }

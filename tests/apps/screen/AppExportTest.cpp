@@ -45,8 +45,36 @@ TEST_F(AppExportTest, savesTheGhosts)
     view->exportList();
     EXPECT_EQ(test.workspace.saveRequest.message, u"Export Ghost Files");
     EXPECT_EQ(test.workspace.saveRequest.suggestedName, u"ghost_files.csv");
+    EXPECT_EQ(test.workspace.saveRequest.fileType, Workspace::FileType::commaSeparatedText);
     EXPECT_EQ(written(), appcsv::ofGhosts(service->ghosts()));
     EXPECT_EQ(written().count('\n'), 4);
+    EXPECT_EQ(test.workspace.calls, QStringList{u"reveal "_s + file});
+}
+
+TEST_F(AppExportTest, writesEveryGhostWhateverTheSearchAndTheTicks)
+{
+    view->chooseTab(1);
+    test.settle();
+    view->exportList();
+    const QByteArray all = written();
+    view->toggleTick(0);
+    view->select(1);
+    view->toggleFile(0);
+    view->lists()->setSearchText(u"departed"_s);
+    EXPECT_EQ(ghosts(), QStringList{u"org.departed.thing"_s});
+    view->exportList();
+    EXPECT_EQ(written(), all);
+}
+
+TEST_F(AppExportTest, savesAlsoWhereTheScreenIsLeftWhileThePanelIsUp)
+{
+    test.workspace.leavesSavePanelUp = true;
+    view->exportList();
+    close();
+    EXPECT_FALSE(isThere(file));
+    test.workspace.savePanel(file);
+    EXPECT_EQ(written(), appcsv::ofInstalled(service->apps(), test.clock.now()));
+    EXPECT_EQ(test.workspace.calls, QStringList{u"reveal "_s + file});
 }
 
 TEST_F(AppExportTest, writesEveryAppWhateverTheSearchAndTheOrder)

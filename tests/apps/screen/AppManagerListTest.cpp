@@ -1,5 +1,7 @@
 #include "apps/screen/AppManagerHome.h"
 #include "common/NotificationNames.h"
+#include "support/ObservedDu.h"
+#include "support/RunningProbe.h"
 
 #include <QSignalSpy>
 
@@ -87,7 +89,9 @@ TEST_F(AppManagerListTest, findsGhostsByNameAndIdentifier)
 
 TEST_F(AppManagerListTest, sortsAsTheReaderChooses)
 {
+    bundle(u"Aaa"_s, u"net.fourth.aaa"_s); // the smallest
     appear();
+    EXPECT_EQ(installed(), QStringList({u"Alpha"_s, u"Beta"_s, u"Gamma"_s, u"Aaa"_s}));
     EXPECT_EQ(view->lists()->sortLabels(), QStringList({u"Name"_s, u"Size"_s, u"Last Used"_s}));
     EXPECT_EQ(view->lists()->sortBy(), 1);
     const QSignalSpy others(view->lists(), &AppLists::rowsWillChange);
@@ -95,7 +99,38 @@ TEST_F(AppManagerListTest, sortsAsTheReaderChooses)
     view->lists()->chooseSort(0);
     view->lists()->chooseSort(3);
     EXPECT_EQ(others.count(), 1);
-    EXPECT_EQ(installed(), QStringList({u"Alpha"_s, u"Beta"_s, u"Gamma"_s}));
+    EXPECT_EQ(installed(), QStringList({u"Aaa"_s, u"Alpha"_s, u"Beta"_s, u"Gamma"_s}));
+}
+
+TEST_F(AppManagerListTest, takesARowAsItIsShown)
+{
+    bundle(u"Aaa"_s, u"net.fourth.aaa"_s);
+    appear();
+    view->lists()->chooseSort(0);
+    view->select(0);
+    EXPECT_EQ(view->appDetail()->name(), u"Aaa");
+    view->lists()->setSearchText(u"gam"_s);
+    view->toggleTick(0);
+    EXPECT_TRUE(service->apps()[2].selected);
+    EXPECT_EQ(view->selectionText(), u"1 apps selected");
+    view->lists()->setSearchText(u"beta"_s); // hides the ticked one, which counts all the same
+    EXPECT_EQ(installed(), QStringList{u"Beta"_s});
+    EXPECT_EQ(view->selectionText(), u"1 apps selected");
+    view->openApp(0);
+    EXPECT_EQ(test.workspace.calls, QStringList{u"open "_s + at(u"Beta"_s)});
+    view->clearSelection();
+    EXPECT_FALSE(service->apps()[2].selected);
+}
+
+TEST_F(AppManagerListTest, takesARowOfTheGhostsAsItIsShown)
+{
+    appearWithGhosts();
+    view->lists()->setSearchText(u"departed"_s);
+    view->toggleTick(0);
+    EXPECT_TRUE(service->ghosts()[0].selected);
+    EXPECT_FALSE(service->ghosts()[1].selected);
+    view->select(0);
+    EXPECT_EQ(view->ghostDetail()->bundleID(), u"org.departed.thing");
 }
 
 TEST_F(AppManagerListTest, emptiesTheSearchOnAChangeOfTab)
@@ -173,6 +208,18 @@ TEST_F(AppManagerListTest, opensOnTheGhostsTabForOnce)
     EXPECT_FALSE(view->isGhostTab());
 }
 
+TEST_F(AppManagerListTest, scansForApplicationsAlsoWhereItOpensOnTheGhostsTab)
+{
+    service->setOpenOnGhostsTab(true);
+    make();
+    view->appear();
+    EXPECT_TRUE(service->isLoading());
+    EXPECT_FALSE(service->isScanningGhosts()) << "whoever asked for the tab has seen to that";
+    test.settle();
+    EXPECT_EQ(service->apps().size(), 3U);
+    EXPECT_FALSE(service->hasScannedGhosts());
+}
+
 TEST_F(AppManagerListTest, rescansTheListOnView)
 {
     appear();
@@ -210,6 +257,20 @@ TEST_F(AppManagerListTest, stopsTheScanOnView)
     view->chooseTab(1);
     view->stop();
     EXPECT_TRUE(service->cancelGhosts());
+}
+
+TEST_F(AppManagerListTest, endsEveryLiveProbeWhenItStops)
+{
+    const ObservedDu du(test, ObservedDu::hang);
+    view->appear();
+    const RunningProbe storage(test.probes, u"/storage"_s, ProbeContext::storage);
+    const RunningProbe generic(test.probes, u"/generic"_s, ProbeContext::generic);
+    du.awaitBegin();
+    du.awaitBegin();
+    view->stop();
+    const auto live = test.probes.liveSizeProbes();
+    test.probes.cancelProbes(); // or a failure would hang
+    EXPECT_TRUE(live.empty());
 }
 
 TEST_F(AppManagerListTest, doesNotStopWhatDoesNotRun)
