@@ -97,6 +97,17 @@ AppsCase {
         verify(!foot());
     }
 
+    function test_detailsShowThoughOthersAreTicked() {
+        tick("Alpha");
+        choose("Beta");
+        find("Uninstall Beta", screen());
+        compare(footText(), "1 apps selected");
+        tick("Gamma");
+        verify(!Program.named("uninstallButton"));
+        click("Clear selection", foot());
+        find("Uninstall Beta", screen());
+    }
+
     function test_selectionIsCleared() {
         tick("Alpha");
         click("Clear selection", foot());
