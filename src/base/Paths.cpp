@@ -3,6 +3,8 @@
 #include <QStringDecoder>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace {
 
 constexpr char16_t escapeBase = 0xDC00; // plus the byte, 0x80 to 0xFF
@@ -162,12 +164,12 @@ bool isEntryName(QStringView name)
 QString join(const QString &folder, const QString &name)
 {
     const bool needsSlash = !folder.endsWith(u'/');
-    QString path;
-    path.reserve(folder.size() + (needsSlash ? 1 : 0) + name.size()); // walks join a path for each entry
-    path += folder;
+    // Walks join a path for each entry.
+    QString path(folder.size() + (needsSlash ? 1 : 0) + name.size(), Qt::Uninitialized);
+    QChar *end = std::copy(folder.begin(), folder.end(), path.data());
     if (needsSlash)
-        path += u'/';
-    path += name;
+        *end++ = u'/';
+    std::copy(name.begin(), name.end(), end);
     return path;
 }
 

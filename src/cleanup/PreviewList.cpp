@@ -58,6 +58,7 @@ std::vector<PreviewFile> load(const CleanupCategory &category, Date now)
     if (category.id == cleanupids::oldDownloads)
         cutoff = now - std::chrono::days(30);
     std::vector<PreviewFile> list;
+    list.reserve(previewlist::mostFiles); // growing costs a twentieth of the walk
     for (const QString &place : category.paths)
         addFiles(place, cutoff, list);
     std::stable_sort(list.begin(), list.end(),
