@@ -13,7 +13,7 @@
 namespace {
 
 constexpr double mostPasses = 10;
-constexpr int installedApps = 500;
+constexpr int installedCount = 500;
 constexpr int entryCount = 10000;
 
 /// A word of these letters: words of different ones have no part in common.
@@ -48,7 +48,7 @@ Library makeLibrary()
     const QString there = QStringLiteral("aeioubcdfghk");
     const QString gone = QStringLiteral("yvwlmnprstzj");
     Library made;
-    for (int i = 0; i < installedApps; ++i) {
+    for (int i = 0; i < installedCount; ++i) {
         const QString product = word(random, there, 5, 9);
         made.names << product + u' ' + word(random, there, 4, 8);
         made.identifiers << QStringLiteral("com.%1.%2").arg(word(random, there, 6, 12), product);

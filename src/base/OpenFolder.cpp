@@ -13,10 +13,10 @@
 namespace files {
 namespace {
 
-constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int openFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 /// Empty, which names nothing, for what is no name of an entry.
-QByteArray entryName(const QString &name)
+QByteArray nameInside(const QString &name)
 {
     if (name == u"." || name == u".." || name.contains(u'/'))
         return {};
@@ -36,13 +36,13 @@ QByteArray withoutSlashes(const QString &path)
 
 OpenFolder::OpenFolder(const QString &path)
     : path_(path)
-    , folder_(open(withoutSlashes(path).constData(), folderFlags))
+    , folder_(open(withoutSlashes(path).constData(), openFlags))
 {
 }
 
 OpenFolder::OpenFolder(const Descriptor &parent, const QString &name, const QString &path)
     : path_(path)
-    , folder_(openat(parent.number(), entryName(name).constData(), folderFlags))
+    , folder_(openat(parent.number(), nameInside(name).constData(), openFlags))
 {
 }
 
@@ -54,7 +54,7 @@ OpenFolder OpenFolder::inner(const QString &name) const
 std::optional<OpenFolder::Entry> OpenFolder::find(const QString &name) const
 {
     struct stat status = {};
-    if (fstatat(number(), entryName(name).constData(), &status, AT_SYMLINK_NOFOLLOW) == -1)
+    if (fstatat(number(), nameInside(name).constData(), &status, AT_SYMLINK_NOFOLLOW) == -1)
         return std::nullopt;
     return Entry{{static_cast<quint64>(status.st_dev), static_cast<quint64>(status.st_ino)},
                  systemcalls::modificationDate(status)};
@@ -62,7 +62,7 @@ std::optional<OpenFolder::Entry> OpenFolder::find(const QString &name) const
 
 bool OpenFolder::isGone(const QString &name) const
 {
-    const QByteArray bytes = entryName(name);
+    const QByteArray bytes = nameInside(name);
     struct stat status = {};
     return !bytes.isEmpty() && fstatat(number(), bytes.constData(), &status, AT_SYMLINK_NOFOLLOW) == -1
            && errno == ENOENT;
@@ -70,7 +70,7 @@ bool OpenFolder::isGone(const QString &name) const
 
 void OpenFolder::remove(const QString &name) const
 {
-    if (unlinkat(number(), entryName(name).constData(), 0) == -1)
+    if (unlinkat(number(), nameInside(name).constData(), 0) == -1)
         throw errors::fromErrno(errno);
 }
 

@@ -46,7 +46,7 @@ QMap<QString, QString> texts(const QByteArray &content, const QStringList &keys)
     if (!top || plist_get_node_type(top.get()) != PLIST_DICT)
         return found;
     for (const QString &key : keys) {
-        const plist_t value = plist_dict_get_item(top.get(), key.toUtf8().constData());
+        plist_t value = plist_dict_get_item(top.get(), key.toUtf8().constData());
         if (value && plist_get_node_type(value) == PLIST_STRING)
             found.insert(key, QString::fromUtf8(plist_get_string_ptr(value, nullptr)));
     }

@@ -13,7 +13,7 @@ namespace {
 
 struct Attempt
 {
-    buscheck::Peer peer;
+    buscheck::Peer peer = {};
     GCancellable *cancellable = nullptr;
     std::optional<buscheck::Outcome> outcome;
 };

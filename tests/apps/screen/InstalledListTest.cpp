@@ -20,7 +20,7 @@ RealInstalledApp app(const QString &name, qint64 size = 0, std::optional<Date> l
     return made;
 }
 
-Date day(int number)
+Date onDay(int number)
 {
     return Date(std::chrono::hours(24 * number));
 }
@@ -51,14 +51,14 @@ TEST(InstalledList, sortsByTheSizeOfTheBundleAlone)
 
 TEST(InstalledList, putsAppsWithoutADateLast)
 {
-    EXPECT_EQ(names({app(u"never"_s), app(u"early"_s, 0, day(-3)), app(u"late"_s, 0, day(9))},
+    EXPECT_EQ(names({app(u"never"_s), app(u"early"_s, 0, onDay(-3)), app(u"late"_s, 0, onDay(9))},
                     SortOption::lastUsed),
               QStringList({u"late"_s, u"early"_s, u"never"_s}));
 }
 
 TEST(InstalledList, leavesEqualOnesInTheirOrder)
 {
-    const std::vector<RealInstalledApp> apps = {app(u"b"_s, 5, day(1)), app(u"a"_s, 5, day(1)),
+    const std::vector<RealInstalledApp> apps = {app(u"b"_s, 5, onDay(1)), app(u"a"_s, 5, onDay(1)),
                                                 app(u"c"_s, 7), app(u"b"_s, 7)};
     EXPECT_EQ(names(apps, SortOption::size), QStringList({u"c"_s, u"b"_s, u"b"_s, u"a"_s}));
     EXPECT_EQ(names(apps, SortOption::lastUsed), QStringList({u"b"_s, u"a"_s, u"c"_s, u"b"_s}));
