@@ -15,7 +15,7 @@ namespace {
 
 const toolhelpers::Registration<AppsUnderTest> appsHelper;
 
-const QStringList places = {QStringLiteral("Applications"), QStringLiteral("home/Library")};
+const QStringList watchedPlaces = {QStringLiteral("Applications"), QStringLiteral("home/Library")};
 
 QByteArray picture()
 {
@@ -57,7 +57,7 @@ void AppsUnderTest::file(const QString &relative, int kilobytes) const
 
 void AppsUnderTest::fill() const
 {
-    for (const QString &place : places) {
+    for (const QString &place : watchedPlaces) {
         if (files::attributes(temp_.at(place)))
             files::removeTree(temp_.at(place));
         temp_.folder(place);

@@ -189,14 +189,14 @@ std::vector<QQuickItem *> inksOf(const std::vector<QQuickItem *> &roots)
 bool isCovered(const QQuickItem *text, const std::vector<QQuickItem *> &layers)
 {
     const QRectF place = text->mapRectToScene(QRectF(0, 0, text->width(), text->height()));
-    for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
-        if ((*layer)->isAncestorOf(text))
-            return false;
-        const QRectF whole(0, 0, (*layer)->width(), (*layer)->height());
-        if (isPopup(*layer) && place.intersects((*layer)->mapRectToScene(whole)))
-            return true;
-    }
-    return false;
+    const auto covers = [&place](const QQuickItem *layer) {
+        const QRectF whole(0, 0, layer->width(), layer->height());
+        return isPopup(layer) && place.intersects(layer->mapRectToScene(whole));
+    };
+    const auto nearest = std::find_if(layers.rbegin(), layers.rend(), [&](const QQuickItem *layer) {
+        return layer->isAncestorOf(text) || covers(layer);
+    });
+    return nearest != layers.rend() && !(*nearest)->isAncestorOf(text);
 }
 
 QString report(const QQuickItem *item, double ratio, const QColor &ink, QRgb ground)

@@ -86,7 +86,7 @@ public:
         using std::chrono::days;
         const auto about =
             static_cast<int>((std::chrono::floor<days>(now_) - std::chrono::floor<days>(*date)).count());
-        if (const QString text = elapsedDaysText(about - 3); about > 9 && text == elapsedDaysText(about + 3))
+        if (QString text = elapsedDaysText(about - 3); about > 9 && text == elapsedDaysText(about + 3))
             return text;
         const auto known = std::find_if(spans_.begin(), spans_.end(), [&date](const Span &span) {
             return span.from <= *date && *date <= span.to;
@@ -105,7 +105,7 @@ private:
     /// All days between two with the same text have it too.
     QString learn(Date date)
     {
-        const QString text = relativeDayText(date, now_);
+        QString text = relativeDayText(date, now_);
         const auto known = std::find_if(spans_.begin(), spans_.end(),
                                         [&text](const Span &span) { return span.text == text; });
         if (known == spans_.end()) {
