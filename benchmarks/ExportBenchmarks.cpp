@@ -50,6 +50,7 @@ std::vector<RealInstalledApp> installedApps(Date now)
 std::vector<Line> linesOf(const std::vector<RealInstalledApp> &apps, Date now)
 {
     std::vector<Line> lines;
+    lines.reserve(apps.size());
     for (const RealInstalledApp &app : apps)
         lines.push_back({{app.name.toStdString(), app.version.toStdString(), app.bundleID.toStdString()},
                          {app.size, app.cacheSize, app.supportSize, app.preferencesSize, app.containerSize,
