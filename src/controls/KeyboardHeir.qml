@@ -15,7 +15,8 @@ Item {
     readonly property Item start: commands.startButton
     readonly property Item rows: list
     readonly property Item holder: Window.activeFocusItem
-    readonly property bool isOrphaned: holder === screen || (holder !== null && !holder.visible && isWithin(holder))
+    readonly property bool isNobodys: holder === Window.contentItem // as where a dialog has gone, with Qt 6.8
+    readonly property bool isOrphaned: holder === screen || isNobodys || (holder !== null && !holder.visible && isWithin(holder))
     readonly property bool hasRows: canTake(rows) && list.count > 0
     readonly property Item heir: !isOrphaned || isWaiting ? null
                                : hasBegun && canTake(start) ? start
@@ -39,9 +40,10 @@ Item {
             hasBegun = item === start;
     }
 
-    // Who uses the pointer looks elsewhere: Space, which is meant for something else, must not stop the scan.
+    // Who uses the pointer looks elsewhere: Space, which is meant for something else, must not stop the scan. And nobody has the
+    // keyboard at first, until a key asks for it.
     function passOn() {
-        if (heir === null || (heir === stop && !InputWatch.wasKeyLast()))
+        if (heir === null || ((heir === stop || isNobodys) && !InputWatch.wasKeyLast()))
             return;
         heir.forceActiveFocus(InputWatch.wasKeyLast() ? Qt.TabFocusReason : Qt.OtherFocusReason);
     }
