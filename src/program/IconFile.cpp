@@ -64,7 +64,7 @@ QImage iconfile::picture(const QByteArray &content, QSize wanted)
     QByteArray bytes = QByteArray::fromRawData(png.data(), png.size());
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, QByteArrayLiteral("png"));
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (std::max(image.width(), image.height()) <= side)
         return image;
     return image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);

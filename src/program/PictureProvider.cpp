@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 mostBytes = 8 * 1024 * 1024; // several times what a set of all sizes takes
+constexpr qint64 mostBytes = qint64{8} * 1024 * 1024; // several times what a set of all sizes takes
 constexpr QSize usualSize(64, 64);
 
 QByteArray contentOf(const QString &path)
