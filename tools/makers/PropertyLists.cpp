@@ -67,7 +67,7 @@ quint32 append(std::vector<QByteArray> &objects, const QJsonValue &value)
         objects[place] = numberObject(value.toDouble());
     } else if (value.isArray()) {
         std::vector<quint32> items;
-        for (const QJsonValue &item : value.toArray())
+        for (const QJsonValue item : value.toArray())
             items.push_back(append(objects, item));
         objects[place] = propertylists::binaryArray(items);
     } else if (value.isObject()) {
@@ -95,7 +95,7 @@ QByteArray element(const QJsonValue &value)
         return value.toBool() ? "<true/>\n" : "<false/>\n";
     QByteArray inner;
     if (value.isArray()) {
-        for (const QJsonValue &item : value.toArray())
+        for (const QJsonValue item : value.toArray())
             inner += element(item);
         return "<array>\n" + inner + "</array>\n";
     }

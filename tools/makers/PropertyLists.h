@@ -14,7 +14,7 @@ QByteArray binary(const QJsonValue &value);
 
 /// For lists that no writer makes. One object of the binary form each, as its bytes.
 QByteArray binaryText(const QByteArray &ascii);
-QByteArray binaryArray(const std::vector<quint32> &references);
+QByteArray binaryArray(const std::vector<quint32> &items);
 /// The references of the keys, then those of the values.
 QByteArray binaryDictionary(const std::vector<quint32> &keys, const std::vector<quint32> &values);
 

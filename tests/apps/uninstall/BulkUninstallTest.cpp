@@ -47,7 +47,7 @@ struct BulkUninstallTest : public testing::Test
 
     static UninstallReport refused(int filesRemoved)
     {
-        return {{}, false, Error{u"Platform"_s, 1, u"No."_s}, filesRemoved, 0, 5 * filesRemoved};
+        return {{}, false, Error{u"Platform"_s, 1, u"No."_s}, filesRemoved, 0, qint64{5} * filesRemoved};
     }
 };
 
